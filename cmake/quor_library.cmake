@@ -1,0 +1,25 @@
+# One library a folder: quor_library(document/format LINKS base platform) makes document_format of all sources in
+# src/document/format. A library sees the folders that it names, and what those name.
+
+add_library(quor_options INTERFACE)
+target_include_directories(quor_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(quor_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(QUOR_SANITIZE)
+  target_compile_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE} -fno-omit-frame-pointer
+                                                -fno-sanitize-recover=all)
+  target_link_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE})
+endif()
+
+function(quor_library folder)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  string(REPLACE "/" "_" name ${folder})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC quor_options)
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE quor_options ${ARG_LINKS})
+  endif()
+endfunction()

@@ -1,0 +1,15 @@
+#include "base/guard.h"
+
+namespace quor {
+
+void ReportCurrentFailure(Reporter& reporter, RefNumber ref, std::string_view message) noexcept
+{
+    IgnoreFailure([&] {
+        const Failure failure = CurrentFailure();
+        std::string source = failure.Source().empty() ? std::string(ref.owner) : failure.Source();
+        reporter.ShowError(
+            {std::string(message), failure.Number(), std::move(source), failure.Description(), ref.number});
+    });
+}
+
+} // namespace quor

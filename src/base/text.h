@@ -1,0 +1,43 @@
+#pragma once
+// Text: UTF-8 in the program, windows-1252 in files.
+//
+// Bytes that windows-1252 leaves undefined are the control characters of the same value, so all 256 map one to one.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+// The characters of a byte text as UTF-8.
+std::string FromAnsi(std::span<const std::uint8_t> bytes);
+
+// How many bytes ToAnsi gives.
+std::size_t AnsiLength(std::string_view text) noexcept;
+
+// Appends the text's bytes; a character outside the code page, or a byte that is no UTF-8, becomes '?'.
+void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text);
+
+// Equal regardless of the case of the letters of windows-1252.
+bool SameText(std::string_view left, std::string_view right) noexcept;
+
+// Equal for texts that are SameText.
+std::size_t FoldedHash(std::string_view text) noexcept;
+
+// How many characters.
+std::size_t CharacterCount(std::string_view text) noexcept;
+
+// Exactly `width` characters: cut at the right or filled with blanks.
+std::string FitField(std::string_view text, std::size_t width);
+
+// Without blanks on both ends.
+std::string_view TrimBlanks(std::string_view text) noexcept;
+
+// The shortest decimal text that reads back as the number, never with an exponent: "12", "-0.5".
+std::string Decimal(double number);
+std::string Decimal(float number);
+
+} // namespace quor

@@ -1,0 +1,28 @@
+#pragma once
+// The form runtime: puts forms on the screen and runs the event loop.
+
+#include <memory>
+
+namespace quor {
+
+class Form;
+
+class Forms {
+public:
+    virtual ~Forms() = default;
+
+    // Shows the form without blocking; it stays its caller's. Again: nothing.
+    virtual void Show(Form& form) = 0;
+
+    // Shows the form above all others and blocks the user's way to them until it unloads itself. Callers do nothing
+    // behind this call that relies on the form being gone.
+    virtual void ShowModal(std::unique_ptr<Form> form) = 0;
+
+    // Takes a shown form off the screen; else nothing.
+    virtual void Hide(Form& form) = 0;
+
+    // Lets timers, server events and repaints run once; the user's input waits.
+    virtual void RunEvents() = 0;
+};
+
+} // namespace quor

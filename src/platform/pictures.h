@@ -1,0 +1,27 @@
+#pragma once
+// Picture files, loaded.
+
+#include <memory>
+#include <string>
+
+namespace quor {
+
+// A loaded picture; only the port that made it knows what is inside.
+class Picture {
+public:
+    virtual ~Picture() = default;
+    virtual int PixelWidth() const = 0;
+    virtual int PixelHeight() const = 0;
+};
+
+using PictureRef = std::shared_ptr<const Picture>;
+
+class Pictures {
+public:
+    virtual ~Pictures() = default;
+
+    // Failures: 53 file not found, 76 path not found, 481 invalid picture.
+    virtual PictureRef LoadPicture(const std::string& path) = 0;
+};
+
+} // namespace quor

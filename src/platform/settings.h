@@ -1,0 +1,24 @@
+#pragma once
+// The user's settings, kept between runs.
+
+#include <cstdint>
+#include <string>
+
+namespace quor {
+
+class ApplicationSettings {
+public:
+    virtual ~ApplicationSettings() = default;
+
+    virtual std::int32_t GridSize() = 0; // pixels
+    virtual void SetGridSize(std::int32_t pixels) = 0;
+    virtual bool ShowGrid() = 0;
+    virtual void SetShowGrid(bool show) = 0;
+    virtual bool SnapToGrid() = 0;
+    virtual void SetSnapToGrid(bool snap) = 0;
+    virtual std::string ViewsDirectory() = 0;
+    virtual std::string ToolbarDirectory() = 0;
+    virtual std::string HelpFile() = 0;
+};
+
+} // namespace quor
