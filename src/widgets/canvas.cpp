@@ -1,0 +1,226 @@
+#include "widgets/canvas.h"
+
+#include "base/guard.h"
+#include "widgets/widget_array.h"
+
+#include <algorithm>
+
+namespace quor {
+
+namespace {
+// Far beyond any canvas: stands for all of it.
+constexpr Area everywhere{-1e9F, -1e9F, 2e9F, 2e9F};
+} // namespace
+
+Area United(const Area& one, const Area& other) noexcept
+{
+    const float left = std::min(one.left, other.left);
+    const float top = std::min(one.top, other.top);
+    return {left, top, std::max(one.left + one.width, other.left + other.width) - left,
+            std::max(one.top + one.height, other.top + other.height) - top};
+}
+
+bool Contains(const Area& area, float x, float y) noexcept
+{
+    return x >= area.left && y >= area.top && x < area.left + area.width && y < area.top + area.height;
+}
+
+bool Overlap(const Area& one, const Area& other) noexcept
+{
+    return one.left < other.left + other.width && other.left < one.left + one.width &&
+           one.top < other.top + other.height && other.top < one.top + one.height;
+}
+
+Canvas::Canvas() = default;
+
+Canvas::~Canvas()
+{
+    m_holds = 1; // nobody is to hear of the end
+    m_arrays.clear();
+}
+
+WidgetArray& Canvas::AddArray(std::string name, std::unique_ptr<Widget> pattern)
+{
+    m_arrays.push_back(std::make_unique<WidgetArray>(*this, std::move(name), std::move(pattern)));
+    return *m_arrays.back();
+}
+
+WidgetArray* Canvas::FindArray(std::string_view name) const noexcept
+{
+    const auto found =
+        std::find_if(m_arrays.begin(), m_arrays.end(), [&](const auto& array) { return array->Name() == name; });
+    return found == m_arrays.end() ? nullptr : found->get();
+}
+
+void Canvas::SetScrollMaxima(std::int32_t x, std::int32_t y)
+{
+    m_scrollMaxX = std::max(x, 0);
+    m_scrollMaxY = std::max(y, 0);
+    ScrollTo(m_scrollX, m_scrollY);
+    Scrolled.Raise();
+}
+
+void Canvas::ScrollTo(std::int32_t x, std::int32_t y)
+{
+    x = std::clamp(x, 0, m_scrollMaxX);
+    y = std::clamp(y, 0, m_scrollMaxY);
+    if (x == m_scrollX && y == m_scrollY) {
+        return;
+    }
+    const CanvasHold hold(*this);
+    ShiftBy(static_cast<float>(m_scrollX - x), static_cast<float>(m_scrollY - y));
+    m_scrollX = x;
+    m_scrollY = y;
+    InvalidateAll();
+    Scrolled.Raise();
+}
+
+void Canvas::ShiftBy(float x, float y)
+{
+    for (Widget* widget = m_back; widget != nullptr; widget = widget->m_above) {
+        PropertyAccess::Value(widget->Left) += x;
+        PropertyAccess::Value(widget->Top) += y;
+    }
+    for (GrabHandle& handle : m_handles) {
+        handle.left += x;
+        handle.top += y;
+    }
+    m_frame.area.left += x;
+    m_frame.area.top += y;
+    m_background.left += x;
+    m_background.top += y;
+}
+
+void Canvas::SetBackColor(Color color)
+{
+    m_backColor = color;
+    InvalidateAll();
+}
+
+void Canvas::SetPicture(PictureRef picture, std::int32_t mode)
+{
+    m_picture = std::move(picture);
+    m_pictureMode = mode;
+    InvalidateAll();
+}
+
+void Canvas::SetBackground(PictureRef picture, bool visible)
+{
+    m_background.picture = std::move(picture);
+    m_background.visible = visible;
+    InvalidateAll();
+}
+
+void Canvas::PlaceBackground(float left, float top)
+{
+    m_background.left = left;
+    m_background.top = top;
+    InvalidateAll();
+}
+
+void Canvas::Attach(Widget& widget) noexcept
+{
+    widget.m_canvas = this;
+    Link(widget, nullptr);
+    IgnoreFailure([&] { widget.Invalidate(); });
+}
+
+void Canvas::Detach(Widget& widget) noexcept
+{
+    IgnoreFailure([&] { widget.Invalidate(); });
+    Unlink(widget);
+    widget.m_canvas = nullptr;
+}
+
+void Canvas::BringToFront(Widget& widget)
+{
+    Unlink(widget);
+    Link(widget, nullptr);
+    widget.Invalidate();
+}
+
+void Canvas::SendToBack(Widget& widget)
+{
+    Unlink(widget);
+    Link(widget, m_back);
+    widget.Invalidate();
+}
+
+// Puts the widget right behind `above`, or in front of all.
+void Canvas::Link(Widget& widget, Widget* above) noexcept
+{
+    widget.m_above = above;
+    widget.m_below = above == nullptr ? m_front : above->m_below;
+    (widget.m_below == nullptr ? m_back : widget.m_below->m_above) = &widget;
+    (above == nullptr ? m_front : above->m_below) = &widget;
+}
+
+void Canvas::Unlink(Widget& widget) noexcept
+{
+    (widget.m_below == nullptr ? m_back : widget.m_below->m_above) = widget.m_above;
+    (widget.m_above == nullptr ? m_front : widget.m_above->m_below) = widget.m_below;
+}
+
+Widget* Canvas::WidgetAt(float x, float y) const noexcept
+{
+    for (Widget* widget = m_front; widget != nullptr; widget = widget->m_below) {
+        if (widget->Visible() && Contains(widget->Bounds(), x, y)) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+void Canvas::SetHandle(std::size_t index, const GrabHandle& handle)
+{
+    GrabHandle& old = m_handles.at(index);
+    if (old == handle) {
+        return;
+    }
+    for (const GrabHandle& shown : {old, handle}) {
+        if (shown.visible) {
+            Invalidate({shown.left, shown.top, handleSize, handleSize});
+        }
+    }
+    old = handle;
+}
+
+void Canvas::SetFrame(const SizingFrame& frame)
+{
+    for (const SizingFrame& shown : {m_frame, frame}) {
+        if (shown.visible) {
+            Invalidate(shown.area);
+        }
+    }
+    m_frame = frame;
+}
+
+void Canvas::Invalidate(const Area& area)
+{
+    if (m_holds == 0) {
+        Changed.Raise(area);
+        return;
+    }
+    m_stale = m_isStale ? United(m_stale, area) : area;
+    m_isStale = true;
+}
+
+void Canvas::InvalidateAll()
+{
+    Invalidate(everywhere);
+}
+
+void Canvas::Release()
+{
+    if (--m_holds == 0 && m_isStale) {
+        m_isStale = false;
+        Changed.Raise(m_stale);
+    }
+}
+
+CanvasHold::~CanvasHold()
+{
+    IgnoreFailure([&] { m_canvas.Release(); });
+}
+
+} // namespace quor

@@ -1,0 +1,156 @@
+#pragma once
+// The scrolling canvas (ssScroll) with all that lies on it: background, widgets in their order, grab handles and the
+// frame in which a widget is sized.
+//
+// All places are in twips within the visible part. Scrolling moves what lies on the canvas. `Changed` says which part
+// must be painted again; while a hold is on, it waits and comes once.
+
+#include "base/event.h"
+#include "base/values.h"
+#include "platform/pictures.h"
+#include "widgets/widget.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+class WidgetArray;
+
+// How the canvas draws its picture.
+namespace picture_modes {
+inline constexpr std::int32_t centered = 0;
+inline constexpr std::int32_t stretched = 1;
+inline constexpr std::int32_t tiled = 2;
+inline constexpr std::int32_t topLeft = 3; // drawn by imgCVBackground
+} // namespace picture_modes
+
+// One of the eight squares around the selected widget (ssSizer).
+struct GrabHandle {
+    float left = 0;
+    float top = 0;
+    bool visible = false;
+    friend bool operator==(const GrabHandle&, const GrabHandle&) = default;
+};
+
+// The outline in which a widget is sized (ctlFrame).
+struct SizingFrame {
+    Area area;
+    bool visible = false;
+    bool sizable = false; // it has its sizing border
+};
+
+// The image in the top left corner of the view (imgCVBackground), always at the back.
+struct BackgroundImage {
+    PictureRef picture;
+    bool visible = false;
+    float left = 0; // minus what is scrolled
+    float top = 0;
+};
+
+class Canvas {
+public:
+    static constexpr float handleSize = 105; // twips
+    static constexpr std::size_t handleCount = 8;
+
+    Canvas();
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    Event<const Area&> Changed;
+    Event<> Scrolled; // position or maxima
+
+    // Arrays, found by name. The canvas owns them.
+    WidgetArray& AddArray(std::string name, std::unique_ptr<Widget> pattern);
+    WidgetArray* FindArray(std::string_view name) const noexcept;
+
+    // The scroll position, in twips, and how far it may go. A position out of range is brought into it.
+    std::int32_t ScrollOffsetX() const noexcept { return m_scrollX; }
+    std::int32_t ScrollOffsetY() const noexcept { return m_scrollY; }
+    std::int32_t ScrollMaxX() const noexcept { return m_scrollMaxX; }
+    std::int32_t ScrollMaxY() const noexcept { return m_scrollMaxY; }
+    void SetScrollMaxima(std::int32_t x, std::int32_t y);
+    void ScrollTo(std::int32_t x, std::int32_t y);
+
+    Color BackColor() const noexcept { return m_backColor; }
+    void SetBackColor(Color color);
+    const PictureRef& Picture() const noexcept { return m_picture; }
+    std::int32_t PictureMode() const noexcept { return m_pictureMode; }
+    void SetPicture(PictureRef picture, std::int32_t mode);
+    const BackgroundImage& Background() const noexcept { return m_background; }
+    void SetBackground(PictureRef picture, bool visible);
+    void PlaceBackground(float left, float top);
+
+    // Widgets from back to front.
+    Widget* Back() const noexcept { return m_back; }
+    Widget* Front() const noexcept { return m_front; }
+    void Attach(Widget& widget) noexcept; // in front
+    void Detach(Widget& widget) noexcept;
+    void BringToFront(Widget& widget);
+    void SendToBack(Widget& widget);
+    // The frontmost visible widget at that place, or null.
+    Widget* WidgetAt(float x, float y) const noexcept;
+
+    const std::array<GrabHandle, handleCount>& Handles() const noexcept { return m_handles; }
+    void SetHandle(std::size_t index, const GrabHandle& handle);
+
+    const SizingFrame& Frame() const noexcept { return m_frame; }
+    void SetFrame(const SizingFrame& frame);
+
+    // Says that the area must be painted again.
+    void Invalidate(const Area& area);
+    void InvalidateAll();
+
+    WidgetTrace* Tracer() const noexcept { return m_tracer; }
+    void SetTracer(WidgetTrace* tracer) noexcept { m_tracer = tracer; } // not owned; null for none
+
+private:
+    friend class CanvasHold;
+
+    void Release();
+    void Link(Widget& widget, Widget* above) noexcept;
+    void Unlink(Widget& widget) noexcept;
+    void ShiftBy(float x, float y);
+
+    std::vector<std::unique_ptr<WidgetArray>> m_arrays;
+    Widget* m_back = nullptr;
+    Widget* m_front = nullptr;
+    std::array<GrabHandle, handleCount> m_handles;
+    SizingFrame m_frame;
+    BackgroundImage m_background;
+    PictureRef m_picture;
+    std::int32_t m_pictureMode = picture_modes::centered;
+    Color m_backColor = colors::buttonFace;
+    std::int32_t m_scrollX = 0;
+    std::int32_t m_scrollY = 0;
+    std::int32_t m_scrollMaxX = 0;
+    std::int32_t m_scrollMaxY = 0;
+    WidgetTrace* m_tracer = nullptr;
+    int m_holds = 0;
+    bool m_isStale = false; // something changed during the hold
+    Area m_stale;
+};
+
+// Keeps `Changed` back while it lives; then it comes once for all.
+class CanvasHold {
+public:
+    explicit CanvasHold(Canvas& canvas) noexcept : m_canvas(canvas) { ++m_canvas.m_holds; }
+    ~CanvasHold();
+    CanvasHold(const CanvasHold&) = delete;
+    CanvasHold& operator=(const CanvasHold&) = delete;
+
+private:
+    Canvas& m_canvas;
+};
+
+// The smallest area around both.
+Area United(const Area& one, const Area& other) noexcept;
+bool Contains(const Area& area, float x, float y) noexcept;
+bool Overlap(const Area& one, const Area& other) noexcept;
+
+} // namespace quor

@@ -1,0 +1,23 @@
+#pragma once
+// Reads properties by name: for traces, journeys and assistive tools.
+
+#include "base/values.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quor {
+
+class PropertyVisitor {
+public:
+    virtual ~PropertyVisitor() = default;
+    virtual void Visit(std::string_view name, bool value) = 0;
+    virtual void Visit(std::string_view name, std::int32_t value) = 0;
+    virtual void Visit(std::string_view name, float value) = 0;
+    virtual void Visit(std::string_view name, Color value) = 0;
+    virtual void Visit(std::string_view name, const Font& value) = 0;
+    virtual void Visit(std::string_view name, const std::string& value) = 0;
+};
+
+} // namespace quor

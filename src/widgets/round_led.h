@@ -1,0 +1,31 @@
+#pragma once
+// A round lamp: lit in one colour, unlit in another that it can work out by itself.
+
+#include "widgets/widget.h"
+
+namespace quor {
+
+// How an edge looks; the numbers are those of the files.
+namespace bevels {
+inline constexpr std::int32_t none = 0;
+inline constexpr std::int32_t raised = 1;
+inline constexpr std::int32_t lowered = 2;
+} // namespace bevels
+
+class RoundLed final : public WidgetOf<RoundLed> {
+public:
+    Property<"Active", bool> Active;
+    Property<"ActiveColor", Color> ActiveColor{Color{0x0000FF00}};
+    Property<"InactiveColor", Color> InactiveColor{Color{0x00006600}};
+    Property<"AutoInactiveColor", bool> AutoInactiveColor{true}; // InactiveColor is ignored
+    Property<"ShowReflection", bool> ShowReflection{true};
+    Property<"BevelStyle", std::int32_t> BevelStyle{bevels::lowered};
+    Property<"Transparent", bool> Transparent{true};
+
+    void VisitProperties(PropertyVisitor& visitor) const override;
+};
+
+// The unlit colour that a lamp works out from its lit one: 40 % of each channel.
+Rgb UnlitColor(Rgb lit) noexcept;
+
+} // namespace quor

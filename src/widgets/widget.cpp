@@ -1,0 +1,60 @@
+#include "widgets/widget.h"
+
+#include "widgets/canvas.h"
+#include "widgets/widget_array.h"
+
+namespace quor {
+
+Widget::Widget(const Widget& other)
+    : Left(other.Left), Top(other.Top), Width(other.Width), Height(other.Height), Visible(other.Visible),
+      Enabled(other.Enabled), Tag(other.Tag)
+{
+}
+
+Widget::~Widget()
+{
+    if (m_canvas != nullptr) {
+        m_canvas->Detach(*this);
+    }
+}
+
+void Widget::Move(float left, float top, float width, float height)
+{
+    Set(&Widget::Left, left);
+    Set(&Widget::Top, top);
+    Set(&Widget::Width, width);
+    Set(&Widget::Height, height);
+}
+
+const std::string& Widget::Name() const noexcept
+{
+    static const std::string none;
+    return m_array == nullptr ? none : m_array->Name();
+}
+
+void Widget::VisitProperties(PropertyVisitor& visitor) const
+{
+    VisitEach(visitor, Left, Top, Width, Height, Visible, Enabled, Tag);
+}
+
+void Widget::Invalidate() const
+{
+    if (m_canvas != nullptr && Visible()) {
+        m_canvas->Invalidate(Bounds());
+    }
+}
+
+void Widget::Repaint()
+{
+    if (WidgetTrace* trace = Tracer()) {
+        trace->Repaints(*this);
+    }
+    Invalidate();
+}
+
+WidgetTrace* Widget::Tracer() const noexcept
+{
+    return m_canvas == nullptr ? nullptr : m_canvas->Tracer();
+}
+
+} // namespace quor

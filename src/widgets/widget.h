@@ -1,0 +1,132 @@
+#pragma once
+// The instruments as models: place, size and properties of one thing on the canvas, without any drawing.
+
+#include "base/property.h"
+#include "base/values.h"
+#include "widgets/property_visitor.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+namespace quor {
+
+class Canvas;
+class WidgetArray;
+
+// Who wants to know of every write and repaint, equal values too.
+class WidgetTrace : public PropertyVisitor {
+public:
+    // Followed by one Visit with the property.
+    virtual void Writes(const class Widget& widget) = 0;
+    virtual void Repaints(const class Widget& widget) = 0;
+};
+
+class Widget {
+public:
+    // In twips, within the visible part of the canvas.
+    Property<"Left", float> Left;
+    Property<"Top", float> Top;
+    Property<"Width", float> Width;
+    Property<"Height", float> Height;
+    Property<"Visible", bool> Visible;
+    Property<"Enabled", bool> Enabled{true};
+    Property<"Tag", std::string> Tag; // the name of the element that it shows
+
+    virtual ~Widget();
+    Widget& operator=(const Widget&) = delete;
+
+    // Stores the value, lets the widget do what it does by itself, and tells the canvas.
+    template <class W, FixedString Name, class T>
+    void Set(Property<Name, T> W::*property, std::type_identity_t<T> value)
+    {
+        auto& written = static_cast<W&>(*this).*property;
+        Trace(written.name, value);
+        if (written() == value) {
+            return;
+        }
+        constexpr bool movesIt = std::is_same_v<W, Widget>;
+        if constexpr (movesIt) {
+            Invalidate();
+        }
+        PropertyAccess::Value(written) = std::move(value);
+        Stored(&written);
+        Invalidate();
+    }
+
+    // Left, top, width and height in one step.
+    void Move(float left, float top, float width, float height);
+
+    Area Bounds() const noexcept { return {Left(), Top(), Width(), Height()}; }
+
+    // The array's name, such as "ctlLEDRound"; it tells the kind.
+    const std::string& Name() const noexcept;
+    std::int32_t Index() const noexcept { return m_index; }
+    WidgetArray* Array() const noexcept { return m_array; }
+    Canvas* Container() const noexcept { return m_canvas; }
+
+    // The next one towards the front, or null.
+    Widget* Above() const noexcept { return m_above; }
+    Widget* Below() const noexcept { return m_below; }
+
+    // Repaint at once, and with what lies behind.
+    void RepaintNow() { Repaint(); }
+    void RepaintAll() { Repaint(); }
+
+    // A new widget with these properties, on no canvas.
+    virtual std::unique_ptr<Widget> Clone() const = 0;
+
+    // All properties in a fixed order.
+    virtual void VisitProperties(PropertyVisitor& visitor) const;
+
+protected:
+    Widget() = default;
+    Widget(const Widget& other); // the properties alone
+
+    // What the control does by itself when a property (told by its address) has another value.
+    virtual void Stored(const void* /*property*/) {}
+
+    // Says that it must be painted again.
+    void Invalidate() const;
+
+private:
+    friend class Canvas;
+    friend class WidgetArray;
+
+    void Repaint();
+    WidgetTrace* Tracer() const noexcept;
+
+    template <class T> void Trace(std::string_view name, const T& value) const
+    {
+        if (WidgetTrace* trace = Tracer()) {
+            trace->Writes(*this);
+            trace->Visit(name, value);
+        }
+    }
+
+    Canvas* m_canvas = nullptr;
+    WidgetArray* m_array = nullptr;
+    Widget* m_above = nullptr;
+    Widget* m_below = nullptr;
+    std::int32_t m_index = 0;
+};
+
+// Gives a widget class its Clone.
+template <class Derived> class WidgetOf : public Widget {
+public:
+    std::unique_ptr<Widget> Clone() const override
+    {
+        return std::make_unique<Derived>(static_cast<const Derived&>(*this));
+    }
+};
+
+// Visits properties one after the other.
+template <class... P> void VisitEach(PropertyVisitor& visitor, const P&... properties)
+{
+    (visitor.Visit(P::name, properties()), ...);
+}
+
+} // namespace quor
