@@ -27,9 +27,9 @@ struct EventNode {
 
 // One round under way, on the stack of its raise.
 struct EventRound {
-    EventNode* upcoming;
-    std::uint64_t limit; // subscriptions from this number on wait for the next raise
-    EventRound* outer;
+    EventNode* upcoming = nullptr;
+    std::uint64_t limit = 0; // subscriptions from this number on wait for the next raise
+    EventRound* outer = nullptr;
     bool isOver = false; // the publisher is gone
 };
 

@@ -90,9 +90,9 @@ char32_t Folded(char32_t character) noexcept
 
 template <class Number> std::string ShortestDecimal(Number number)
 {
-    std::array<char, 400> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed).ptr;
-    std::string text(buffer.data(), end);
+    char buffer[400];
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), number, std::chars_format::fixed).ptr;
+    std::string text(buffer, end);
     return text == "-0" ? "0" : text;
 }
 
