@@ -116,11 +116,19 @@ std::size_t AnsiLength(std::string_view text) noexcept
     return CharacterCount(text);
 }
 
-void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text)
+std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept
 {
     while (!text.empty()) {
-        bytes.push_back(AnsiByte(Next(text)));
+        *to++ = AnsiByte(Next(text));
     }
+    return to;
+}
+
+void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text)
+{
+    const std::size_t start = bytes.size();
+    bytes.resize(start + text.size());
+    bytes.resize(static_cast<std::size_t>(WriteAnsi(bytes.data() + start, text) - bytes.data()));
 }
 
 bool SameText(std::string_view left, std::string_view right) noexcept

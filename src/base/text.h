@@ -18,7 +18,11 @@ std::string FromAnsi(std::span<const std::uint8_t> bytes);
 // How many bytes ToAnsi gives.
 std::size_t AnsiLength(std::string_view text) noexcept;
 
-// Appends the text's bytes; a character outside the code page, or a byte that is no UTF-8, becomes '?'.
+// Writes the text's bytes, of which there are at most text.size(), and gives their end. A character outside the code
+// page, or a byte that is no UTF-8, becomes '?'.
+std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept;
+
+// Appends the text's bytes as WriteAnsi does.
 void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text);
 
 // Equal regardless of the case of the letters of windows-1252.
