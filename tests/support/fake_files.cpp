@@ -1,0 +1,199 @@
+#include "tests/support/fake_files.h"
+
+#include "base/failure.h"
+#include "tests/support/quoted.h"
+
+#include <algorithm>
+
+namespace quor {
+
+class FakeOpenFile final : public OpenFile {
+public:
+    FakeOpenFile(FakeFiles& files, std::string path, std::shared_ptr<FakeFiles::Bytes> bytes, OpenMode mode)
+        : m_files(files), m_path(std::move(path)), m_bytes(std::move(bytes)), m_mode(mode)
+    {
+    }
+
+    std::int64_t Size() override
+    {
+        MustBeOpen();
+        return std::ssize(*m_bytes);
+    }
+
+    std::size_t Read(std::int64_t position, std::span<std::uint8_t> bytes) override
+    {
+        Call("read", position, bytes.size());
+        const std::size_t size = m_bytes->size();
+        const std::size_t start = std::min(static_cast<std::size_t>(position), size);
+        const std::size_t count = std::min(bytes.size(), size - start);
+        std::copy_n(m_bytes->begin() + static_cast<std::ptrdiff_t>(start), count, bytes.begin());
+        return count;
+    }
+
+    void Write(std::int64_t position, std::span<const std::uint8_t> bytes) override
+    {
+        Call("write", position, bytes.size());
+        if (m_mode == OpenMode::Read) {
+            throw Failure(failures::pathFileAccess);
+        }
+        const std::size_t start = m_mode == OpenMode::Append ? m_bytes->size() : static_cast<std::size_t>(position);
+        m_bytes->resize(std::max(m_bytes->size(), start + bytes.size()));
+        std::copy(bytes.begin(), bytes.end(), m_bytes->begin() + static_cast<std::ptrdiff_t>(start));
+    }
+
+    void Close() override { m_isOpen = false; }
+
+private:
+    void MustBeOpen() const
+    {
+        if (!m_isOpen) {
+            throw Failure(failures::pathFileAccess);
+        }
+    }
+
+    void Call(std::string_view operation, std::int64_t position, std::size_t length)
+    {
+        MustBeOpen();
+        m_files.Call(operation, Quoted(m_path) + ' ' + std::to_string(position) + ' ' + std::to_string(length));
+        if (position < 0) {
+            throw Failure(failures::pathFileAccess);
+        }
+    }
+
+    FakeFiles& m_files;
+    std::string m_path;
+    std::shared_ptr<FakeFiles::Bytes> m_bytes;
+    OpenMode m_mode;
+    bool m_isOpen = true;
+};
+
+void FakeFiles::Put(const std::string& path, Bytes bytes)
+{
+    m_files[path] = std::make_shared<Bytes>(std::move(bytes));
+}
+
+void FakeFiles::PutText(const std::string& path, std::string_view text)
+{
+    Put(path, Bytes(text.begin(), text.end()));
+}
+
+bool FakeFiles::Has(const std::string& path) const
+{
+    return m_files.contains(path);
+}
+
+const FakeFiles::Bytes& FakeFiles::Get(const std::string& path) const
+{
+    return *Find(path);
+}
+
+std::string FakeFiles::Text(const std::string& path) const
+{
+    const Bytes& bytes = Get(path);
+    return {bytes.begin(), bytes.end()};
+}
+
+void FakeFiles::Erase(const std::string& path)
+{
+    m_files.erase(path);
+    m_readOnly.erase(path);
+}
+
+void FakeFiles::SetReadOnly(const std::string& path)
+{
+    m_readOnly.insert(path);
+}
+
+std::vector<std::string> FakeFiles::Paths() const
+{
+    std::vector<std::string> paths;
+    for (const auto& [path, bytes] : m_files) {
+        paths.push_back(path);
+    }
+    return paths;
+}
+
+bool FakeFiles::FileExists(const std::string& path)
+{
+    Call("exists", Quoted(path));
+    return Has(path);
+}
+
+std::unique_ptr<OpenFile> FakeFiles::Open(const std::string& path, OpenMode mode)
+{
+    constexpr std::string_view modes[] = {"read", "create", "scratch", "append"};
+    Call("open", Quoted(path) + ' ' + std::string(modes[static_cast<std::size_t>(mode)]));
+    if (mode == OpenMode::Scratch && Has(path)) {
+        throw Failure(failures::pathFileAccess);
+    }
+    if (mode != OpenMode::Read) {
+        MustBeWritable(path);
+        if (mode != OpenMode::Append || !Has(path)) {
+            Put(path, {});
+        }
+    }
+    return std::make_unique<FakeOpenFile>(*this, path, Find(path), mode);
+}
+
+void FakeFiles::CopyFile(const std::string& from, const std::string& to)
+{
+    Call("copy", Quoted(from) + ' ' + Quoted(to));
+    const Bytes bytes = *Find(from);
+    MustBeWritable(to);
+    Put(to, bytes);
+}
+
+void FakeFiles::MoveFile(const std::string& from, const std::string& to)
+{
+    Call("move", Quoted(from) + ' ' + Quoted(to));
+    const std::shared_ptr<Bytes> bytes = Find(from);
+    if (Has(to)) {
+        throw Failure(failures::pathFileAccess);
+    }
+    m_files.erase(from);
+    m_files[to] = bytes;
+    if (m_readOnly.erase(from) > 0) {
+        m_readOnly.insert(to);
+    }
+}
+
+void FakeFiles::DeleteFile(const std::string& path)
+{
+    Call("delete", Quoted(path));
+    Find(path);
+    Erase(path);
+}
+
+std::string FakeFiles::TempFolder()
+{
+    return "temp";
+}
+
+std::string FakeFiles::TempName()
+{
+    return "temp" + std::to_string(++m_tempNames) + ".tmp";
+}
+
+void FakeFiles::Call(std::string_view operation, const std::string& arguments)
+{
+    Called.Raise("files." + std::string(operation) + ' ' + arguments);
+    planned.Count(operation);
+}
+
+std::shared_ptr<FakeFiles::Bytes> FakeFiles::Find(const std::string& path) const
+{
+    const auto found = m_files.find(path);
+    if (found == m_files.end()) {
+        throw Failure(failures::fileNotFound);
+    }
+    return found->second;
+}
+
+void FakeFiles::MustBeWritable(const std::string& path) const
+{
+    if (m_readOnly.contains(path)) {
+        throw Failure(failures::permissionDenied);
+    }
+}
+
+} // namespace quor

@@ -1,0 +1,52 @@
+#pragma once
+// The file system in memory. Paths are taken as they stand; a folder exists wherever a path names it.
+
+#include "base/event.h"
+#include "platform/files.h"
+#include "tests/support/planned_failures.h"
+
+#include <map>
+#include <set>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+class FakeFiles final : public Files {
+public:
+    using Bytes = std::vector<std::uint8_t>;
+
+    PlannedFailures planned;          // exists, open, read, write, copy, move, delete
+    Event<const std::string&> Called; // each operation, as `files.copy "a" "b"`
+
+    // For tests, uncounted and unhindered.
+    void Put(const std::string& path, Bytes bytes);
+    void PutText(const std::string& path, std::string_view text);
+    bool Has(const std::string& path) const;
+    const Bytes& Get(const std::string& path) const; // fails with 53
+    std::string Text(const std::string& path) const; // fails with 53
+    void Erase(const std::string& path);
+    void SetReadOnly(const std::string& path); // also of a file that comes later
+    std::vector<std::string> Paths() const;    // sorted
+
+    bool FileExists(const std::string& path) override;
+    std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
+    void CopyFile(const std::string& from, const std::string& to) override;
+    void MoveFile(const std::string& from, const std::string& to) override;
+    void DeleteFile(const std::string& path) override;
+    std::string TempFolder() override;
+    std::string TempName() override; // temp1.tmp and so on
+
+private:
+    friend class FakeOpenFile;
+
+    void Call(std::string_view operation, const std::string& arguments);
+    std::shared_ptr<Bytes> Find(const std::string& path) const; // fails with 53
+    void MustBeWritable(const std::string& path) const;         // fails with 70
+
+    std::map<std::string, std::shared_ptr<Bytes>> m_files;
+    std::set<std::string> m_readOnly;
+    int m_tempNames = 0;
+};
+
+} // namespace quor
