@@ -1,0 +1,36 @@
+#pragma once
+// A journey as it is read: steps of words, and between them what the program is expected to answer.
+
+#include "tests/journey_driver/answers.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+// The journey can't be read, or tells something that can't be done.
+class JourneyError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct Word {
+    std::string text;
+    bool isQuoted = false;
+};
+
+// Either a step (words) or a block of expected answers.
+struct Entry {
+    int line = 0; // from 1
+    std::vector<Word> words;
+    std::vector<Expected> answers;
+};
+
+using Journey = std::vector<Entry>;
+
+// Fails with JourneyError, which begins with the number of the line.
+Journey ReadJourney(std::string_view text);
+
+} // namespace quor
