@@ -1,0 +1,66 @@
+#include "tests/support/fake_forms.h"
+
+#include "forms/form.h"
+#include "tests/support/fake_timers.h"
+
+#include <algorithm>
+
+namespace quor {
+
+struct FakeForms::Open {
+    Form* form;
+    std::unique_ptr<Form> owned; // of a modal form
+    Subscription unloaded;
+};
+
+FakeForms::FakeForms(FakeTimers& timers) : m_timers(timers) {}
+
+FakeForms::~FakeForms() = default;
+
+Form* FakeForms::Find(std::string_view name) const
+{
+    const auto found =
+        std::find_if(m_open.rbegin(), m_open.rend(), [&](const auto& open) { return open->form->Name() == name; });
+    return found == m_open.rend() ? nullptr : (*found)->form;
+}
+
+void FakeForms::Show(Form& form)
+{
+    const bool isShown =
+        std::any_of(m_open.begin(), m_open.end(), [&](const auto& open) { return open->form == &form; });
+    if (!isShown) {
+        Shown.Raise(Enter(form, nullptr));
+    }
+}
+
+void FakeForms::ShowModal(std::unique_ptr<Form> form)
+{
+    Form& shown = *form;
+    ModalShown.Raise(Enter(shown, std::move(form)));
+}
+
+void FakeForms::Hide(Form& form)
+{
+    const auto found =
+        std::find_if(m_open.begin(), m_open.end(), [&](const auto& open) { return open->form == &form; });
+    if (found != m_open.end()) {
+        const std::unique_ptr<Open> ending = std::move(*found);
+        m_open.erase(found);
+    }
+}
+
+void FakeForms::RunEvents()
+{
+    ++eventRuns;
+    m_timers.RunDue();
+}
+
+Form& FakeForms::Enter(Form& form, std::unique_ptr<Form> owned)
+{
+    form.Load();
+    Subscription unloaded = form.Unloaded.Subscribe([this, &form] { Hide(form); });
+    m_open.push_back(std::make_unique<Open>(Open{&form, std::move(owned), std::move(unloaded)}));
+    return form;
+}
+
+} // namespace quor
