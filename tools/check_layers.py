@@ -24,6 +24,7 @@ FLOORS = {
     "pages": 7,
     "binding/pages": 7,
     "editor": 8,
+    "posix": 9,
     "qt": 9,
     "apps": 10,
 }
@@ -32,7 +33,7 @@ FLOORS = {
 FOREIGN = [
     (re.compile(r"Q[A-Z]\w*|Qt\w+/.*"), ("qt", "apps/editor")),
     (re.compile(r"nlohmann/.*"), ("apps",)),
-    (re.compile(r"(unistd|fcntl|sys/\w+)\.h"), ("qt/ports", "apps")),
+    (re.compile(r"(unistd|fcntl|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
 ]
 
 STANDARD = re.compile(r"[a-z_0-9]+")

@@ -1,0 +1,162 @@
+#include "posix/disk_files.h"
+
+#include "base/guard.h"
+#include "posix/descriptor.h"
+#include "posix/safe_replace.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace quor {
+
+namespace {
+
+using posix::Descriptor;
+
+// Writes that follow each other are gathered.
+class DiskFile final : public OpenFile {
+public:
+    DiskFile(Descriptor file, bool gathers) : m_file(std::move(file)), m_capacity(gathers ? gatheredSize : 0) {}
+    DiskFile(const DiskFile&) = delete;
+    DiskFile& operator=(const DiskFile&) = delete;
+    ~DiskFile() override
+    {
+        IgnoreFailure([this] { Flush(); });
+    }
+
+    std::int64_t Size() override
+    {
+        Flush();
+        return m_file.Size();
+    }
+
+    std::size_t Read(std::int64_t position, std::span<std::uint8_t> bytes) override
+    {
+        Flush();
+        return m_file.Read(position, bytes);
+    }
+
+    void Write(std::int64_t position, std::span<const std::uint8_t> bytes) override
+    {
+        if (position != m_start + std::ssize(m_pending) || m_pending.size() + bytes.size() > m_capacity) {
+            Flush();
+            m_start = position;
+        }
+        if (bytes.size() > m_capacity) {
+            m_file.Write(position, bytes);
+            m_start += std::ssize(bytes);
+            return;
+        }
+        m_pending.reserve(m_capacity);
+        m_pending.insert(m_pending.end(), bytes.begin(), bytes.end());
+    }
+
+    void Close() override
+    {
+        Flush();
+        m_file.Close();
+    }
+
+private:
+    static constexpr std::size_t gatheredSize = 65'536;
+
+    void Flush()
+    {
+        if (!m_pending.empty()) {
+            m_file.Write(m_start, m_pending);
+            m_start += std::ssize(m_pending);
+            m_pending.clear();
+        }
+    }
+
+    Descriptor m_file;
+    std::size_t m_capacity;
+    std::int64_t m_start = 0; // where the pending bytes belong
+    std::vector<std::uint8_t> m_pending;
+};
+
+Descriptor OpenAnew(const std::string& path)
+{
+    constexpr unsigned all = 0666;
+    Descriptor file(path, O_RDWR | O_CREAT, all);
+    file.Check(ftruncate(file.Number(), 0));
+    return file;
+}
+
+} // namespace
+
+bool DiskFiles::FileExists(const std::string& path)
+{
+    struct stat status {};
+    return path.find('\0') == std::string::npos && stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+std::unique_ptr<OpenFile> DiskFiles::Open(const std::string& path, OpenMode mode)
+{
+    constexpr unsigned all = 0666;
+    switch (mode) {
+    case OpenMode::Read:
+        return std::make_unique<DiskFile>(Descriptor(path, O_RDONLY), false);
+    case OpenMode::Create:
+        return std::make_unique<DiskFile>(OpenAnew(path), true);
+    case OpenMode::Scratch:
+        return std::make_unique<DiskFile>(Descriptor(path, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, S_IRUSR | S_IWUSR),
+                                          true);
+    case OpenMode::Append:
+        return std::make_unique<DiskFile>(Descriptor(path, O_RDWR | O_CREAT | O_APPEND, all), false);
+    }
+    posix::Fail(EINVAL, path);
+}
+
+void DiskFiles::CopyFile(const std::string& from, const std::string& to)
+{
+    posix::ReplaceFile(from, to);
+}
+
+void DiskFiles::MoveFile(const std::string& from, const std::string& to)
+{
+    if (from.find('\0') != std::string::npos || to.find('\0') != std::string::npos) {
+        posix::Fail(EINVAL, from);
+    }
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
+        return;
+    }
+    // A file system without the exclusive form.
+    struct stat status {};
+    if (errno == EINVAL && lstat(to.c_str(), &status) != 0 && rename(from.c_str(), to.c_str()) == 0) {
+        return;
+    }
+    posix::Fail(errno, from);
+}
+
+void DiskFiles::DeleteFile(const std::string& path)
+{
+    if (path.find('\0') != std::string::npos) {
+        posix::Fail(EINVAL, path);
+    }
+    if (unlink(path.c_str()) != 0) {
+        posix::Fail(errno, path);
+    }
+}
+
+std::string DiskFiles::TempFolder()
+{
+    const char* named = std::getenv("TMPDIR");
+    std::string folder = named == nullptr ? "" : named;
+    while (folder.size() > 1 && folder.ends_with('/')) {
+        folder.pop_back();
+    }
+    return folder.empty() ? "/tmp" : folder;
+}
+
+std::string DiskFiles::TempName()
+{
+    return posix::RandomName();
+}
+
+} // namespace quor

@@ -1,0 +1,21 @@
+#pragma once
+// The file system of the machine.
+//
+// Only regular files are opened: a folder, a pipe or a device fails with 75 and never blocks.
+
+#include "platform/files.h"
+
+namespace quor {
+
+class DiskFiles final : public Files {
+public:
+    bool FileExists(const std::string& path) override; // true for all that is no folder
+    std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
+    void CopyFile(const std::string& from, const std::string& to) override;
+    void MoveFile(const std::string& from, const std::string& to) override;
+    void DeleteFile(const std::string& path) override;
+    std::string TempFolder() override; // TMPDIR, or /tmp
+    std::string TempName() override;
+};
+
+} // namespace quor

@@ -1,0 +1,290 @@
+#include "base/failure.h"
+#include "posix/disk_files.h"
+#include "posix/system_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <set>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace quor {
+namespace {
+
+namespace fs = std::filesystem;
+
+class OnDisk : public testing::Test {
+protected:
+    OnDisk()
+    {
+        std::string pattern = (fs::temp_directory_path() / "disk_files_XXXXXX").string();
+        m_folder = mkdtemp(pattern.data());
+    }
+    ~OnDisk() override { fs::remove_all(m_folder); }
+
+    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+
+    std::string Put(const std::string& name, const std::string& text) const
+    {
+        std::ofstream(Path(name), std::ios::binary) << text;
+        return Path(name);
+    }
+
+    static std::string Text(const std::string& path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    std::size_t EntryCount() const
+    {
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));
+    }
+
+    template <class Body> static std::int32_t FailureOf(Body&& body)
+    {
+        try {
+            body();
+            return 0;
+        } catch (const Failure& failure) {
+            return failure.Number();
+        }
+    }
+
+    static mode_t ModeOf(const std::string& path)
+    {
+        struct stat status {};
+        EXPECT_EQ(stat(path.c_str(), &status), 0);
+        return status.st_mode & 07777;
+    }
+
+    DiskFiles files;
+    fs::path m_folder;
+};
+
+std::span<const std::uint8_t> BytesOf(std::string_view text)
+{
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+TEST_F(OnDisk, WritesOfAnySizeAndOrderLandWhereTheyBelong)
+{
+    std::string model;
+    const auto file = files.Open(Path("a"), OpenMode::Create);
+    std::mt19937 random(1);
+    for (int round = 0; round < 300; ++round) {
+        const bool jumps = random() % 8 == 0;
+        const std::size_t position = jumps ? random() % (model.size() + 1) : model.size();
+        const std::string piece(random() % 16 == 0 ? random() % 100'000 : random() % 100,
+                                static_cast<char>('a' + round % 26));
+        file->Write(static_cast<std::int64_t>(position), BytesOf(piece));
+        model.resize(std::max(model.size(), position + piece.size()));
+        model.replace(position, piece.size(), piece);
+        if (random() % 10 == 0) {
+            EXPECT_EQ(file->Size(), std::ssize(model));
+            std::vector<std::uint8_t> back(50, '-');
+            const std::size_t from = random() % (model.size() + 10);
+            const std::size_t had = file->Read(static_cast<std::int64_t>(from), back);
+            EXPECT_EQ(had, std::min<std::size_t>(50, from < model.size() ? model.size() - from : 0));
+            EXPECT_EQ(std::string(back.begin(), back.begin() + static_cast<std::ptrdiff_t>(had)),
+                      had == 0 ? "" : model.substr(from, had));
+        }
+    }
+    file->Close();
+    EXPECT_EQ(Text(Path("a")), model);
+}
+
+TEST_F(OnDisk, ModesOfOpeningDoWhatTheySay)
+{
+    Put("old", "123456");
+    files.Open(Path("old"), OpenMode::Append)->Write(0, BytesOf("7"));
+    files.Open(Path("log"), OpenMode::Append)->Write(0, BytesOf("new"));
+    EXPECT_EQ(Text(Path("old")) + Text(Path("log")), "1234567new");
+    files.Open(Path("old"), OpenMode::Create)->Write(0, BytesOf("x"));
+    EXPECT_EQ(Text(Path("old")), "x");
+    files.Open(Path("scratch"), OpenMode::Scratch)->Write(0, BytesOf("s"));
+    EXPECT_EQ(ModeOf(Path("scratch")), 0600U);
+    EXPECT_EQ(FailureOf([&] { files.Open(Path("old"), OpenMode::Scratch); }), failures::pathFileAccess);
+    fs::create_symlink(Path("nowhere"), Path("link"));
+    EXPECT_EQ(FailureOf([&] { files.Open(Path("link"), OpenMode::Scratch); }), failures::pathFileAccess);
+    EXPECT_EQ(FailureOf([&] { files.Open(Path("old"), OpenMode::Read)->Write(0, BytesOf("y")); }),
+              failures::pathFileAccess);
+}
+
+TEST_F(OnDisk, OddPathsFailWithoutBlocking)
+{
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    fs::create_directory(Path("folder"));
+    Put("file", "text");
+    fs::create_symlink(Path("loop"), Path("loop"));
+    const struct {
+        std::string path;
+        std::int32_t number;
+    } cases[] = {
+        {Path("missing"), failures::fileNotFound},
+        {Path("missing/file"), failures::pathNotFound},
+        {Path("file/file"), failures::pathNotFound},
+        {Path(std::string(300, 'n')), failures::pathNotFound},
+        {Path("loop"), failures::pathNotFound},
+        {Path("folder"), failures::pathFileAccess},
+        {Path("pipe"), failures::pathFileAccess},
+        {"/dev/zero", failures::pathFileAccess},
+        {Path("file") + std::string("\0", 1), failures::pathFileAccess},
+        {"", failures::fileNotFound},
+    };
+    for (const auto& [path, number] : cases) {
+        EXPECT_EQ(FailureOf([&] { files.Open(path, OpenMode::Read); }), number) << path;
+        EXPECT_NE(FailureOf([&] { files.CopyFile(path, Path("target")); }), 0) << path;
+        if (number != failures::fileNotFound) {
+            EXPECT_NE(FailureOf([&] { files.CopyFile(Path("file"), path); }), 0) << path;
+            EXPECT_NE(FailureOf([&] { files.Open(path, OpenMode::Create); }), 0) << path;
+        }
+    }
+    EXPECT_FALSE(files.FileExists(Path("folder")));
+    EXPECT_FALSE(files.FileExists(Path("missing")));
+    EXPECT_TRUE(files.FileExists(Path("file")));
+    EXPECT_EQ(EntryCount(), 4U);
+}
+
+TEST_F(OnDisk, ACopyKeepsPermissionsOwnerAndLinksOfItsTarget)
+{
+    const std::string source = Put("source", "new");
+    const std::string target = Put("target", "old");
+    ASSERT_EQ(chmod(target.c_str(), 0640), 0);
+    const bool ownsAll = chown(target.c_str(), 1234, 1235) == 0;
+    fs::create_symlink("target", Path("link"));
+    fs::create_symlink(Path("link"), Path("second"));
+    files.CopyFile(source, Path("second"));
+    EXPECT_EQ(Text(target), "new");
+    EXPECT_TRUE(fs::is_symlink(Path("link")) && fs::is_symlink(Path("second")));
+    EXPECT_EQ(ModeOf(target), 0640U);
+    struct stat status {};
+    ASSERT_EQ(stat(target.c_str(), &status), 0);
+    EXPECT_TRUE(!ownsAll || (status.st_uid == 1234 && status.st_gid == 1235));
+
+    const mode_t mask = umask(027);
+    fs::create_symlink("made", Path("dangling"));
+    files.CopyFile(source, Path("dangling"));
+    umask(mask);
+    EXPECT_EQ(ModeOf(Path("made")), 0640U);
+    EXPECT_EQ(EntryCount(), 6U);
+}
+
+TEST_F(OnDisk, AReadOnlyTargetStays)
+{
+    const std::string source = Put("source", "new");
+    const std::string target = Put("target", "old");
+    ASSERT_EQ(chmod(target.c_str(), 0444), 0);
+    EXPECT_EQ(FailureOf([&] { files.CopyFile(source, target); }), failures::permissionDenied);
+    EXPECT_EQ(Text(target), "old");
+    EXPECT_EQ(EntryCount(), 2U);
+    files.DeleteFile(target);
+    EXPECT_FALSE(files.FileExists(target));
+}
+
+TEST_F(OnDisk, ACopyThatFailsHalfWayLeavesTheTargetAndNothingElse)
+{
+    const std::string source = Put("source", std::string(3'000'000, 'n'));
+    const std::string target = Put("target", "old");
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1'000'000, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const std::int32_t copy = FailureOf([&] { files.CopyFile(source, target); });
+    const std::int32_t fresh = FailureOf([&] { files.CopyFile(source, Path("fresh")); });
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(copy, failures::pathFileAccess);
+    EXPECT_EQ(fresh, failures::pathFileAccess);
+    EXPECT_EQ(Text(target), "old");
+    EXPECT_EQ(EntryCount(), 2U);
+}
+
+TEST_F(OnDisk, AMoveNeverReplaces)
+{
+    const std::string one = Put("one", "1");
+    const std::string two = Put("two", "2");
+    EXPECT_EQ(FailureOf([&] { files.MoveFile(one, two); }), failures::pathFileAccess);
+    EXPECT_EQ(Text(one) + Text(two), "12");
+    files.MoveFile(one, Path("three"));
+    EXPECT_EQ(Text(Path("three")), "1");
+    EXPECT_EQ(FailureOf([&] { files.MoveFile(one, Path("four")); }), failures::fileNotFound);
+    EXPECT_EQ(FailureOf([&] { files.DeleteFile(one); }), failures::fileNotFound);
+}
+
+TEST_F(OnDisk, TemporaryNamesDiffer)
+{
+    EXPECT_NE(files.TempName(), files.TempName());
+    EXPECT_GE(files.TempName().size(), 32U);
+}
+
+// Saves alternating texts over the target until it is killed.
+[[noreturn]] void SaveForEver(DiskFiles& files, const std::string& folder, const std::string& target,
+                              const std::vector<std::string>& texts)
+{
+    for (std::size_t round = 0;; ++round) {
+        const std::string scratch = folder + '/' + files.TempName();
+        const auto file = files.Open(scratch, OpenMode::Scratch);
+        file->Write(0, BytesOf(texts[round % texts.size()]));
+        file->Close();
+        files.CopyFile(scratch, target);
+        files.DeleteFile(scratch);
+    }
+}
+
+TEST_F(OnDisk, ASaveKilledAtAnyMomentLeavesOneOfTheTwoWhole)
+{
+    const std::vector<std::string> texts{std::string(150'000, 'a'), std::string(70'000, 'b')};
+    const std::string target = Put("target", texts[0]);
+    std::mt19937 random(7);
+    std::set<std::string> seen;
+    for (int kill = 0; kill < 300; ++kill) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            SaveForEver(files, m_folder.string(), target, texts);
+        }
+        usleep(static_cast<useconds_t>(500 + random() % 10'000));
+        ASSERT_EQ(::kill(child, SIGKILL), 0);
+        ASSERT_EQ(waitpid(child, nullptr, 0), child);
+        const std::string found = Text(target);
+        ASSERT_TRUE(found == texts[0] || found == texts[1]) << found.size() << " bytes after kill " << kill;
+        seen.insert(found);
+    }
+    EXPECT_EQ(seen.size(), 2U);
+}
+
+TEST(TheClock, TellsDateAndTimeInAtMost22Characters)
+{
+    std::tm time{};
+    time.tm_year = 126;
+    const struct {
+        int month, day, hour, minute, second;
+        const char* text;
+    } cases[] = {
+        {10, 24, 22, 58, 5, "11/24/2026 10:58:05 PM"},
+        {0, 1, 0, 0, 9, "1/1/2026 12:00:09 AM"},
+        {2, 7, 12, 30, 0, "3/7/2026 12:30:00 PM"},
+        {2, 7, 11, 59, 59, "3/7/2026 11:59:59 AM"},
+    };
+    for (const auto& [month, day, hour, minute, second, text] : cases) {
+        time.tm_mon = month;
+        time.tm_mday = day;
+        time.tm_hour = hour;
+        time.tm_min = minute;
+        time.tm_sec = second;
+        EXPECT_EQ(GeneralDate(time), text);
+    }
+    EXPECT_LE(SystemClock().Now().size(), 22U);
+}
+
+} // namespace
+} // namespace quor
