@@ -27,14 +27,9 @@ struct EventNode {
 
 // One round under way, on the stack of its raise.
 struct EventRound {
-    EventRound(EventNode* first, std::uint64_t end, EventRound* outerRound) noexcept
-        : upcoming(first), limit(end), outer(outerRound)
-    {
-    }
-
-    EventNode* upcoming;
-    std::uint64_t limit; // subscriptions from this number on wait for the next raise
-    EventRound* outer;
+    EventNode* upcoming = nullptr;
+    std::uint64_t limit = 0; // subscriptions from this number on wait for the next raise
+    EventRound* outer = nullptr;
     bool isOver = false; // the publisher is gone
 };
 
@@ -117,7 +112,7 @@ private:
     };
 
     struct Round : detail::EventRound {
-        explicit Round(detail::EventHub& hubOf) : EventRound(hubOf.next, hubOf.subscriptions, hubOf.rounds), hub(hubOf)
+        explicit Round(detail::EventHub& hubOf) : EventRound{hubOf.next, hubOf.subscriptions, hubOf.rounds}, hub(hubOf)
         {
             hub.rounds = this;
         }

@@ -23,7 +23,7 @@ struct RefBlock {
 inline constexpr RefBlock refBlocks[] = {
     {14001, "frmMain", "Form_Load Form_QueryUnload Form_Unload abViewEdit_QueryClose abViewEdit_ToolClick "
                        "abViewEdit_BandOpen abViewEdit_BandClose abViewEdit_KeyDown NewView OpenView SaveView "
-                       "Widget_MouseDown Widget_MouseUp Widget_DragDrop Widget_KeyDown Handle_MouseDown "
+                       "Widget_MouseDown Widget_MouseUp Widget_DragDrop Widget_KeyDown Handle_MouseDown Handle_MouseUp "
                        "Handle_DragDrop ssScroll_Click ssScroll_MouseDown ssScroll_MouseUp ssScroll_DragDrop "
                        "ssScroll_Scroll imgCVBackground_MouseDown imgCVBackground_MouseUp imgCVBackground_DragDrop "
                        "DropControl PositionHandles HideHandles SelectControl ReleaseControl tmrDelControl "

@@ -21,6 +21,9 @@ public:
     // Takes a shown form off the screen; else nothing.
     virtual void Hide(Form& form) = 0;
 
+    // Unloads every form that is shown or was shown without blocking.
+    virtual void UnloadAll() = 0;
+
     // Lets timers, server events and repaints run once; the user's input waits.
     virtual void RunEvents() = 0;
 };

@@ -195,6 +195,12 @@ void Canvas::SetFrame(const SizingFrame& frame)
     m_frame = frame;
 }
 
+void Canvas::SetGrid(const GridLines& grid)
+{
+    m_grid = grid;
+    InvalidateAll();
+}
+
 void Canvas::Invalidate(const Area& area)
 {
     if (m_holds == 0) {

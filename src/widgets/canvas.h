@@ -52,6 +52,16 @@ struct BackgroundImage {
     float top = 0;
 };
 
+// The grid's lines, under the widgets and over the background: horizontal ones at each multiple of `stepY` down to
+// `height`, `width` long, and vertical ones likewise. Twips, from the view's top left.
+struct GridLines {
+    float stepX = 0; // 0: no vertical lines
+    float stepY = 0; // 0: no horizontal lines
+    float width = 0;
+    float height = 0;
+    bool visible = false;
+};
+
 class Canvas {
 public:
     static constexpr float handleSize = 105; // twips
@@ -69,7 +79,8 @@ public:
     WidgetArray& AddArray(std::string name, std::unique_ptr<Widget> pattern);
     WidgetArray* FindArray(std::string_view name) const noexcept;
 
-    // The scroll position, in twips, and how far it may go. A position out of range is brought into it.
+    // The scroll position and the size of all that can be scrolled to, in twips. Whoever shows the canvas takes what it
+    // shows at a time off the maxima; here a position beyond them is brought back.
     std::int32_t ScrollOffsetX() const noexcept { return m_scrollX; }
     std::int32_t ScrollOffsetY() const noexcept { return m_scrollY; }
     std::int32_t ScrollMaxX() const noexcept { return m_scrollMaxX; }
@@ -102,6 +113,9 @@ public:
     const SizingFrame& Frame() const noexcept { return m_frame; }
     void SetFrame(const SizingFrame& frame);
 
+    const GridLines& Grid() const noexcept { return m_grid; }
+    void SetGrid(const GridLines& grid);
+
     // Says that the area must be painted again.
     void Invalidate(const Area& area);
     void InvalidateAll();
@@ -122,6 +136,7 @@ private:
     Widget* m_front = nullptr;
     std::array<GrabHandle, handleCount> m_handles;
     SizingFrame m_frame;
+    GridLines m_grid;
     BackgroundImage m_background;
     PictureRef m_picture;
     std::int32_t m_pictureMode = picture_modes::centered;

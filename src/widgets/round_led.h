@@ -22,6 +22,7 @@ public:
     Property<"BevelStyle", std::int32_t> BevelStyle{bevels::lowered};
     Property<"Transparent", bool> Transparent{true};
 
+    bool MayBeReordered() const override { return false; }
     void VisitProperties(PropertyVisitor& visitor) const override;
 };
 

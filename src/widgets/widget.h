@@ -76,6 +76,9 @@ public:
     void RepaintNow() { Repaint(); }
     void RepaintAll() { Repaint(); }
 
+    // Whether the user may move it among the others, to the front or to the back.
+    virtual bool MayBeReordered() const { return true; }
+
     // A new widget with these properties, on no canvas.
     virtual std::unique_ptr<Widget> Clone() const = 0;
 

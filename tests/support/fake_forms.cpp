@@ -49,6 +49,15 @@ void FakeForms::Hide(Form& form)
     }
 }
 
+void FakeForms::UnloadAll()
+{
+    while (!m_open.empty()) {
+        Form& form = *m_open.back()->form;
+        form.Unload();
+        Hide(form);
+    }
+}
+
 void FakeForms::RunEvents()
 {
     ++eventRuns;

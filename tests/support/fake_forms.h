@@ -29,6 +29,7 @@ public:
     void Show(Form& form) override;
     void ShowModal(std::unique_ptr<Form> form) override;
     void Hide(Form& form) override;
+    void UnloadAll() override;
     void RunEvents() override;
 
 private:
