@@ -1,0 +1,78 @@
+#include "document/kinds.h"
+
+#include "elements/led_round.h"
+#include "widgets/canvas.h"
+#include "widgets/widget_array.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace quor {
+
+namespace {
+
+template <class E> constexpr Kind KindOf(std::string_view array, std::string_view prefix, std::string_view caption)
+{
+    return {E::type,
+            array,
+            prefix,
+            caption,
+            []() -> std::unique_ptr<Widget> { return E::Prototype(); },
+            [](Widget& widget) -> std::unique_ptr<Element> { return std::make_unique<E>(widget); }};
+}
+
+constexpr std::array kinds = {
+    Kind{0, "ctlMeterText", "Meter (Text) ", "Meter (Text)"},
+    Kind{1, "ctlMeterAngle", "Meter (Angle) ", "Meter (Angular)"},
+    Kind{2, "ctlMeterLinear", "Meter (Linear) ", "Meter (Linear)"},
+    KindOf<clsLEDRound>("ctlLEDRound", "LED (Round) ", "LED (Round)"),
+    Kind{4, "ctlLEDRect", "LED (Rectangular) ", "LED (Rectangular)"},
+    Kind{5, "ctlStatusLabel", "Status Label ", "Status Label"},
+    Kind{6, "ctlBlnPic", "Round LED ", "Status Picture"}, // the prefix is on purpose: names in files are kept
+    Kind{7, "ctlCmdLED", "Command and LED ", "Command and LED"},
+    Kind{8, "ctlCommand", "Command ", "Command"},
+    Kind{9, "ctlPicture", "Picture ", "Picture"},
+    Kind{10, "ctlLabel", "Label ", "Label"},
+};
+
+constexpr bool TypesArePositions()
+{
+    for (std::size_t index = 0; index < kinds.size(); ++index) {
+        if (kinds[index].type != index) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(TypesArePositions());
+
+} // namespace
+
+std::span<const Kind> Kinds() noexcept
+{
+    return kinds;
+}
+
+const Kind* FindKind(std::int32_t type) noexcept
+{
+    return type >= 0 && type < static_cast<std::int32_t>(kinds.size()) ? &kinds[static_cast<std::size_t>(type)]
+                                                                       : nullptr;
+}
+
+const Kind* FindKind(std::string_view array) noexcept
+{
+    const auto* found = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) { return kind.array == array; });
+    return found == kinds.end() ? nullptr : found;
+}
+
+void AddWidgetArrays(Canvas& canvas)
+{
+    for (const Kind& kind : kinds) {
+        if (kind.Exists()) {
+            canvas.AddArray(std::string(kind.array), kind.makePrototype());
+        }
+    }
+}
+
+} // namespace quor
