@@ -1,0 +1,40 @@
+#pragma once
+// The mouse on the canvas: its buttons, what lies under the pointer, and what a drag or a sizing shows meanwhile.
+
+#include "base/values.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace quor {
+
+class Canvas;
+class Widget;
+
+enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };
+
+// What lies under the pointer. Events on it carry twips from its top left.
+struct CanvasTarget {
+    enum class What { Canvas, Background, Element, Handle };
+
+    What what = What::Canvas;
+    Widget* widget = nullptr; // for Element
+    std::size_t handle = 0;   // for Handle
+    float left = 0;           // of the target, within the visible part of the canvas
+    float top = 0;
+};
+
+// The foremost at that place: visible handles, widgets, the background image, the canvas.
+CanvasTarget HitTest(const Canvas& canvas, float x, float y) noexcept;
+
+// The outline that follows the pointer.
+struct DragOutline {
+    enum class What { Move, Insert, Size };
+
+    What what = What::Move;
+    Area area; // where it would land, within the visible part of the canvas
+    std::string tip;
+};
+
+} // namespace quor

@@ -1,0 +1,96 @@
+#include "document/collection.h"
+#include "document/format/view_file.h"
+#include "document/kinds.h"
+#include "tests/support/field_filler.h"
+#include "widgets/canvas.h"
+#include "widgets/widget_array.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quor {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes RecordOf(Element& element)
+{
+    Bytes record;
+    std::int32_t checksum = 0;
+    element.SaveToArray(record, checksum);
+    std::int32_t sum = 0;
+    for (const std::uint8_t byte : record) {
+        sum += byte;
+    }
+    EXPECT_EQ(checksum, sum);
+    return record;
+}
+
+class EverySetting : public testing::TestWithParam<std::uint8_t> {
+protected:
+    static constexpr unsigned rounds = 20;
+
+    EverySetting()
+    {
+        AddWidgetArrays(canvas);
+        canvas.SetScrollMaxima(30000, 30000);
+    }
+
+    const Kind& kind = Kinds()[GetParam()];
+    Canvas canvas;
+};
+
+TEST_P(EverySetting, OfARandomRecordComesBackByteForByte)
+{
+    for (unsigned seed = 0; seed < rounds; ++seed) {
+        Collection first(kind, canvas);
+        first.SetCtlOrder(std::make_shared<ElementOrder>());
+        Element& original = first.Add(0, 0, "same name", true);
+        FieldFiller filler(seed, true);
+        original.Fields(filler);
+        const Bytes record = RecordOf(original);
+
+        Collection second(kind, canvas);
+        second.SetCtlOrder(std::make_shared<ElementOrder>());
+        Element& copy = second.Add(5, 5, "same name", false);
+        copy.ReadFromArray(std::span(record).subspan(view_file::frameSize));
+        EXPECT_EQ(RecordOf(copy), record);
+    }
+}
+
+TEST_P(EverySetting, IsShownByTheWidgetAndTakenFromIt)
+{
+    canvas.ScrollTo(150, 300);
+    for (unsigned seed = 0; seed < rounds; ++seed) {
+        Collection collection(kind, canvas);
+        collection.SetCtlOrder(std::make_shared<ElementOrder>());
+        Element& original = collection.Add(0, 0, "same name", true);
+        FieldFiller filler(seed, false);
+        original.Fields(filler);
+        original.WriteControlProps();
+
+        WidgetArray likeIt(canvas, std::string(kind.array), original.MyControl()->Clone());
+        const std::unique_ptr<Element> second = kind.makeElement(likeIt.Load(1));
+        second->Set(&Element::ObjName, "same name");
+        second->ReadControlProps();
+        EXPECT_EQ(RecordOf(*second), RecordOf(original));
+    }
+}
+
+std::vector<std::uint8_t> ExistingKinds()
+{
+    std::vector<std::uint8_t> types;
+    for (const Kind& kind : Kinds()) {
+        if (kind.Exists()) {
+            types.push_back(kind.type);
+        }
+    }
+    return types;
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAKind, EverySetting, testing::ValuesIn(ExistingKinds()),
+                         [](const auto& kind) { return std::string(Kinds()[kind.param].array); });
+
+} // namespace
+} // namespace quor
