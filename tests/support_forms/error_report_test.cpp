@@ -25,6 +25,7 @@ public:
 
     void Show(Form&) override {}
     void Hide(Form&) override {}
+    void UnloadAll() override {}
     void RunEvents() override {}
     void ShowModal(std::unique_ptr<Form> form) override
     {

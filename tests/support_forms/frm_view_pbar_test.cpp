@@ -15,6 +15,7 @@ struct Loop final : Forms {
     void Show(Form&) override {}
     void ShowModal(std::unique_ptr<Form>) override {}
     void Hide(Form&) override {}
+    void UnloadAll() override {}
     void RunEvents() override
     {
         ++runs;
