@@ -38,7 +38,7 @@ FOREIGN = [
 
 STANDARD = re.compile(r"[a-z_0-9]+")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
-LIBRARY = re.compile(r"quor_library\(\s*([\w/]+)(?:\s+LINKS\s+([\w\s]+?))?\s*\)")
+LIBRARY = re.compile(r"quor_(?:qt_)?library\(\s*([\w/]+)(?:\s+LINKS\s+([\w\s]+?))?\s*\)")
 
 
 def is_within(folder, rooms):

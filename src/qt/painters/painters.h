@@ -1,0 +1,24 @@
+#pragma once
+// The painters of all kinds of widget, found by the name of their array.
+
+#include <QRectF>
+
+#include <string_view>
+
+class QPainter;
+
+namespace quor {
+
+struct Area;
+class Widget;
+
+// Draws a widget in the area, which is in device-independent pixels.
+using WidgetPainter = void (*)(QPainter& painter, const Widget& widget, const QRectF& area);
+
+// Null for a kind that isn't drawn.
+WidgetPainter PainterFor(std::string_view arrayName);
+
+// Twips as device-independent pixels.
+QRectF PixelsOf(const Area& twips);
+
+} // namespace quor

@@ -1,0 +1,77 @@
+#include "qt/theme/style_parts.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quor {
+
+qreal HairWidth(const QPainter& painter)
+{
+    const qreal scale = painter.device()->devicePixelRatioF();
+    return std::max<qreal>(1, std::round(scale)) / scale;
+}
+
+QRectF Snapped(const QPainter& painter, const QRectF& area)
+{
+    const QTransform& transform = painter.deviceTransform();
+    const QRectF device = transform.mapRect(area);
+    const QPointF first(std::round(device.left()), std::round(device.top()));
+    const QPointF last(std::round(device.right()), std::round(device.bottom()));
+    return transform.inverted().mapRect(QRectF(first, last));
+}
+
+void DrawBox(QPainter& painter, const QRectF& area, qreal radius, const QColor& ground, const QColor& edge)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRectF box = Snapped(painter, area);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::NoBrush);
+    if (edge.isValid()) {
+        const qreal width = HairWidth(painter);
+        painter.setPen(QPen(edge, width));
+        box.adjust(width / 2, width / 2, -width / 2, -width / 2);
+    }
+    if (ground.isValid()) {
+        painter.setBrush(ground);
+    }
+    painter.drawRoundedRect(box, radius, radius);
+    painter.restore();
+}
+
+void DrawRule(QPainter& painter, const QRectF& area, Qt::Orientation orientation, const QColor& color)
+{
+    QRectF rule = Snapped(painter, area);
+    const qreal width = HairWidth(painter);
+    if (orientation == Qt::Horizontal) {
+        rule.setHeight(width);
+    } else {
+        rule.setWidth(width);
+    }
+    painter.fillRect(rule, color);
+}
+
+void DrawChevron(QPainter& painter, const QPointF& middle, Chevron direction, const QColor& color)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(middle);
+    if (direction == Chevron::Right) {
+        painter.rotate(-90);
+    }
+    painter.drawPolyline(QPolygonF({{-4, -2}, {0, 2}, {4, -2}}));
+    painter.restore();
+}
+
+QColor WithAlpha(QColor color, qreal opacity)
+{
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+} // namespace quor

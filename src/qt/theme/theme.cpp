@@ -1,0 +1,128 @@
+#include "qt/theme/theme.h"
+
+#include "qt/theme/desk_style.h"
+#include "qt/theme/icon_engine.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QTimer>
+
+#include <string>
+#include <utility>
+
+// Out of a namespace, as the macro asks.
+static void LoadIconFiles()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace quor {
+
+// Hears of a change of the desktop's theme, once for all windows that are told.
+class Theme::Follower final : public QObject {
+public:
+    explicit Follower(std::function<void()> onChange) : m_onChange(std::move(onChange))
+    {
+        m_soon.setSingleShot(true);
+        connect(&m_soon, &QTimer::timeout, this, [this] { m_onChange(); });
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ThemeChange) {
+            m_soon.start(0);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> m_onChange;
+    QTimer m_soon;
+};
+
+namespace {
+
+QFont DesktopFont(int pixels, QFont::Weight weight = QFont::Normal)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+Theme::Theme()
+{
+    LoadIconFiles();
+}
+
+Theme::~Theme() = default;
+
+void Theme::Apply(QApplication& application)
+{
+    m_application = &application;
+    AdoptDesktop();
+    QApplication::setStyle(new DeskStyle(m_colors));
+    Spread();
+    m_follower = std::make_unique<Follower>([this] {
+        QApplication::setPalette(QPalette());
+        AdoptDesktop();
+        Spread();
+    });
+    application.installEventFilter(m_follower.get());
+}
+
+void Theme::UseColors(const ThemeColors& colors)
+{
+    m_follower.reset();
+    m_colors = colors;
+    if (m_application != nullptr) {
+        Spread();
+    }
+}
+
+void Theme::AdoptDesktop()
+{
+    const std::unique_ptr<QStyle> fallback(DeskStyle::MakeBase());
+    m_colors = ColorsFor(QApplication::palette(), fallback->standardPalette());
+}
+
+void Theme::Spread() const
+{
+    QApplication::setPalette(PaletteOf(m_colors));
+    QApplication::setFont(TextFont());
+    for (const char* widgetClass : {"QMenu", "QMenuBar", "QMessageBox"}) {
+        QApplication::setFont(MenuFont(), widgetClass);
+    }
+}
+
+QIcon Theme::Icon(std::string_view name) const
+{
+    const QString path =
+        QStringLiteral(":/icons/") + QString::fromUtf8(name.data(), qsizetype(name.size())) + QStringLiteral(".svg");
+    return QFile::exists(path) ? QIcon(new ThemedIconEngine(path, m_colors)) : QIcon();
+}
+
+QFont Theme::TextFont() const
+{
+    return DesktopFont(12);
+}
+
+QFont Theme::MenuFont() const
+{
+    return DesktopFont(13);
+}
+
+QFont Theme::TitleFont() const
+{
+    return DesktopFont(12, QFont::DemiBold);
+}
+
+QFont Theme::HeadingFont() const
+{
+    return DesktopFont(18, QFont::DemiBold);
+}
+
+} // namespace quor

@@ -1,0 +1,46 @@
+#pragma once
+// The colours of the program's surroundings by their role: bars, panels, fields, menus.
+
+#include <QColor>
+#include <QPalette>
+
+namespace quor {
+
+struct ThemeColors {
+    QColor window; // ground of the main window and its bars
+    QColor panel;  // ground of panels and dialogs
+    QColor field;
+    QColor readOnlyField; // and a disabled one
+    QColor rule;
+    QColor edge; // of controls
+    QColor text;
+    QColor labelText;
+    QColor disabledText;
+    QColor accent;
+    QColor onAccent;
+    QColor selectedGround;
+    QColor selectedText;
+    QColor hover;
+    QColor pressed;
+    QColor icon;
+    QColor menu;
+    QColor button;
+    QColor thumb;
+    QColor error;
+
+    bool IsDark() const;
+};
+
+ThemeColors LightColors();
+ThemeColors DarkColors();
+
+// The colours for a desktop: derived from its palette if that is its own, else (it is the one that the toolkit falls
+// back on) the light or the dark ones, as the palette is.
+ThemeColors ColorsFor(const QPalette& desktop, const QPalette& fallback);
+
+QPalette PaletteOf(const ThemeColors& colors);
+
+// `color` mixed towards `other` by a share of 0 to 1.
+QColor Mixed(const QColor& color, const QColor& other, double share);
+
+} // namespace quor

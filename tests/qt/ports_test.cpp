@@ -1,0 +1,145 @@
+#include "base/failure.h"
+#include "qt/ports/qt_common_dialog.h"
+#include "qt/ports/qt_help.h"
+#include "qt/ports/qt_pictures.h"
+#include "qt/ports/qt_screen.h"
+#include "qt/ports/qt_settings.h"
+#include "qt/ports/qt_timers.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using namespace quor;
+
+std::int32_t NumberOf(const std::function<void()>& body)
+{
+    try {
+        body();
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+void Write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+TEST(QtSettings, BeginWithAShownGridOfTenPixelsAndKeepWhatIsSet)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("quor/view-editor.ini");
+    {
+        QtSettings settings(path);
+        EXPECT_EQ(settings.GridSize(), 10);
+        EXPECT_TRUE(settings.ShowGrid());
+        EXPECT_TRUE(settings.SnapToGrid());
+        EXPECT_EQ(settings.ViewsDirectory(),
+                  QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString());
+        settings.SetGridSize(25);
+        settings.SetShowGrid(false);
+        settings.SetSnapToGrid(false);
+    }
+    QtSettings settings(path);
+    EXPECT_EQ(settings.GridSize(), 25);
+    EXPECT_FALSE(settings.ShowGrid());
+    EXPECT_FALSE(settings.SnapToGrid());
+}
+
+TEST(QtSettings, ADamagedNumberIsTheFirstValue)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("view-editor.ini");
+    Write(path, "[grid]\nsize=many\n");
+    EXPECT_EQ(QtSettings(path).GridSize(), 10);
+    Write(path, "[grid]\nsize=-3\n");
+    EXPECT_EQ(QtSettings(path).GridSize(), 10);
+}
+
+TEST(QtPictures, TellWhatIsWrongWithAFile)
+{
+    const QTemporaryDir directory;
+    QtPictures pictures;
+    const auto load = [&](const char* name) {
+        return NumberOf([&] { pictures.LoadPicture(directory.filePath(name).toStdString()); });
+    };
+    QImage(30, 20, QImage::Format_RGB32).save(directory.filePath("good.png"));
+    QFile::copy(directory.filePath("good.png"), directory.filePath("wrong_suffix.jpg"));
+    Write(directory.filePath("text.png"), "no picture");
+    // A bitmap's header that claims 30000 x 30000 pixels.
+    QByteArray huge("BM", 2);
+    huge.append(QByteArray::fromHex("3600000000000000360000002800000030750000307500000100180000000000"));
+    huge.append(QByteArray(64, '\0'));
+    Write(directory.filePath("huge.bmp"), huge);
+
+    EXPECT_EQ(load("good.png"), 0);
+    EXPECT_EQ(load("wrong_suffix.jpg"), 0);
+    EXPECT_EQ(load("none.png"), failures::fileNotFound);
+    EXPECT_EQ(load("none/none.png"), failures::pathNotFound);
+    EXPECT_EQ(load("text.png"), failures::invalidPicture);
+    EXPECT_EQ(load("huge.bmp"), failures::invalidPicture);
+    EXPECT_EQ(pictures.LoadPicture(directory.filePath("good.png").toStdString())->PixelWidth(), 30);
+}
+
+TEST(QtScreen, TakesBackItsOwnPointerAndNoOther)
+{
+    QtScreen screen;
+    screen.SetMousePointer(MousePointer::Hourglass);
+    screen.SetMousePointer(MousePointer::Hourglass);
+    screen.SetMousePointer(MousePointer::Default);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    QGuiApplication::setOverrideCursor(Qt::CrossCursor);
+    screen.SetMousePointer(MousePointer::Default);
+    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+    QGuiApplication::restoreOverrideCursor();
+}
+
+TEST(QtTimers, AHandlerMayEndItsTimer)
+{
+    QtTimers timers;
+    std::unique_ptr<Timer> timer = timers.Make();
+    EXPECT_FALSE(timer->Enabled());
+    int fired = 0;
+    const Subscription subscription = timer->Fired.Subscribe([&] {
+        ++fired;
+        timer.reset();
+    });
+    timer->SetInterval(1);
+    timer->SetEnabled(true);
+    while (fired == 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(fired, 1);
+    EXPECT_EQ(timer, nullptr);
+}
+
+TEST(QtCommonDialog, WritesFiltersAsTheToolkitDoes)
+{
+    EXPECT_EQ(NameFilters("Quor Custom Views (*.qvw)|*.qvw"), QStringList{"Quor Custom Views (*.qvw)"});
+    EXPECT_EQ(NameFilters("Pictures|*.bmp;*.jpg|All files (all)|*.*"),
+              (QStringList{"Pictures (*.bmp *.jpg)", "All files (*.*)"}));
+    EXPECT_EQ(NameFilters(""), QStringList());
+    EXPECT_EQ(FirstSuffix("Quor Custom Views (*.qvw)|*.qvw"), "qvw");
+    EXPECT_EQ(FirstSuffix("Pictures|*.bmp;*.jpg"), "bmp");
+    EXPECT_EQ(FirstSuffix("All|*.*"), "");
+}
+
+TEST(QtHelp, FailsWithoutItsFile)
+{
+    QtHelp help;
+    EXPECT_EQ(NumberOf([&] { help.ShowContents("/none/index.html"); }), failures::fileNotFound);
+}
+
+} // namespace
