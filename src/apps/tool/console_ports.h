@@ -1,0 +1,62 @@
+#pragma once
+// The ports of a document that nobody sees: boxes and reports are kept, forms and pictures are none.
+
+#include "base/failure.h"
+#include "base/guard.h"
+#include "platform/boxes.h"
+#include "platform/forms.h"
+#include "platform/pictures.h"
+#include "platform/timer.h"
+
+#include <vector>
+
+namespace quor {
+
+// Answers No where it can.
+class KeptBoxes final : public MessageBoxes {
+public:
+    std::vector<std::string> texts;
+
+    BoxAnswer Show(const std::string& text, const std::string& /*title*/, BoxButtons buttons) override
+    {
+        texts.push_back(text);
+        return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    }
+};
+
+class KeptReports final : public Reporter {
+public:
+    std::vector<ErrorReport> reports;
+
+    void ShowError(const ErrorReport& report) noexcept override
+    {
+        IgnoreFailure([&] { reports.push_back(report); });
+    }
+};
+
+class NoForms final : public Forms {
+public:
+    void Show(Form& /*form*/) override {}
+    void ShowModal(std::unique_ptr<Form> /*form*/) override {}
+    void Hide(Form& /*form*/) override {}
+    void RunEvents() override {}
+};
+
+class NoTimers final : public Timers {
+public:
+    std::unique_ptr<Timer> Make() override { throw Failure(failures::invalidCall); }
+};
+
+// Every picture loads, and is empty.
+class NoPictures final : public Pictures {
+public:
+    PictureRef LoadPicture(const std::string& /*path*/) override { return std::make_shared<Empty>(); }
+
+private:
+    class Empty final : public Picture {
+        int PixelWidth() const override { return 0; }
+        int PixelHeight() const override { return 0; }
+    };
+};
+
+} // namespace quor

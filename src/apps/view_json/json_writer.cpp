@@ -1,0 +1,107 @@
+#include "apps/view_json/json_writer.h"
+
+#include "base/text.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+namespace quor {
+
+namespace {
+
+constexpr double sizeUnits = 10'000; // of a font, to a point
+
+// The number whose shortest text is the shortest that reads back as the same float.
+Json NumberOf(float value)
+{
+    if (std::isnan(value)) {
+        return "NaN";
+    }
+    if (std::isinf(value)) {
+        return value < 0 ? "-Infinity" : "Infinity";
+    }
+    return value == 0 ? double{value} : std::stod(Decimal(value));
+}
+
+} // namespace
+
+Json& JsonWriter::Member(std::string_view name)
+{
+    return (*m_objects.back())[std::string(name)];
+}
+
+void JsonWriter::Field(std::string_view name, bool& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::Field(std::string_view name, WideFlag& value)
+{
+    Member(name) = value.value;
+}
+
+void JsonWriter::Field(std::string_view name, std::uint8_t& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::Field(std::string_view name, std::int16_t& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::Field(std::string_view name, std::int32_t& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::Field(std::string_view name, float& value)
+{
+    Member(name) = NumberOf(value);
+}
+
+void JsonWriter::Field(std::string_view name, Color& value)
+{
+    Member(name) = value.value;
+}
+
+void JsonWriter::Field(std::string_view name, Font& value)
+{
+    Member(name) = {{"Bold", value.Bold()},
+                    {"Charset", value.Charset},
+                    {"Italic", value.Italic},
+                    {"Size", static_cast<double>(value.Size) / sizeUnits},
+                    {"Strikethrough", value.Strikethrough},
+                    {"Underline", value.Underline},
+                    {"Weight", value.Weight()},
+                    {"Name", value.Name}};
+}
+
+void JsonWriter::Field(std::string_view name, std::string& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::ByteField(std::string_view name, std::int32_t& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::NameField(std::string_view name, std::string& value)
+{
+    Member(name) = value;
+}
+
+void JsonWriter::Begin(std::string_view part)
+{
+    Json& object = Member(part);
+    object = Json::object();
+    m_objects.push_back(&object);
+}
+
+void JsonWriter::End()
+{
+    m_objects.pop_back();
+}
+
+} // namespace quor
