@@ -156,6 +156,7 @@ private:
     void UpdateEditTools();
 
     void Widget_MouseDown(Widget& widget, MouseButton button, float x, float y);
+    void ssScroll_Scroll();
     void Canvas_Release(bool isBackground, MouseButton button);
     void DropControl(DragSource source, float x, float y, float offsetTop, float offsetLeft);
     void MoveSelected(float x, float y);

@@ -110,6 +110,11 @@ void frmMain::ssScroll_Click()
     Guard(m_ports.reporter, Ref("frmMain.ssScroll_Click"), editWords, [&] { ReleaseControl(); });
 }
 
+void frmMain::ssScroll_Scroll()
+{
+    Guard(m_ports.reporter, Ref("frmMain.ssScroll_Scroll"), editWords, [&] { m_view->RepaintAll(); });
+}
+
 void frmMain::Drop(const CanvasTarget& target, float x, float y)
 {
     const DragSource source = std::exchange(m_drag, {});

@@ -28,13 +28,16 @@ std::string TitleWords(std::string_view before, std::string_view after)
 } // namespace
 
 frmMain::frmMain(const EditorPorts& ports)
-    : m_ports(ports), m_bars(MakeEditorBars()), tmrDelControl(ports.timers.Make())
+    : m_ports(ports), m_bars(MakeEditorBars()), m_toolbox(std::make_unique<frmViewToolbox>(ports.reporter, *this)),
+      tmrDelControl(ports.timers.Make())
 {
     AddWidgetArrays(m_canvas);
+    m_view = MakeView();
     m_canvas.SetScrollMaxima(startWidth, startHeight);
     tmrDelControl->SetInterval(deleteDelay);
     m_subscriptions.push_back(tmrDelControl->Fired.Subscribe([this] { tmrDelControl_Timer(); }));
     BindBars();
+    m_subscriptions.push_back(m_canvas.Scrolled.Subscribe([this] { ssScroll_Scroll(); }));
 }
 
 frmMain::~frmMain()
@@ -50,11 +53,9 @@ void frmMain::Form_Load(const std::string& tail)
         if (m_unloading) {
             return;
         }
-        m_view = MakeView();
         m_gridSize = Narrow<std::int16_t>(m_ports.settings.GridSize());
         m_ports.live.DesignMode = true;
         LoadGrid();
-        m_toolbox = std::make_unique<frmViewToolbox>(m_ports.reporter, *this);
         m_bars->Set(&Bars::ClientArea, "ssScroll");
         LoadSettings();
         m_bars->RecalcLayout();
@@ -143,7 +144,7 @@ void frmMain::Form_Unload()
         tmrDelControl->SetEnabled(false);
         CancelDrag();
         m_selected = nullptr;
-        m_view.reset();
+        // The view ends with the form: an operation on it may be waiting for an answer.
         m_ports.forms.UnloadAll();
     });
     Unloaded.Raise();
