@@ -1,5 +1,7 @@
 #include "forms/form.h"
 
+#include "base/guard.h"
+
 namespace quor {
 
 namespace {
@@ -16,6 +18,11 @@ template <class Flag> Button* FindButton(const Form& form, Flag flag)
 }
 
 } // namespace
+
+Form::~Form()
+{
+    IgnoreFailure([this] { Unload(); });
+}
 
 Button* Form::DefaultButton() const
 {

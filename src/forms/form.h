@@ -13,16 +13,17 @@
 
 namespace quor {
 
-// One control on a line. Pixels.
+// One control on a line. Pixels. The first of a line that has no room at its place begins at the left margin.
 struct LayoutItem {
     static constexpr int behind = -1;  // as x: behind the item before it
     static constexpr int filling = -1; // as width: to the item behind it or to the right margin
 
     Control* control;
     int x = behind;
-    int width = 0;        // 0: as wide as it needs; buttons grow beyond it where their caption doesn't fit
-    int height = 0;       // 0: the usual one of its kind; labels that wrap, lists and images get the line's
+    int width = 0;        // 0: as wide as it needs; a button grows beyond it where its caption doesn't fit
+    int height = 0;       // 0: the usual one of its kind; labels, check boxes and images get the line's
     int gap = 8;          // to the item before it
+    int least = 0;        // over 0: the width may shrink to it where the line has no room
     bool atRight = false; // with the others of its line that are, it ends at the right margin
 };
 
@@ -40,6 +41,7 @@ public:
     using ControlList = KeyedList<std::unique_ptr<Control>>;
 
     explicit Form(std::string name) : m_name(std::move(name)) {}
+    ~Form() override; // unloads it
 
     const std::string& Name() const noexcept { return m_name; }
 

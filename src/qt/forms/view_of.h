@@ -1,0 +1,43 @@
+#pragma once
+// The shape of all views of controls, for the files that make them.
+
+#include "forms/controls.h"
+#include "qt/forms/control_view.h"
+#include "qt/ports/qt_text.h"
+
+#include <QWidget>
+
+namespace quor {
+
+// Shows a control of the class C by a widget of the class W. Derived classes read what C adds to every control.
+template <class C, class W> class ViewOf : public ControlView {
+public:
+    ViewOf(C& control, W* widget) : ControlView(*widget), m_control(control), m_shown(widget)
+    {
+        widget->setObjectName(ToQt(control.Name()));
+    }
+
+    void Read() override
+    {
+        m_shown->setEnabled(m_control.Enabled());
+        m_shown->setVisible(m_control.Visible());
+        ReadLook();
+    }
+    int NaturalWidth() const override { return m_shown->sizeHint().width(); }
+    int NaturalHeight() const override { return 0; }
+
+protected:
+    C& Model() const noexcept { return m_control; }
+    W& Shown() const noexcept { return *m_shown; }
+
+private:
+    virtual void ReadLook() {}
+
+    C& m_control;
+    W* m_shown;
+};
+
+// The views of the controls that hold what a user enters; null for other controls.
+std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme, QWidget& parent);
+
+} // namespace quor
