@@ -62,7 +62,7 @@ Descriptor::Descriptor(std::string path, int flags, unsigned mode) : m_path(std:
     struct stat status {};
     if (fstat(m_number, &status) != 0 || !S_ISREG(status.st_mode)) {
         close(m_number);
-        Fail(S_ISDIR(status.st_mode) ? EISDIR : EINVAL, m_path);
+        throw Failure(failures::pathFileAccess, "This is no regular file.");
     }
 }
 

@@ -1,5 +1,6 @@
 #include "posix/safe_replace.h"
 
+#include "base/failure.h"
 #include "posix/descriptor.h"
 
 #include <array>
@@ -50,7 +51,7 @@ struct Target {
         }
         exists = true;
         if (!S_ISREG(status.st_mode)) {
-            Fail(S_ISDIR(status.st_mode) ? EISDIR : EINVAL, path);
+            throw Failure(failures::pathFileAccess, "This is no regular file.");
         }
         // A privileged user may write all, but a file that nobody may write is meant to stay.
         constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;

@@ -39,6 +39,7 @@ public:
     void Show(Form& /*form*/) override {}
     void ShowModal(std::unique_ptr<Form> /*form*/) override {}
     void Hide(Form& /*form*/) override {}
+    void UnloadAll() override {}
     void RunEvents() override {}
 };
 

@@ -8,6 +8,7 @@
 #include "document/format/upgrade.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
+#include "support/frm_view_pbar.h"
 #include "widgets/canvas.h"
 
 #include <algorithm>
@@ -57,7 +58,15 @@ std::string_view WordFor(LoadVerdict verdict)
 class Desk {
 public:
     explicit Desk(Files& files)
-        : m_live{true}, m_view({files, m_boxes, m_reports, m_forms, m_timers, m_pictures, m_live}, WithArrays(m_canvas))
+        : m_live{true}, m_view({.files = files,
+                                .boxes = m_boxes,
+                                .reporter = m_reports,
+                                .forms = m_forms,
+                                .timers = m_timers,
+                                .pictures = m_pictures,
+                                .progress = m_progress,
+                                .live = m_live},
+                               WithArrays(m_canvas))
     {
     }
 
@@ -95,6 +104,7 @@ private:
     NoForms m_forms;
     NoTimers m_timers;
     NoPictures m_pictures;
+    frmViewPBar m_progress{m_forms};
     Live m_live;
     Canvas m_canvas;
     clsCustView m_view;

@@ -1,7 +1,7 @@
 #include "apps/view_json/json_writer.h"
 
-#include "base/text.h"
-
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -20,7 +20,11 @@ Json NumberOf(float value)
     if (std::isinf(value)) {
         return value < 0 ? "-Infinity" : "Infinity";
     }
-    return value == 0 ? double{value} : std::stod(Decimal(value));
+    std::array<char, 32> text;
+    const char* end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    double number = 0;
+    std::from_chars(text.data(), end, number);
+    return number;
 }
 
 } // namespace

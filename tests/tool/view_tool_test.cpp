@@ -1,0 +1,178 @@
+#include "base/text.h"
+#include "tests/tool/tool_case.h"
+
+namespace quor {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+using Tool = ToolCase;
+
+std::string SampleText(const std::string& name)
+{
+    const Bytes bytes = Sample(name);
+    return {bytes.begin(), bytes.end()};
+}
+
+std::string Replaced(std::string text, std::string_view what, std::string_view by)
+{
+    const std::size_t at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return text.replace(at, what.size(), by);
+}
+
+TEST_F(Tool, ChecksEachFileInALineOfItsOwn)
+{
+    const std::pair<std::string, const char*> cases[] = {
+        {"hostile/wrong_magic.qvw", "wrong-file: "},
+        {"hostile/version_4.qvw", "newer: "},
+        {"old/v1_mixed.qvw", "old-version"},
+        {"hostile/flipped_byte.qvw", "corrupt: "},
+        {"hostile/payload_too_short.qvw", "load-failure: BevelStyle needs 4 bytes at offset 26"},
+        {"missing.qvw", "load-failure: "},
+        {"round_led.qvw", "ok"},
+    };
+    std::vector<std::string> arguments{"check"};
+    for (const auto& [name, verdict] : cases) {
+        if (name != "missing.qvw") {
+            PutSample(name);
+        }
+        arguments.push_back(name);
+    }
+    EXPECT_EQ(Run(arguments), 1);
+    std::istringstream lines(out.str());
+    for (const auto& [name, verdict] : cases) {
+        std::string line;
+        std::getline(lines, line);
+        EXPECT_TRUE(line.starts_with(name + ": " + verdict)) << line;
+    }
+    EXPECT_EQ(errors.str(), "");
+    EXPECT_EQ(Run({"check", "round_led.qvw"}), 0);
+    EXPECT_EQ(out.str(), "round_led.qvw: ok\n");
+}
+
+TEST_F(Tool, BuildsDumpsAndResavesTheSameBytes)
+{
+    for (const std::string name : {"empty", "round_led", "leds_30"}) {
+        const Bytes sample = Sample(name + ".qvw");
+        PutSample(name + ".json");
+        EXPECT_EQ(Run({"build", name + ".json", "built.qvw"}), 0) << errors.str();
+        EXPECT_EQ(files.Get("built.qvw"), sample);
+        EXPECT_EQ(Run({"resave", "built.qvw", "again.qvw"}), 0);
+        EXPECT_EQ(files.Get("again.qvw"), sample);
+        EXPECT_EQ(Run({"dump", "built.qvw"}), 0);
+        files.PutText("dumped.json", out.str());
+        EXPECT_EQ(Run({"build", "dumped.json", "built.qvw"}), 0) << errors.str();
+        EXPECT_EQ(files.Get("built.qvw"), sample);
+    }
+}
+
+TEST_F(Tool, KeepsEveryFloat)
+{
+    const std::string text = SampleText("leds_30.json");
+    const std::size_t at = text.find("\"ObjWidth\": ") + sizeof "\"ObjWidth\":";
+    for (const std::string number : {"0.1", "-0.0", "\"NaN\"", "\"Infinity\"", "\"-Infinity\"", "3.4028235e+38",
+                                     "1e-45", "16777216.0", "12345.678"}) {
+        std::string edited = text;
+        files.PutText("a.json", edited.replace(at, text.find(',', at) - at, number));
+        ASSERT_EQ(Run({"build", "a.json", "a.qvw"}), 0) << errors.str();
+        ASSERT_EQ(Run({"dump", "a.qvw"}), 0);
+        EXPECT_NE(out.str().find("\"ObjWidth\": " + number + ','), std::string::npos) << number;
+    }
+}
+
+TEST_F(Tool, KeepsEveryCharacterOfTheCodePage)
+{
+    std::string all;
+    for (unsigned byte = ' '; byte < 256; ++byte) {
+        all += byte == '"' || byte == '\\' ? "" : FromAnsi(Bytes{static_cast<std::uint8_t>(byte)});
+    }
+    files.PutText("a.json", Replaced(SampleText("empty.json"), "General", all));
+    ASSERT_EQ(Run({"build", "a.json", "a.qvw"}), 0) << errors.str();
+    ASSERT_EQ(Run({"dump", "a.qvw"}), 0);
+    EXPECT_NE(out.str().find("\"ViewCategory\": \"" + all + '"'), std::string::npos) << out.str();
+}
+
+TEST_F(Tool, NamesTheKeyThatIsWrongAndWritesNothing)
+{
+    const std::string text = SampleText("round_led.json");
+    const struct {
+        const char* what;
+        const char* by;
+        const char* line;
+    } cases[] = {
+        {"{", "", "[json.exception.parse_error"},
+        {"{", "[{", "[json.exception.parse_error"},
+        {"\"BGColor\": -2147483633", "\"BGColor\": -2147483649", "BGColor is out of range."},
+        {"\"BGColor\": -2147483633", "\"BGColor\": 2147483648", "BGColor is out of range."},
+        {"\"BGColor\": -2147483633", "\"BGColor\": 1.5", "BGColor is no whole number."},
+        {"\"BGColor\"", "\"Colour\"", "BGColor is missing."},
+        {"\"BGPicMode\"", "\"More\": 1, \"BGPicMode\"", "More is no key here."},
+        {"\"ViewCategory\": \"", "\"ViewCategory\": \"Ω", "ViewCategory has a character that windows-1252 lacks."},
+        {"\"Elements\": [", "\"Elements\": [7, ", "Elements[0]: An object is wanted."},
+        {"\"Type\": 3", "\"Type\": 11", "Elements[0]: Type 11 is no kind of element."},
+        {"\"AutoInactive\": false", "\"AutoInactive\": 0", "Elements[0]: AutoInactive is neither true nor false."},
+        {"\"ObjWidth\": 255.0", "\"ObjWidth\": 1e39", "Elements[0]: ObjWidth is out of range."},
+        {"\"ObjWidth\": 255.0", "\"ObjWidth\": \"nan\"", "Elements[0]: ObjWidth is no number."},
+        {"\"ObjName\": \"LED (Round) 1\"", "\"ObjName\": 1", "Elements[0]: ObjName is no text."},
+        {"\"ObjName\": \"LED (Round) 1\"", "\"ObjName\": \"a\\u0000b\"", "Elements[0]: ObjName has a character"},
+        {"\"LED (Round) 2\"", "\"led (round) 1\"", "Elements[1]: This key is already in use"},
+        {"\"Unit\": 0", "\"Unit\": 256", "Elements[0]: ClickAction.Unit is out of range."},
+        {"\"CtrlClick\": false", "\"Ctrl\": false", "Elements[0]: ClickAction.CtrlClick is missing."},
+    };
+    for (const auto& [what, by, line] : cases) {
+        files.PutText("a.json", Replaced(text, what, by));
+        EXPECT_EQ(Run({"build", "a.json", "out.qvw"}), 2) << by;
+        EXPECT_TRUE(errors.str().starts_with(std::string("a.json: ") + line)) << errors.str();
+        EXPECT_EQ(errors.str().find('\n'), errors.str().size() - 1);
+        EXPECT_EQ(files.Paths(), std::vector<std::string>{"a.json"});
+    }
+}
+
+TEST_F(Tool, UpgradesOldFilesAlone)
+{
+    for (const std::string name : {"old/v1_mixed", "old/v2_mixed"}) {
+        PutSample(name + ".qvw");
+        EXPECT_EQ(Run({"upgrade", name + ".qvw", "out.qvw"}), 0);
+        EXPECT_EQ(files.Get("out.qvw"), Sample(name + ".upgraded.qvw"));
+        EXPECT_EQ(files.Get(name + ".qvw"), Sample(name + ".qvw"));
+    }
+    files.Erase("out.qvw");
+    for (const char* name :
+         {"empty.qvw", "hostile/version_0.qvw", "hostile/version_4.qvw", "hostile/wrong_magic.qvw"}) {
+        PutSample(name);
+        EXPECT_EQ(Run({"upgrade", name, "out.qvw"}), 2) << name;
+        EXPECT_TRUE(errors.str().starts_with(name)) << errors.str();
+        EXPECT_FALSE(files.Has("out.qvw"));
+    }
+}
+
+TEST_F(Tool, LeavesNothingBehindWhereWritingFails)
+{
+    for (const char* name : {"old/v1_mixed.qvw", "round_led.qvw", "round_led.json"}) {
+        PutSample(name);
+    }
+    files.PutText("out.qvw", "old");
+    const std::vector<std::string> before = files.Paths();
+    for (const char* operation : {"write", "copy"}) {
+        for (const auto& [command, source] :
+             {std::pair{"upgrade", "old/v1_mixed.qvw"}, {"resave", "round_led.qvw"}, {"build", "round_led.json"}}) {
+            files.planned.Plan(operation, 1, failures::permissionDenied);
+            EXPECT_EQ(Run({command, source, "out.qvw"}), 2) << command << operation;
+            EXPECT_NE(errors.str().find("Permission denied"), std::string::npos) << errors.str();
+            EXPECT_EQ(files.Text("out.qvw"), "old");
+            EXPECT_EQ(files.Paths(), before);
+        }
+    }
+}
+
+TEST_F(Tool, ShowsItsUsageWhereItIsNotUnderstood)
+{
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {}, {"check"}, {"dump"}, {"dump", "a", "b"}, {"resave", "a"}, {"bild", "a", "b"}}) {
+        EXPECT_EQ(Run(arguments), 2);
+        EXPECT_TRUE(errors.str().starts_with("usage: ")) << errors.str();
+    }
+}
+
+} // namespace
+} // namespace quor
