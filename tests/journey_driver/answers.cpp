@@ -77,15 +77,20 @@ Characters Split(std::string_view text, bool isPattern)
     return characters;
 }
 
-bool MatchesInOrder(std::span<const Expected> block, std::span<const std::string> lines)
+bool Meets(const Expected& expected, const AnswerLine& line)
+{
+    return MatchesLine(expected.pattern, line.text) ||
+           (!line.quoted.empty() && MatchesLine(expected.pattern, line.quoted));
+}
+
+bool MatchesInOrder(std::span<const Expected> block, std::span<const AnswerLine> lines)
 {
     return MatchesRuns(
-        block, lines, [](const Expected& expected) { return expected.pattern == "*"; },
-        [](const Expected& expected, const std::string& line) { return MatchesLine(expected.pattern, line); });
+        block, lines, [](const Expected& expected) { return expected.pattern == "*"; }, Meets);
 }
 
 // How many of the lines in order are met, from the first on.
-std::size_t MetInOrder(const std::vector<Expected>& inOrder, const std::vector<std::string>& lines)
+std::size_t MetInOrder(const std::vector<Expected>& inOrder, const std::vector<AnswerLine>& lines)
 {
     for (std::size_t count = inOrder.size(); count > 0; --count) {
         std::vector<Expected> head(inOrder.begin(), inOrder.begin() + static_cast<std::ptrdiff_t>(count));
@@ -98,14 +103,14 @@ std::size_t MetInOrder(const std::vector<Expected>& inOrder, const std::vector<s
 }
 
 // The expected lines that are not met.
-std::vector<const Expected*> Unmet(const std::vector<Expected>& block, const std::vector<std::string>& lines)
+std::vector<const Expected*> Unmet(const std::vector<Expected>& block, const std::vector<AnswerLine>& lines)
 {
     std::vector<const Expected*> unmet;
     std::vector<Expected> inOrder;
     std::vector<const Expected*> origins;
     for (const Expected& expected : block) {
-        const bool isThere = std::any_of(lines.begin(), lines.end(),
-                                         [&](const std::string& line) { return MatchesLine(expected.pattern, line); });
+        const bool isThere =
+            std::any_of(lines.begin(), lines.end(), [&](const AnswerLine& line) { return Meets(expected, line); });
         if (expected.kind == Expected::Kind::InOrder) {
             inOrder.push_back(expected);
             origins.push_back(&expected);
@@ -131,7 +136,7 @@ bool MatchesLine(std::string_view pattern, std::string_view line)
         });
 }
 
-std::string Difference(const std::vector<Expected>& block, const std::vector<std::string>& lines)
+std::string Difference(const std::vector<Expected>& block, const std::vector<AnswerLine>& lines)
 {
     const std::vector<const Expected*> unmet = Unmet(block, lines);
     if (unmet.empty()) {
@@ -145,8 +150,8 @@ std::string Difference(const std::vector<Expected>& block, const std::vector<std
         text += std::string(marks[static_cast<std::size_t>(expected.kind)]) + expected.pattern + '\n';
     }
     text += unmet.back() == nullptr ? "  * and nothing more\n  came\n" : "  came\n";
-    for (const std::string& line : lines) {
-        text += "    " + line + '\n';
+    for (const AnswerLine& line : lines) {
+        text += "    " + line.text + '\n';
     }
     return text + (lines.empty() ? "    nothing\n" : "");
 }

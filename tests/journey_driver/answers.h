@@ -17,9 +17,14 @@ struct Expected {
     std::string pattern;
 };
 
+struct AnswerLine {
+    std::string text;
+    std::string quoted{}; // of a bare text: the same with quotes around it, which will do as well; else empty
+};
+
 bool MatchesLine(std::string_view pattern, std::string_view line);
 
 // Empty if all is as expected; otherwise both, with a mark at the first expected line that isn't met.
-std::string Difference(const std::vector<Expected>& block, const std::vector<std::string>& lines);
+std::string Difference(const std::vector<Expected>& block, const std::vector<AnswerLine>& lines);
 
 } // namespace quor

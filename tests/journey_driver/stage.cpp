@@ -1,0 +1,250 @@
+#include "tests/journey_driver/stage.h"
+
+#include "document/view_document.h"
+#include "editor/application.h"
+#include "editor/main_form.h"
+#include "forms/bars.h"
+#include "support/frm_view_pbar.h"
+#include "tests/journey_driver/format.h"
+#include "tests/journey_driver/lone_view.h"
+#include "tests/journey_driver/widget_tracer.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace quor {
+
+namespace {
+
+const std::string programFolder = "program";
+const std::string logPath = programFolder + "/error.log";
+const std::string reportForm = "frmError";
+
+std::string_view Words(BoxButtons buttons)
+{
+    constexpr std::string_view words[] = {"ok", "yes no", "yes no cancel"};
+    return words[static_cast<std::size_t>(buttons)];
+}
+
+std::string DialogText(const CommonDialog& dialog, DialogKind kind)
+{
+    constexpr std::string_view kinds[] = {"open", "save", "color", "font"};
+    std::string text = "dialog " + std::string(kinds[static_cast<std::size_t>(kind)]);
+    const bool isOfFiles = kind == DialogKind::Open || kind == DialogKind::Save;
+    if (isOfFiles) {
+        text += " filter " + Quoted(dialog.Filter);
+    }
+    text += " flags " + ValueText(dialog.Flags);
+    if (isOfFiles) {
+        text += " file " + Quoted(dialog.FileName) + " directory " + Quoted(dialog.InitialDirectory);
+    }
+    return text;
+}
+
+} // namespace
+
+Stage::Stage(Output& output, std::string folder)
+    : out(output), m_folder(std::move(folder)),
+      m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock}, programFolder, "user"),
+      m_tracer(std::make_unique<WidgetTracer>(*this))
+{
+    ListenToPorts();
+}
+
+Stage::~Stage() = default;
+
+bool Stage::HasHostFile(const std::string& path) const
+{
+    return std::filesystem::is_regular_file(std::filesystem::path(m_folder) / path);
+}
+
+FakeFiles::Bytes Stage::HostBytes(const std::string& path) const
+{
+    std::ifstream file(std::filesystem::path(m_folder) / path, std::ios::binary);
+    if (!HasHostFile(path) || !file) {
+        throw JourneyError("can't be opened: " + path);
+    }
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void Stage::ListenToPorts()
+{
+    const auto keep = [&](Subscription subscription) { m_portSubscriptions.push_back(std::move(subscription)); };
+    keep(files.Called.Subscribe([this](const std::string& call) {
+        if (IsTraced("files")) {
+            out.Line(call);
+        }
+    }));
+    keep(screen.PointerSet.Subscribe([this](MousePointer pointer) {
+        if (IsTraced("screen")) {
+            out.Line("pointer " + std::to_string(static_cast<int>(pointer)));
+        }
+    }));
+    keep(login.LogOnShown.Subscribe([this] {
+        if (IsTraced("screen")) {
+            out.Line("logon dialog");
+        }
+    }));
+    keep(boxes.Shown.Subscribe([this](const ShownBox& box) {
+        out.Line("message " + Quoted(box.text) + " title " + Quoted(box.title) + " buttons " +
+                 std::string(Words(box.buttons)));
+    }));
+    keep(dialog.Shown.Subscribe([this](DialogKind kind) { out.Line(DialogText(dialog, kind)); }));
+    keep(forms.Shown.Subscribe([this](Form& form) { OnForm(form); }));
+    keep(m_progress.Stepped.Subscribe([this](std::int32_t value) {
+        if (IsTraced("screen")) {
+            out.Line("progress step " + std::to_string(value));
+        }
+    }));
+    keep(m_reporter.Reported.Subscribe([this](const ErrorReport& report) { OnReport(report); }));
+    keep(forms.ModalShown.Subscribe([this](Form& form) {
+        if (form.Name() == reportForm) {
+            for (const std::string& button : std::exchange(reportButtons, {})) {
+                form.Item<Button>(button).Push();
+            }
+        }
+    }));
+}
+
+void Stage::OnForm(Form& form)
+{
+    if (form.Name() == "frmSplash") {
+        out.Line("splash " + Quoted(form.Item<Label>("lblSplash").Caption()));
+    } else if (const auto* progress = dynamic_cast<const frmViewPBar*>(&form)) {
+        out.Line("progress " + Quoted(progress->lblStatus.Caption()) + ' ' + ValueText(progress->pbrConfig.Maximum()));
+    }
+}
+
+void Stage::OnReport(const ErrorReport& report)
+{
+    out.Line("error " + Quoted(report.message) + " number " + ValueText(report.number) + " source " +
+             Quoted(report.source) + " description " + Quoted(report.description) + " ref " + ValueText(report.ref));
+}
+
+void Stage::BeforeStep(std::span<const Word> words)
+{
+    // An error report stays on the screen for steps that speak of it; else the user has read it.
+    const bool isRead = std::ranges::none_of(words, [](const Word& word) { return word.text.starts_with(reportForm); });
+    if (isRead) {
+        CloseReports();
+    }
+}
+
+void Stage::CloseReports()
+{
+    while (Form* report = forms.Find(reportForm)) {
+        report->Item<Button>("cmdOK").Push();
+    }
+}
+
+void Stage::AfterStep()
+{
+    if (m_application != nullptr && m_application->HasEnded() && !m_endIsTold) {
+        CloseReports();
+        m_endIsTold = true;
+        out.Line("ended");
+        m_programSubscriptions.clear();
+        m_application.reset();
+    }
+}
+
+void Stage::Start(const std::string& tail)
+{
+    if (m_application != nullptr || m_liveView != nullptr) {
+        throw JourneyError("the program runs already");
+    }
+    m_live = {};
+    m_endIsTold = false;
+    m_selected.clear();
+    const EditorPorts ports{files,    boxes,    dialog, forms,      timers,     screen,
+                            pictures, settings, login,  m_reporter, m_progress, m_live};
+    m_application = std::make_unique<Application>(ports, tail);
+    const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
+    keep(m_application->MainFormLoads.Subscribe([this](frmMain& main) { ListenTo(main); }));
+    keep(m_application->MainFormShown.Subscribe([this](frmMain&) { out.Line("main form"); }));
+    m_application->Start();
+}
+
+void Stage::ListenTo(frmMain& main)
+{
+    const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
+    main.ssScroll().SetTracer(m_tracer.get());
+    keep(main.SelectionChanged.Subscribe([this](const Widget* widget) {
+        const std::string name = widget == nullptr ? "" : widget->Tag();
+        if (widget == nullptr) {
+            out.Line("select none");
+        } else if (name != m_selected) {
+            out.Line("select " + Quoted(name));
+        }
+        m_selected = name;
+    }));
+    keep(main.StatusChanged.Subscribe([this](const std::string& text) { out.Line("status " + Quoted(text)); }));
+    keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Line("popup " + band.Name); }));
+}
+
+void Stage::OpenLive(const std::string& path)
+{
+    if (m_application != nullptr) {
+        throw JourneyError("the editor runs already");
+    }
+    m_live = {};
+    const ViewPorts ports{files, boxes, m_reporter, forms, timers, pictures, m_progress, m_live};
+    m_liveView = std::make_unique<LoneView>(ports, m_tracer.get(), path);
+}
+
+frmMain& Stage::Main() const
+{
+    frmMain* main = m_application == nullptr ? nullptr : m_application->MainForm();
+    if (main == nullptr) {
+        throw JourneyError("the main form isn't there");
+    }
+    return *main;
+}
+
+clsCustView& Stage::View() const
+{
+    return m_liveView != nullptr ? m_liveView->View() : Main().View();
+}
+
+Canvas& Stage::CanvasInUse() const
+{
+    return m_liveView != nullptr ? m_liveView->OwnCanvas() : Main().ssScroll();
+}
+
+Element& Stage::ElementOf(const std::string& name) const
+{
+    for (Element* element : View().CtlOrder()) {
+        if (element->ObjName() == name) {
+            return *element;
+        }
+    }
+    throw JourneyError("no such element: " + name);
+}
+
+Form& Stage::FormOf(const std::string& name) const
+{
+    if (Form* form = forms.Find(name)) {
+        return *form;
+    }
+    throw JourneyError("no such form: " + name);
+}
+
+std::vector<std::string> Stage::LogLines() const
+{
+    std::vector<std::string> lines;
+    if (files.Has(logPath)) {
+        lines = SplitLines(files.Text(logPath));
+    }
+    return lines;
+}
+
+std::vector<std::string> Stage::FilePaths() const
+{
+    std::vector<std::string> paths = files.Paths();
+    std::erase(paths, logPath);
+    return paths;
+}
+
+} // namespace quor

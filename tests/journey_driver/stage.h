@@ -1,0 +1,105 @@
+#pragma once
+// The program on its stage: every port in memory, and what it says as lines.
+
+#include "binding/live.h"
+#include "support/error_report.h"
+#include "support/frm_view_pbar.h"
+#include "tests/journey_driver/journey.h"
+#include "tests/journey_driver/output.h"
+#include "tests/support/fake_boxes.h"
+#include "tests/support/fake_clipboard.h"
+#include "tests/support/fake_dialog.h"
+#include "tests/support/fake_files.h"
+#include "tests/support/fake_forms.h"
+#include "tests/support/fake_login.h"
+#include "tests/support/fake_pictures.h"
+#include "tests/support/fake_screen.h"
+#include "tests/support/fake_settings.h"
+#include "tests/support/fake_timers.h"
+
+#include <memory>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quor {
+
+class Application;
+class Canvas;
+class Element;
+class Form;
+class LoneView;
+class WidgetTracer;
+class clsCustView;
+class frmMain;
+
+class Stage {
+public:
+    // Paths of the journey's own files are relative to the folder.
+    Stage(Output& output, std::string folder);
+    ~Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    Output& out;
+    FakeFiles files;
+    FakeTimers timers;
+    FakeForms forms{timers};
+    FakeBoxes boxes;
+    FakeDialog dialog;
+    FakeSettings settings;
+    FakeLogin login;
+    FakePictures pictures{files};
+    FakeClipboard clipboard;
+    FakeScreen screen;
+    FakeClock clock;
+    std::string server;                     // its sites, as JSON
+    std::vector<std::string> reportButtons; // that the user pushes in the next error report
+    std::set<std::string> traced;           // what is traced
+
+    // A file of the journey's folder; fails with JourneyError.
+    bool HasHostFile(const std::string& path) const;
+    FakeFiles::Bytes HostBytes(const std::string& path) const;
+
+    // Runs one step; what it leaves to be ended, ends behind it.
+    void BeforeStep(std::span<const Word> words);
+    void AfterStep();
+
+    void Start(const std::string& tail);
+    void OpenLive(const std::string& path);
+
+    bool IsLive() const noexcept { return m_liveView != nullptr; }
+
+    // Each fails with JourneyError where there is none.
+    frmMain& Main() const;
+    clsCustView& View() const;
+    Canvas& CanvasInUse() const;
+    Element& ElementOf(const std::string& name) const;
+    Form& FormOf(const std::string& name) const;
+
+    bool IsTraced(const std::string& what) const { return traced.contains(what); }
+    std::vector<std::string> LogLines() const;
+    std::vector<std::string> FilePaths() const; // without the log
+
+private:
+    void ListenToPorts();
+    void ListenTo(frmMain& main);
+    void OnForm(Form& form);
+    void OnReport(const ErrorReport& report);
+    void CloseReports();
+
+    std::string m_folder;
+    Live m_live;
+    frmViewPBar m_progress{forms};
+    ErrorReporter m_reporter;
+    std::unique_ptr<WidgetTracer> m_tracer;
+    std::unique_ptr<Application> m_application;
+    std::unique_ptr<LoneView> m_liveView;
+    std::string m_selected; // the name of the selected element
+    bool m_endIsTold = true;
+    std::vector<Subscription> m_portSubscriptions;
+    std::vector<Subscription> m_programSubscriptions;
+};
+
+} // namespace quor
