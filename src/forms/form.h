@@ -18,7 +18,7 @@ struct LayoutItem {
     static constexpr int behind = -1;  // as x: behind the item before it
     static constexpr int filling = -1; // as width: to the item behind it or to the right margin
 
-    Control* control;
+    Control* control = nullptr;
     int x = behind;
     int width = 0;        // 0: as wide as it needs; a button grows beyond it where its caption doesn't fit
     int height = 0;       // 0: the usual one of its kind; labels, check boxes and images get the line's

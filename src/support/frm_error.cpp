@@ -22,7 +22,7 @@ std::string NumberText(std::int32_t number)
     if (number >= 0) {
         return std::to_string(number);
     }
-    std::array<char, 8> digits;
+    std::array<char, 8> digits{};
     std::to_chars(digits.begin(), digits.end(), static_cast<std::uint32_t>(number), 16);
     for (char& digit : digits) {
         digit = digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
@@ -65,7 +65,7 @@ frmError::frmError(Screen& screen, Clipboard& clipboard, Clock& clock)
           .items = {{.control = &lblErrorSource, .x = 20},
                     {.control = &lblErrSource, .x = 124, .width = LayoutItem::filling}}},
          {.height = 24, .items = {{.control = &lblErrorDescription, .x = 20}}},
-         {.y = 193, .height = 72, .items = {{.control = &lblErrDescription, .x = 124, .width = LayoutItem::filling}}}});
+         {.y = 194, .height = 72, .items = {{.control = &lblErrDescription, .x = 124, .width = LayoutItem::filling}}}});
     m_onCopy = cmdCopy.Click.Subscribe(Quietly([this] { CopyToClipboard(); }));
     m_onDetails = cmdDetails.Click.Subscribe(Quietly([this] { ShowDetails(!m_showsDetails); }));
     m_onOk = cmdOK.Click.Subscribe(Quietly([this] { Unload(); }));
