@@ -34,6 +34,8 @@ void frmMain::abViewEdit_Band(const std::string& band, bool isOpen)
     const auto follow = [&] {
         if (band == "bndToolbox") {
             m_bars->Tool("miToolbox").Set(&BarTool::Checked, isOpen);
+        } else if (band == "bndObjProps") {
+            m_bars->Tool("miToolProps").Set(&BarTool::Checked, isOpen);
         }
     };
     if (isOpen) {

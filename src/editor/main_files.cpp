@@ -4,6 +4,7 @@
 #include "document/format/container.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
+#include "editor/property_panel.h"
 #include "platform/boxes.h"
 #include "platform/common_dialog.h"
 #include "platform/files.h"
@@ -34,6 +35,7 @@ void frmMain::NewView()
               m_view->Set(&clsCustView::BGColor, colors::buttonFace);
               m_view->Set(&clsCustView::BGPicture, std::string());
               m_view->Set(&clsCustView::BGPicMode, picture_modes::centered);
+              ShowPropertyPages(PropertyPanel::viewBand, true);
               m_savedChecksum = GetCurrentChecksum();
           });
 }

@@ -5,6 +5,7 @@
 #include "editor/editor_ports.h"
 #include "editor/frm_view_toolbox.h"
 #include "editor/mouse.h"
+#include "pages/page_host.h"
 #include "widgets/canvas.h"
 
 #include <cstdint>
@@ -19,6 +20,7 @@ namespace quor {
 
 class Bars;
 class Element;
+class PropertyPanel;
 class Timer;
 class clsCustView;
 
@@ -28,7 +30,7 @@ float RoundToStep(double value, float step);
 // Why the form is asked to close.
 enum class CloseReason : std::int16_t { User = 0, Code = 1, System = 2, TaskManager = 3 };
 
-class frmMain final : public ToolDragHost {
+class frmMain final : public ToolDragHost, public PageHost {
 public:
     static constexpr std::string_view caption = "Custom View Editor";
 
@@ -67,10 +69,10 @@ public:
     // Selection and handles (main_select.cpp).
     void SelectControl(Widget& widget);
     void ReleaseControl();
-    void PositionHandles(const Widget& widget);
+    void PositionHandles(const Widget& widget) override;
     void HideHandles();
-    void SetStatusCaption(const Widget* widget);
-    Widget* SelectedWidget() const noexcept { return m_selected; }
+    void SetStatusCaption(const Widget* widget) override;
+    Widget* SelectedWidget() const noexcept override { return m_selected; }
 
     // The mouse (main_mouse.cpp); x and y are twips from the target's top left.
     void Press(const CanvasTarget& target, MouseButton button, float x, float y);
@@ -123,7 +125,10 @@ public:
     Canvas& ssScroll() noexcept { return m_canvas; }
     Bars& abViewEdit() const noexcept { return *m_bars; }
     frmViewToolbox& Toolbox() const noexcept { return *m_toolbox; }
-    clsCustView& View() const noexcept { return *m_view; }
+    PropertyPanel& Panel() const noexcept { return *m_panel; }
+    clsCustView& View() const noexcept override { return *m_view; }
+    Reporter& PageReporter() override { return m_ports.reporter; }
+    CommonDialog& dlgProp() override { return m_ports.dlgProp; }
 
 private:
     enum class CloseState : std::int16_t { Undecided = 0, Agreed = 1, Refused = 2 };
@@ -150,6 +155,7 @@ private:
     bool SaveAs();
 
     Element* GetSelectedElement() const;
+    void ShowPropertyPages(std::string_view name, bool reload);
     Widget& Selected() const; // fails with 91 without a selection
     float GetCanvasLeft(const Widget& widget) const;
     float GetCanvasTop(const Widget& widget) const;
@@ -182,6 +188,7 @@ private:
     std::unique_ptr<Bars> m_bars;
     std::unique_ptr<frmViewToolbox> m_toolbox;
     std::unique_ptr<clsCustView> m_view;
+    std::unique_ptr<PropertyPanel> m_panel;
     std::unique_ptr<Timer> tmrDelControl;
     Widget* m_selected = nullptr;
     DragSource m_drag;

@@ -5,6 +5,7 @@
 #include "document/kinds.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
+#include "editor/property_panel.h"
 #include "forms/bars.h"
 
 #include <cmath>
@@ -71,6 +72,7 @@ void frmMain::SelectControl(Widget& widget)
             SelectionChanged.Raise(m_selected);
         }
         m_bars->Focus();
+        ShowPropertyPages(widget.Name(), changed);
         SetStatusCaption(&widget);
         UpdateEditTools();
         m_view->RepaintAll();
@@ -83,10 +85,20 @@ void frmMain::ReleaseControl()
         m_selected = nullptr;
         SelectionChanged.Raise(nullptr);
         HideHandles();
+        ShowPropertyPages(PropertyPanel::viewBand, true);
         SetStatusCaption(nullptr);
         UpdateEditTools();
         m_view->RepaintAll();
     });
+}
+
+void frmMain::ShowPropertyPages(std::string_view name, bool reload)
+{
+    Guard(m_ports.reporter, Ref("frmMain.ShowPropertyPages"),
+          "Unable to load the property dialog for the selected control.", [&] {
+              Element* element = name == PropertyPanel::viewBand ? nullptr : GetSelectedElement();
+              m_panel->ShowPropertyPages(name, element, reload);
+          });
 }
 
 void frmMain::SetStatusCaption(const Widget* widget)

@@ -6,6 +6,7 @@
 #include "document/kinds.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
+#include "editor/property_panel.h"
 #include "editor/tools.h"
 #include "platform/forms.h"
 #include "platform/settings.h"
@@ -33,6 +34,7 @@ frmMain::frmMain(const EditorPorts& ports)
 {
     AddWidgetArrays(m_canvas);
     m_view = MakeView();
+    m_panel = std::make_unique<PropertyPanel>(*m_bars, *this);
     m_canvas.SetScrollMaxima(startWidth, startHeight);
     tmrDelControl->SetInterval(deleteDelay);
     m_subscriptions.push_back(tmrDelControl->Fired.Subscribe([this] { tmrDelControl_Timer(); }));

@@ -11,6 +11,9 @@ namespace {
 
 using enum ToolStart;
 
+constexpr std::string_view pageCategory = "PropertyDialogs";
+constexpr std::string_view panelBand = "bndObjProps";
+
 template <std::uint8_t Type> void Insert(frmMain& main)
 {
     main.InsertElement(Type);
@@ -24,6 +27,23 @@ constexpr EditorTool toolRows[] = {
     {{56, "miFormat", "F&ormat", "", "Menus", Enabled, "", "bndFormat"}},
     {{2, "tlToolbox", "Toolbox", "", "Panels"}},
     {{3, "lblSelectedControl", "", "", "Panels"}},
+    {{20, "tlGeneral", "General", "", pageCategory}},
+    {{4, "tlViewProps", "Custom View Settings", "", pageCategory}},
+    {{5, "tlMeterText", "Meter (Text)", "", pageCategory}},
+    {{6, "tlMeterAngle", "Meter (Angular)", "", pageCategory}},
+    {{7, "tlMeterLinear", "Meter (Linear)", "", pageCategory}},
+    {{8, "tlLEDRound", "LED (Round)", "", pageCategory}},
+    {{9, "tlLEDRect", "LED (Rectangular)", "", pageCategory}},
+    {{10, "tlStatusLabel", "Status Label", "", pageCategory}},
+    {{11, "tlBlnPic", "Status Picture", "", pageCategory}},
+    {{12, "tlCmdLED", "Command and LED", "", pageCategory}},
+    {{13, "tlCommand", "Command", "", pageCategory}},
+    {{14, "tlPicture", "Picture", "", pageCategory}},
+    {{15, "tlLabel", "Label", "", pageCategory}},
+    {{16, "tlMeterProps", "Positions and Colors", "", pageCategory}},
+    {{17, "tlBlnDataSource", "Status Data", "", pageCategory}},
+    {{18, "tlMtrDataSource", "Meter Data", "", pageCategory}},
+    {{19, "tlCmdDataSource", "Action", "", pageCategory}},
     {{21, separatorTool, "", "", "Separators"}},
 
     {{24, "miNew", "&New", "", "File", Enabled, "Ctrl+N"}, [](frmMain& main) { main.NewView(); }},
@@ -40,6 +60,7 @@ constexpr EditorTool toolRows[] = {
     {{29, "miClear", "C&lear All", "", "Edit"}, [](frmMain& main) { main.ClearView(); }},
 
     {{52, "miToolbox", "&Toolbox", "View Toolbox", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolbox", "bndToolbox"); }},
+    {{51, "miToolProps", "Tool &Properties", "View Tool Properties", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolProps", "bndObjProps"); }},
     {{49, "miGrid", "&Grid", "View Grid", "View"}, [](frmMain& main) { main.ToggleGrid(); }},
 
     {{48, "miOrder", "&Order", "", "Format", Enabled, "", "bndOrder"}},
@@ -66,15 +87,35 @@ constexpr BandRow bandRows[] = {
     {"bndMenu", "Main Menu", "miFile miEdit miView miFormat", BandKind::MenuBar},
     {"bndFile", "&File", "miNew miOpen tlSep miSave miSaveAs tlSep miExit"},
     {"bndEdit", "Edit", "miCut miCopy miPaste tlSep miInsert tlSep miDelete miClear"},
-    {"bndView", "View", "miToolbox tlSep miGrid"},
+    {"bndView", "View", "miToolbox miToolProps tlSep miGrid"},
     {"bndFormat", "Format", "miOrder tlSep miAlignToGrid miSizeToGrid tlSep miSnapToGrid"},
     {"bndInsert", "Insert", "miMtrText miMtrAngle miMtrLinear tlSep miLEDRound miLEDRect miStatLabel miStatPic tlSep "
                             "miCmdLED miCommand tlSep miPic miLabel"},
     {"bndOrder", "Order", "miBringFront miSendBack"},
+    {"bndToolBar", "Toolbar", "miNew miOpen miSave tlSep miCut miCopy miPaste miDelete tlSep miBringFront miSendBack tlSep "
+                              "miToolbox miToolProps miGrid", BandKind::ToolBar},
     {"bndToolPopup", "Tool Popup", "miCut miCopy miPaste tlSep miInsert tlSep miBringFront miSendBack tlSep "
                                    "miAlignToGrid miSizeToGrid tlSep miClear miDelete", BandKind::Popup},
     {"bndToolbox", "Toolbox", "tlToolbox", BandKind::Panel},
     {"bndStatus", "Status Bar", "lblSelectedControl", BandKind::StatusBar},
+    {panelBand, "Properties", "", BandKind::Panel},
+    {"prpGeneral", "General", "tlGeneral", BandKind::Child, panelBand},
+    {"prpViewProps", "Custom View Settings", "tlViewProps", BandKind::Child, panelBand},
+    {"ctlMeterText", "Meter (Text)", "tlMeterText", BandKind::Child, panelBand},
+    {"ctlMeterAngle", "Meter (Angular)", "tlMeterAngle", BandKind::Child, panelBand},
+    {"ctlMeterLinear", "Meter (Linear)", "tlMeterLinear", BandKind::Child, panelBand},
+    {"ctlLEDRound", "LED (Round)", "tlLEDRound", BandKind::Child, panelBand},
+    {"ctlLEDRect", "LED (Rectangular)", "tlLEDRect", BandKind::Child, panelBand},
+    {"ctlStatusLabel", "Status Label", "tlStatusLabel", BandKind::Child, panelBand},
+    {"ctlBlnPic", "Status Picture", "tlBlnPic", BandKind::Child, panelBand},
+    {"ctlCmdLED", "Command and LED", "tlCmdLED", BandKind::Child, panelBand},
+    {"ctlCommand", "Command", "tlCommand", BandKind::Child, panelBand},
+    {"ctlPicture", "Picture", "tlPicture", BandKind::Child, panelBand},
+    {"ctlLabel", "Label", "tlLabel", BandKind::Child, panelBand},
+    {"prpMeterProps", "Positions and Colors", "tlMeterProps", BandKind::Child, panelBand},
+    {"prpBlnDataSource", "Status Data", "tlBlnDataSource", BandKind::Child, panelBand},
+    {"prpMtrDataSource", "Meter Data", "tlMtrDataSource", BandKind::Child, panelBand},
+    {"prpCmdDataSource", "Action", "tlCmdDataSource", BandKind::Child, panelBand},
 };
 // clang-format on
 

@@ -24,6 +24,7 @@ struct LayoutItem {
     int height = 0;       // 0: the usual one of its kind; labels, check boxes and images get the line's
     int gap = 8;          // to the item before it
     int least = 0;        // over 0: the width may shrink to it where the line has no room
+    int orX = behind;     // instead of x, where it is too wide to end before the right margin
     bool atRight = false; // with the others of its line that are, it ends at the right margin
 };
 

@@ -1,0 +1,197 @@
+#include "pages/page.h"
+
+#include "platform/common_dialog.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quor {
+
+namespace {
+
+constexpr std::string_view words = "An error occurred while setting the property value. Please try again.";
+
+// Pixels.
+constexpr int margin = 12;
+constexpr int controlsAt = 116;
+constexpr int rowPitch = 30;
+constexpr int boxPitch = 26;
+constexpr int numberWidth = 80;
+constexpr int swatchWidth = 56;
+constexpr int swatchLeast = 40;
+constexpr int browseWidth = 28;
+constexpr int browseGap = 4;
+constexpr int browsedWidth = 160;
+constexpr int panelWidth = 320;
+
+constexpr std::int32_t pictureFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
+constexpr const char* pictureFilter =
+    "All Picture Files|*.bmp;*.dib;*.gif;*.jpg;*.wmf;*.emf;*.ico;*.cur|Bitmaps (*.bmp, *.dib)|*.bmp;*.dib|"
+    "GIF Images (*.gif)|*.gif|JPEG Images (*.jpg)|*.jpg|Metafiles (*.wmf, *.emf)|*.wmf;*.emf|"
+    "Icons (*.ico, *.cur)|*.ico;*.cur|All Files|*.*";
+
+} // namespace
+
+Page::Page(std::string name, PageHost& host) : Form(std::move(name)), m_host(host)
+{
+    Set(&Form::Width, panelWidth * twipsPerPixelX);
+}
+
+void Page::Handle(Event<>& event, std::string_view control, Work work)
+{
+    const RefNumber ref = FindRef(Name(), control.substr(0, control.find('(')));
+    m_subscriptions.push_back(event.Subscribe([this, ref, work = std::move(work)] {
+        if (ref.number == 0) {
+            IgnoreFailure(work);
+        } else {
+            Guard(m_host.PageReporter(), ref, words, work);
+        }
+    }));
+}
+
+void Page::Read(std::string_view control, Work work)
+{
+    m_readings.push_back({std::string(control), std::move(work)});
+}
+
+void Page::ReadOrder(std::vector<std::string_view> controls)
+{
+    std::vector<Reading> ordered;
+    for (const std::string_view control : controls) {
+        const auto found = std::find_if(m_readings.begin(), m_readings.end(),
+                                        [&](const Reading& reading) { return reading.control == control; });
+        if (found == m_readings.end()) {
+            throw Failure(failures::invalidCall, "No row reads " + std::string(control));
+        }
+        ordered.push_back(*found);
+    }
+    m_readings = std::move(ordered);
+}
+
+void Page::ReadAll()
+{
+    for (const Reading& reading : m_readings) {
+        reading.work();
+    }
+}
+
+Label& Page::CaptionOf(std::string_view caption)
+{
+    return Make<Label>("lblViewProps(" + std::to_string(m_captions++) + ")", std::string(caption), LabelRole::Caption);
+}
+
+void Page::Line(std::string_view caption, std::vector<LayoutItem> items)
+{
+    LayoutLine line{.height = rowPitch, .items = std::move(items)};
+    if (!caption.empty()) {
+        line.items.insert(line.items.begin(), {.control = &CaptionOf(caption), .x = margin});
+    }
+    m_lines.push_back(std::move(line));
+}
+
+void Page::BoxLine(CheckBox& box)
+{
+    m_lines.push_back({.height = boxPitch, .items = {{.control = &box, .x = controlsAt, .orX = margin}}});
+}
+
+void Page::FrameLine(std::string name, std::string caption)
+{
+    Frame& frame = Make<Frame>(std::move(name), std::move(caption));
+    m_lines.push_back({.height = 44, .items = {{.control = &frame, .x = margin, .width = LayoutItem::filling}}});
+}
+
+void Page::ArrangeLines()
+{
+    Arrange(margin, std::move(m_lines));
+}
+
+ListBox& Page::MakeList(std::string_view name, std::string_view caption, std::vector<std::string> items)
+{
+    auto& list = Make<ListBox>(std::string(name), std::move(items));
+    Line(caption, {{.control = &list, .x = controlsAt, .width = LayoutItem::filling}});
+    return list;
+}
+
+NumberField& Page::MakeNumber(std::string_view name, std::string_view caption, std::string_view unit, double least,
+                              double most, int decimals)
+{
+    auto& number = Make<NumberField>(std::string(name), least, most, decimals);
+    Line(caption, {{.control = &number, .x = controlsAt, .width = numberWidth}, {.control = &CaptionOf(unit)}});
+    return number;
+}
+
+TextBox& Page::MakeText(std::string_view name, std::string_view caption)
+{
+    auto& text = Make<TextBox>(std::string(name));
+    Line(caption, {{.control = &text, .x = controlsAt, .width = LayoutItem::filling}});
+    return text;
+}
+
+TextBox& Page::MakeBrowsed(std::string_view name, std::string_view button, std::string_view caption, bool onlyShows)
+{
+    auto& text = Make<TextBox>(std::string(name));
+    text.Set(&TextBox::ReadOnly, onlyShows);
+    auto& browse = Make<Button>(std::string(button), "...");
+    Line(caption, {{.control = &text, .x = controlsAt, .width = browsedWidth},
+                   {.control = &browse, .width = browseWidth, .gap = browseGap}});
+    return text;
+}
+
+Swatch& Page::MakeSwatch(std::string_view name, std::string_view button, std::string_view caption, std::string_view box)
+{
+    auto& swatch = Make<Swatch>(std::string(name));
+    auto& browse = Make<Button>(std::string(button), "...");
+    std::vector<LayoutItem> items = {{.control = &swatch, .x = controlsAt, .width = swatchWidth, .least = swatchLeast},
+                                     {.control = &browse, .width = browseWidth, .gap = browseGap}};
+    if (!box.empty()) {
+        items.push_back({.control = &Make<CheckBox>(std::string(box), "Use Default")});
+    }
+    Line(caption, std::move(items));
+    return swatch;
+}
+
+OptionArray& Page::MakeOptions(std::string_view name, std::vector<std::string> captions)
+{
+    auto& options = Make<OptionArray>(std::string(name), std::move(captions));
+    const int height = boxPitch * static_cast<int>(options.Captions().size());
+    m_lines.push_back(
+        {.height = height,
+         .items = {{.control = &options, .x = controlsAt, .width = LayoutItem::filling, .height = height}}});
+    return options;
+}
+
+void Page::BrowseColor(std::string_view swatch, std::string_view button, std::function<void(Color)> write)
+{
+    auto& shown = On<Swatch>(swatch);
+    auto& browse = On<Button>(button);
+    Handle(browse.Click, button, [this, &shown, write = std::move(write)] {
+        CommonDialog& dialog = m_host.dlgProp();
+        dialog.Color = shown.BackColor();
+        dialog.ShowColor(); // cancelled, it leaves the colour as it was, and that is written again
+        shown.Set(&Swatch::BackColor, dialog.Color);
+        write(dialog.Color);
+    });
+    Handle(shown.Click, swatch, [&browse] { browse.Push(); });
+}
+
+void Page::BrowsePicture(std::string_view field, std::string_view button)
+{
+    auto& text = On<TextBox>(field);
+    Handle(On<Button>(button).Click, button, [this, &text] {
+        CommonDialog& dialog = m_host.dlgProp();
+        dialog.Flags = pictureFlags;
+        dialog.Filter = pictureFilter;
+        dialog.FileName = text.Text();
+        dialog.ShowOpen();
+        if (!dialog.FileName.empty()) {
+            text.Text(dialog.FileName);
+        }
+    });
+}
+
+void Page::Enable(std::string_view control, bool enabled) const
+{
+    On(control).Set(&Control::Enabled, enabled);
+}
+
+} // namespace quor

@@ -1,0 +1,233 @@
+#pragma once
+// A property page: a table of rows, each a caption, its controls, the setting behind them, and what is read and
+// written.
+//
+// A page's constructor is its table, in the order of the page. A row makes its controls and their line, adds its read
+// to SetOwner, and guards its handler with the number that its control's name has. Rules speak of controls by name. The
+// handlers run while an owner is loaded, too: they write the same values back and bring dependent controls in line.
+
+#include "base/guard.h"
+#include "base/narrow.h"
+#include "forms/fields.h"
+#include "forms/form.h"
+#include "pages/page_host.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+class Element;
+
+class Page : public Form {
+public:
+    // The element whose settings the page edits from now on, and the name of its widget array. Fails where a control
+    // can't show a setting.
+    virtual void SetOwner(Element& /*element*/, std::string_view /*array*/) {}
+    virtual void ClearOwner() {}
+
+protected:
+    Page(std::string name, PageHost& host);
+
+    using Work = std::function<void()>;
+
+    // What runs at a control's event: a failure is reported under the control's number, or forgotten if it has none.
+    void Handle(Event<>& event, std::string_view control, Work work);
+
+    // What SetOwner does for a control, in the order of the rows or in that of ReadOrder, which leaves out what it
+    // doesn't name.
+    void Read(std::string_view control, Work work);
+    void ReadOrder(std::vector<std::string_view> controls);
+    void ReadAll();
+
+    // The parts of a line.
+    Label& CaptionOf(std::string_view caption);
+    void Line(std::string_view caption, std::vector<LayoutItem> items);
+    void BoxLine(CheckBox& box);
+    void FrameLine(std::string name, std::string caption);
+    // When all lines are there.
+    void ArrangeLines();
+
+    ListBox& MakeList(std::string_view name, std::string_view caption, std::vector<std::string> items);
+    NumberField& MakeNumber(std::string_view name, std::string_view caption, std::string_view unit, double least,
+                            double most, int decimals = 0);
+    TextBox& MakeText(std::string_view name, std::string_view caption);
+    // A text field with a browse button; the field can't be typed in where it only shows.
+    TextBox& MakeBrowsed(std::string_view name, std::string_view button, std::string_view caption, bool onlyShows);
+    // A swatch with its browse button, and a box behind them if it is named.
+    Swatch& MakeSwatch(std::string_view name, std::string_view button, std::string_view caption,
+                       std::string_view box = {});
+    OptionArray& MakeOptions(std::string_view name, std::vector<std::string> captions);
+
+    // A click on the swatch is one on its button, where that is enabled.
+    void BrowseColor(std::string_view swatch, std::string_view button, std::function<void(Color)> write);
+    // The open dialog for pictures; what is chosen is set in the field, whose handler writes it.
+    void BrowsePicture(std::string_view field, std::string_view button);
+
+    template <class C = Control> C& On(std::string_view name) const { return Item<C>(name); }
+    void Enable(std::string_view control, bool enabled) const;
+
+    PageHost& m_host;
+
+private:
+    struct Reading {
+        std::string control;
+        Work work;
+    };
+
+    std::vector<Reading> m_readings;
+    std::vector<LayoutLine> m_lines;
+    std::vector<Subscription> m_subscriptions;
+    int m_captions = 0;
+};
+
+// The rows of a page whose owner is an Owner, which has settings and a Set for them.
+template <class Owner> class PageOf : public Page {
+protected:
+    using Page::Page;
+
+    // Fails with 91 while the page has none.
+    virtual Owner& TheOwner() const = 0;
+
+    template <class S> void Write(S Owner::*setting, typename S::Value value)
+    {
+        TheOwner().Set(setting, std::move(value));
+    }
+    template <class S> const typename S::Value& Value(S Owner::*setting) const { return (TheOwner().*setting)(); }
+
+    template <class S>
+    void ListRow(std::string_view name, std::string_view caption, std::vector<std::string> items, S Owner::*setting)
+    {
+        ListBox& list = MakeList(name, caption, std::move(items));
+        Handle(list.Click, name, [=, this, &list] { Write(setting, Narrow<typename S::Value>(list.ListIndex())); });
+        Read(name, [=, this, &list] { list.ListIndex(Value(setting)); });
+    }
+
+    template <class S>
+    void ColorRow(std::string_view name, std::string_view button, std::string_view caption, S Owner::*setting,
+                  Work after = {})
+    {
+        ColorOn(MakeSwatch(name, button, caption), name, button, setting, std::move(after));
+    }
+
+    // With "Use Default": on, the button is off, and swatch and setting are the button face.
+    template <class S>
+    void DefaultColorRow(std::string_view name, std::string_view button, std::string_view box, std::string_view caption,
+                         S Owner::*setting, Work after = {}, Work whenDefault = {})
+    {
+        Swatch& swatch = MakeSwatch(name, button, caption, box);
+        ColorOn(swatch, name, button, setting, after);
+        auto& check = On<CheckBox>(box);
+        Handle(check.Click, box, [=, this, &swatch, &check, button = std::string(button)] {
+            Enable(button, !check.Value());
+            if (check.Value()) {
+                swatch.Set(&Swatch::BackColor, colors::buttonFace);
+                if (whenDefault) {
+                    whenDefault();
+                }
+                Write(setting, colors::buttonFace);
+                if (after) {
+                    after();
+                }
+            }
+        });
+        Read(box, [=, this, &check] { check.Value(Value(setting) == colors::buttonFace); });
+    }
+
+    template <class S>
+    void CheckRow(std::string_view name, std::string_view caption, S Owner::*setting,
+                  std::function<void(bool)> rule = {})
+    {
+        auto& box = Make<CheckBox>(std::string(name), std::string(caption));
+        BoxLine(box);
+        Handle(box.Click, name, [=, this, &box] {
+            Write(setting, typename S::Value{box.Value()});
+            if (rule) {
+                rule(box.Value());
+            }
+        });
+        Read(name, [=, this, &box] { box.Value(bool{Value(setting) == typename S::Value{true}}); });
+    }
+
+    // On, the element works the colour out by itself: the swatch says so, and its button is off.
+    template <class S, class C>
+    void AutoColorBox(std::string_view name, std::string_view caption, S Owner::*setting, std::string_view swatch,
+                      std::string_view button, C Owner::*color)
+    {
+        CheckRow(name, caption, setting,
+                 [=, this, swatch = std::string(swatch), button = std::string(button)](bool isAutomatic) {
+                     Enable(button, !isAutomatic);
+                     On<Swatch>(swatch).Set(&Swatch::BackColor, isAutomatic ? colors::buttonFace : Value(color));
+                     On<Swatch>(swatch).Set(&Swatch::Caption, std::string(isAutomatic ? "N/A" : ""));
+                 });
+    }
+
+    template <class S> void TextRow(std::string_view name, std::string_view caption, S Owner::*setting)
+    {
+        TextOn(MakeText(name, caption), name, setting);
+    }
+
+    // A picture file: typed, or browsed for.
+    template <class S>
+    void PictureRow(std::string_view name, std::string_view button, std::string_view caption, S Owner::*setting)
+    {
+        TextOn(MakeBrowsed(name, button, caption, false), name, setting);
+        BrowsePicture(name, button);
+    }
+
+    template <class S> void OptionRow(std::string_view name, std::vector<std::string> captions, S Owner::*setting)
+    {
+        OptionArray& options = MakeOptions(name, std::move(captions));
+        Handle(options.Click, name,
+               [=, this, &options] { Write(setting, Narrow<typename S::Value>(options.Index())); });
+        Read(name, [=, this, &options] { options.Index(Value(setting)); });
+    }
+
+private:
+    template <class S>
+    void ColorOn(Swatch& swatch, std::string_view name, std::string_view button, S Owner::*setting, Work after)
+    {
+        BrowseColor(name, button, [=, this](Color color) {
+            Write(setting, color);
+            if (after) {
+                after();
+            }
+        });
+        Read(name, [=, this, &swatch] { swatch.Set(&Swatch::BackColor, Value(setting)); });
+    }
+
+    template <class S> void TextOn(TextBox& text, std::string_view name, S Owner::*setting)
+    {
+        Handle(text.Change, name, [=, this, &text] { Write(setting, text.Text()); });
+        Read(name, [=, this, &text] { text.Text(Value(setting)); });
+    }
+};
+
+// The page of one class of element.
+template <class E> class ElementPage : public PageOf<E> {
+public:
+    void SetOwner(Element& element, std::string_view /*array*/) override
+    {
+        m_owner = &dynamic_cast<E&>(element);
+        this->ReadAll();
+    }
+    void ClearOwner() override { m_owner = nullptr; }
+
+protected:
+    using PageOf<E>::PageOf;
+
+    E& TheOwner() const override
+    {
+        if (m_owner == nullptr) {
+            throw Failure(failures::objectNotSet);
+        }
+        return *m_owner;
+    }
+
+private:
+    E* m_owner = nullptr;
+};
+
+} // namespace quor
