@@ -34,6 +34,11 @@ WidgetPainter PainterFor(std::string_view arrayName)
     return row == painters.end() ? nullptr : row->paint;
 }
 
+bool PaintsNothing(const Widget& widget)
+{
+    return widget.Width() < twipsPerPixelX || widget.Height() < twipsPerPixelY;
+}
+
 QRectF PixelsOf(const Area& twips)
 {
     return {static_cast<qreal>(twips.left) / twipsPerPixelX, static_cast<qreal>(twips.top) / twipsPerPixelY,

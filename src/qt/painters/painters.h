@@ -18,6 +18,9 @@ using WidgetPainter = void (*)(QPainter& painter, const Widget& widget, const QR
 // Null for a kind that isn't drawn.
 WidgetPainter PainterFor(std::string_view arrayName);
 
+// True for a widget that would be invisible as it is, such as one without any extent.
+bool PaintsNothing(const Widget& widget);
+
 // Twips as device-independent pixels.
 QRectF PixelsOf(const Area& twips);
 

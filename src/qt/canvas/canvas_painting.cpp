@@ -1,0 +1,126 @@
+#include "qt/canvas/canvas_painting.h"
+
+#include "qt/canvas/marks.h"
+#include "qt/painters/painters.h"
+#include "qt/ports/qt_pictures.h"
+#include "qt/ports/qt_text.h"
+#include "qt/theme/style_parts.h"
+#include "widgets/canvas.h"
+
+#include <QPainter>
+#include <QRegion>
+
+#include <cmath>
+
+namespace quor {
+
+namespace {
+
+constexpr qreal gridOpacity = 0.12;
+constexpr qreal tenthLineOpacity = 0.26;
+constexpr qreal movedOpacity = 0.45;
+
+void PaintPicture(QPainter& painter, const Canvas& canvas, const QSize& view)
+{
+    const QImage& image = ImageOf(*canvas.Picture());
+    switch (canvas.PictureMode()) {
+    case picture_modes::stretched:
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(QPointF(0, 0), view), image);
+        break;
+    case picture_modes::tiled: {
+        const QPointF origin(-canvas.ScrollOffsetX() / qreal{twipsPerPixelX},
+                             -canvas.ScrollOffsetY() / qreal{twipsPerPixelY});
+        QBrush tiles(image);
+        tiles.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
+        painter.fillRect(QRect(QPoint(0, 0), view), tiles);
+        break;
+    }
+    default:
+        painter.drawImage(QPoint((view.width() - image.width()) / 2, (view.height() - image.height()) / 2), image);
+    }
+}
+
+void PaintGround(QPainter& painter, const Canvas& canvas, const QSize& view, const QRect& dirty)
+{
+    painter.fillRect(dirty, ToQt(Resolve(canvas.BackColor())));
+    if (canvas.Picture() != nullptr) {
+        PaintPicture(painter, canvas, view);
+    }
+    const BackgroundImage& background = canvas.Background();
+    if (background.visible && background.picture != nullptr) {
+        const QPointF place(background.left / twipsPerPixelX, background.top / twipsPerPixelY);
+        painter.drawImage(place, ImageOf(*background.picture));
+    }
+}
+
+// The lines of one family that cross the dirty part: each at a multiple of the step, up to the last.
+void PaintGridLines(QPainter& painter, const QRectF& dirty, Qt::Orientation orientation, float step, float last,
+                    float length, const QPointF& origin)
+{
+    if (step <= 0) {
+        return;
+    }
+    const QColor shadow = ToQt(Resolve(colors::buttonShadow));
+    const bool isHorizontal = orientation == Qt::Horizontal;
+    const qreal offset = isHorizontal ? origin.y() : origin.x();
+    const qreal from = (isHorizontal ? dirty.top() : dirty.left()) - offset;
+    const qreal to = (isHorizontal ? dirty.bottom() : dirty.right()) - offset;
+    const qreal pitch = qreal{step} / twipsPerPixelX;
+    const auto end = static_cast<int>(std::floor(std::min(to, qreal{last} / twipsPerPixelX) / pitch));
+    for (int line = std::max(1, static_cast<int>(std::floor(from / pitch))); line <= end; ++line) {
+        const qreal extent = qreal{length} / twipsPerPixelX;
+        const QRectF area = isHorizontal ? QRectF(origin.x(), offset + line * pitch, extent, 1)
+                                         : QRectF(offset + line * pitch, origin.y(), 1, extent);
+        DrawRule(painter, area, orientation, WithAlpha(shadow, line % 10 == 0 ? tenthLineOpacity : gridOpacity));
+    }
+}
+
+void PaintGrid(QPainter& painter, const Canvas& canvas, const QRectF& dirty)
+{
+    const GridLines& grid = canvas.Grid();
+    if (!grid.visible) {
+        return;
+    }
+    const QPointF origin(-canvas.ScrollOffsetX() / qreal{twipsPerPixelX},
+                         -canvas.ScrollOffsetY() / qreal{twipsPerPixelY});
+    PaintGridLines(painter, dirty, Qt::Horizontal, grid.stepY, grid.height, grid.width, origin);
+    PaintGridLines(painter, dirty, Qt::Vertical, grid.stepX, grid.width, grid.height, origin);
+}
+
+void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRegion& region, const CanvasLook& look)
+{
+    const Widget* first = canvas.Back();
+    for (const Widget* widget = first; widget != nullptr; widget = widget->Above()) {
+        if (!widget->Visible()) {
+            continue;
+        }
+        const QRectF area = PixelsOf(widget->Bounds());
+        if (!region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
+            continue;
+        }
+        painter.setOpacity(widget == look.faded ? movedOpacity : 1);
+        const WidgetPainter paint = PainterFor(widget->Name());
+        if (paint != nullptr) {
+            paint(painter, *widget, area);
+        }
+        if (paint == nullptr || PaintsNothing(*widget)) {
+            DrawGhost(painter, area);
+        }
+    }
+    painter.setOpacity(1);
+}
+
+} // namespace
+
+void PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
+                 const CanvasLook& look)
+{
+    const QRect dirty = region.boundingRect();
+    PaintGround(painter, canvas, view, dirty);
+    PaintGrid(painter, canvas, dirty);
+    PaintWidgets(painter, canvas, region, look);
+    DrawSelection(painter, canvas);
+}
+
+} // namespace quor

@@ -1,0 +1,67 @@
+#pragma once
+// The canvas on the screen: draws its model and turns the user's mouse and keys into calls on the main form.
+
+#include "base/event.h"
+#include "editor/mouse.h"
+
+#include <QAbstractScrollArea>
+#include <QPointF>
+
+#include <optional>
+#include <vector>
+
+namespace quor {
+
+class Canvas;
+class frmMain;
+class Theme;
+struct Area;
+
+class CanvasView final : public QAbstractScrollArea {
+public:
+    // Main form and theme outlive the view.
+    CanvasView(frmMain& main, const Theme& theme, QWidget* parent = nullptr);
+
+    // For a drag whose mouse events another widget gets: the pointer's place on the screen.
+    void TrackDrag(const QPointF& global);
+    void EndDrag(const QPointF& global);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    bool IsBusy() const; // something is dragged or sized
+    void Repaint(const Area& area);
+    void RepaintSelectionFrame();
+    void FollowScroll();
+    void FollowDrag();
+    void ShowOutline(std::optional<DragOutline> outline, const QPointF& pointer);
+    QRect OutlinePlace() const;
+    CanvasTarget TargetAt(const QPointF& position) const;
+    void ShowCursor(const CanvasTarget& target);
+    bool IsInside(const QPointF& position) const;
+
+    frmMain& m_main;
+    Canvas& m_canvas;
+    const Theme& m_theme;
+    bool m_isFollowing = false;            // the bars move after the model, not the other way
+    Qt::MouseButton m_held = Qt::NoButton; // that began what is going on
+    QPointF m_pressedAt;                   // pixels of the view
+    CanvasTarget m_pressed;
+    QPointF m_pointer;
+    std::optional<DragOutline> m_outline;
+    QRectF m_shownFrame;
+    std::vector<Subscription> m_subscriptions;
+};
+
+} // namespace quor
