@@ -56,7 +56,7 @@ constexpr EditorTool toolRows[] = {
     {{54, "miCopy", "&Copy", "", "Edit", Disabled, "Ctrl+C"}, [](frmMain& main) { main.CopyControl(); }},
     {{55, "miPaste", "&Paste", "", "Edit", Disabled, "Ctrl+V"}, [](frmMain& main) { main.PasteControl(); }},
     {{33, "miInsert", "&Insert", "", "Edit", Enabled, "", "bndInsert"}},
-    {{28, "miDelete", "&Delete", "", "Edit", Disabled}, [](frmMain& main) { main.RequestDelete(); }},
+    {{28, "miDelete", "&Delete", "", "Edit", Disabled, "Del"}, [](frmMain& main) { main.RequestDelete(); }},
     {{29, "miClear", "C&lear All", "", "Edit"}, [](frmMain& main) { main.ClearView(); }},
 
     {{52, "miToolbox", "&Toolbox", "View Toolbox", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolbox", "bndToolbox"); }},

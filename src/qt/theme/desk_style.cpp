@@ -114,6 +114,9 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             DrawField(*option, *painter);
         }
         return;
+    case PE_PanelScrollAreaCorner:
+        painter->fillRect(option->rect, m_colors.window);
+        return;
     case PE_PanelTipLabel:
         painter->fillRect(option->rect, option->palette.color(QPalette::ToolTipBase));
         return;

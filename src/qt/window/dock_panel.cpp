@@ -58,10 +58,13 @@ void DockPanel::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     const ThemeColors& colors = m_theme.Colors();
     painter.fillRect(rect(), colors.panel);
-    painter.setFont(m_theme.TitleFont());
+    const QRect area(12, 0, m_closeButton->x() - 12, titleHeight);
+    const QString title = ToQt(m_band.Caption);
+    const QFont font = m_theme.TitleFont();
+    const bool fits = QFontMetrics(font).horizontalAdvance(title) <= area.width();
+    painter.setFont(fits ? font : m_theme.TextFont());
     painter.setPen(colors.text);
-    const QRect title(12, 0, m_closeButton->x() - 12, titleHeight);
-    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, ToQt(m_band.Caption));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
 }
 
 void DockPanel::resizeEvent(QResizeEvent* /*event*/)
