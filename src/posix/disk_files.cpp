@@ -115,7 +115,12 @@ std::unique_ptr<OpenFile> DiskFiles::Open(const std::string& path, OpenMode mode
 
 void DiskFiles::CopyFile(const std::string& from, const std::string& to)
 {
-    posix::ReplaceFile(from, to);
+    // Scratch files are written once and needn't outlive a loss of power, so a copy of one to another may share its
+    // bytes.
+    const bool isScratch = posix::HasRandomName(from) && posix::HasRandomName(to);
+    if (!isScratch || !posix::LinkScratch(from, to)) {
+        posix::ReplaceFile(from, to);
+    }
 }
 
 void DiskFiles::MoveFile(const std::string& from, const std::string& to)

@@ -8,6 +8,7 @@
 #include <climits>
 #include <cstdio>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,6 +17,11 @@
 namespace quor::posix {
 
 namespace {
+
+constexpr std::size_t randomBytes = 16;
+constexpr std::string_view namePrefix = "quor";
+constexpr std::string_view nameSuffix = ".tmp";
+constexpr std::string_view digits = "0123456789abcdef";
 
 std::string FolderOf(const std::string& path)
 {
@@ -132,17 +138,30 @@ void CopyBytes(const Descriptor& from, const Descriptor& to)
 
 std::string RandomName()
 {
-    std::array<unsigned char, 16> random;
+    std::array<unsigned char, randomBytes> random;
     if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size())) {
         Fail(EIO, {});
     }
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string name = "quor";
+    std::string name(namePrefix);
     for (const unsigned char byte : random) {
         name += digits[byte >> 4U];
         name += digits[byte & 15U];
     }
-    return name + ".tmp";
+    return name.append(nameSuffix);
+}
+
+bool HasRandomName(const std::string& path)
+{
+    std::string_view name = path;
+    name.remove_prefix(path.rfind('/') + 1);
+    return name.size() == namePrefix.size() + 2 * randomBytes + nameSuffix.size() && name.starts_with(namePrefix) &&
+           name.ends_with(nameSuffix) &&
+           name.find_first_not_of(digits, namePrefix.size()) == name.size() - nameSuffix.size();
+}
+
+bool LinkScratch(const std::string& from, const std::string& to) noexcept
+{
+    return link(from.c_str(), to.c_str()) == 0;
 }
 
 void ReplaceFile(const std::string& from, const std::string& to)

@@ -226,6 +226,19 @@ TEST_F(OnDisk, TemporaryNamesDiffer)
     EXPECT_GE(files.TempName().size(), 32U);
 }
 
+TEST_F(OnDisk, ACopyOfAScratchFileOutlivesIt)
+{
+    const std::string scratch = Put(files.TempName(), "new");
+    const std::string fresh = Path(files.TempName());
+    const std::string old = Put(files.TempName(), "old");
+    files.CopyFile(scratch, fresh);
+    files.CopyFile(scratch, old);
+    files.DeleteFile(scratch);
+    EXPECT_EQ(Text(fresh) + Text(old), "newnew");
+    EXPECT_EQ(FailureOf([&] { files.CopyFile(scratch, fresh); }), failures::fileNotFound);
+    EXPECT_EQ(EntryCount(), 2U);
+}
+
 // Saves alternating texts over the target until it is killed.
 [[noreturn]] void SaveForEver(DiskFiles& files, const std::string& folder, const std::string& target,
                               const std::vector<std::string>& texts)

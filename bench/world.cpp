@@ -1,0 +1,64 @@
+#include "bench/world.h"
+
+#include "document/kinds.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace quor::bench {
+
+void MustHold(bool condition, const std::string& words)
+{
+    if (!condition) {
+        std::fprintf(stderr, "%s\n", words.c_str());
+        std::_Exit(2);
+    }
+}
+
+void NoReporter::ShowError(const ErrorReport& report) noexcept
+{
+    MustHold(false, report.message + " " + report.description);
+}
+
+Collection& LedsOf(clsCustView& view)
+{
+    constexpr std::int32_t type = 3;
+    return view.CollectionOf(type);
+}
+
+std::string NameOf(std::int64_t number)
+{
+    return "a" + std::to_string(number);
+}
+
+void AddLeds(clsCustView& view, std::int64_t count)
+{
+    const std::int64_t perRow = 100;
+    const float pitch = 300;
+    for (std::int64_t number = 1; number <= count; ++number) {
+        LedsOf(view).Add(static_cast<float>(number / perRow) * pitch, static_cast<float>(number % perRow) * pitch,
+                         NameOf(number), true);
+    }
+}
+
+World::World(Files& files) : m_files(files)
+{
+    m_live.DesignMode = true;
+    AddWidgetArrays(m_canvas);
+    Renew();
+}
+
+void World::Renew()
+{
+    m_view.reset();
+    m_view = std::make_unique<clsCustView>(
+        ViewPorts{m_files, m_boxes, m_reporter, m_forms, m_timers, m_pictures, m_progress, m_live}, m_canvas);
+}
+
+EditorPorts World::PortsOfEditor()
+{
+    return {m_files,    m_boxes,    m_dialog, m_forms,    m_timers,   m_screen,
+            m_pictures, m_settings, m_login,  m_reporter, m_progress, m_live};
+}
+
+} // namespace quor::bench
