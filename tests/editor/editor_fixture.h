@@ -1,0 +1,75 @@
+#pragma once
+// The main form with every port in memory.
+
+#include "binding/live.h"
+#include "document/view_document.h"
+#include "editor/main_form.h"
+#include "editor/property_panel.h"
+#include "forms/bars.h"
+#include "forms/fields.h"
+#include "forms/form.h"
+#include "pages/page.h"
+#include "support/frm_view_pbar.h"
+#include "tests/support/fake_boxes.h"
+#include "tests/support/fake_dialog.h"
+#include "tests/support/fake_files.h"
+#include "tests/support/fake_forms.h"
+#include "tests/support/fake_login.h"
+#include "tests/support/fake_pictures.h"
+#include "tests/support/fake_screen.h"
+#include "tests/support/fake_settings.h"
+#include "tests/support/fake_timers.h"
+#include "tests/support/test_reporter.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+
+struct EditorFixture : testing::Test {
+    FakeFiles files;
+    FakeTimers timers;
+    FakeForms forms{timers};
+    FakeBoxes boxes;
+    FakeDialog dialog;
+    FakeSettings settings;
+    FakeLogin login;
+    FakePictures pictures{files};
+    FakeScreen screen;
+    Live live;
+    TestReporter reporter;
+    frmViewPBar progress{forms};
+    frmMain main{EditorPorts{.files = files,
+                             .boxes = boxes,
+                             .dlgProp = dialog,
+                             .forms = forms,
+                             .timers = timers,
+                             .screen = screen,
+                             .pictures = pictures,
+                             .settings = settings,
+                             .login = login,
+                             .reporter = reporter,
+                             .progress = progress,
+                             .live = live}};
+
+    void SetUp() override { main.Form_Load(""); }
+
+    // A new element of that kind, selected.
+    template <class E> E& Insert()
+    {
+        main.InsertElement(E::type);
+        return dynamic_cast<E&>(main.View().CollectionOf(E::type).Item(main.SelectedWidget()->Tag()));
+    }
+
+    void Select(const Element& element)
+    {
+        CanvasTarget target{CanvasTarget::What::Element, element.MyControl()};
+        main.Press(target, MouseButton::Middle, 0, 0);
+    }
+
+    template <class C = Control> C& On(std::string_view page, std::string_view control) const
+    {
+        return main.Panel().FindPage(page)->Item<C>(control);
+    }
+};
+
+} // namespace quor

@@ -1,0 +1,159 @@
+#include "document/kinds.h"
+#include "elements/led_round.h"
+#include "tests/editor/editor_fixture.h"
+#include "widgets/canvas.h"
+
+#include <random>
+#include <set>
+
+namespace quor {
+namespace {
+
+struct AnyEdit : EditorFixture {
+    std::mt19937 random{20'240'517};
+
+    int Draw(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random); }
+
+    Element* Any()
+    {
+        const std::size_t count = main.View().CtlOrder().Count();
+        return count == 0 ? nullptr
+                          : main.View().CtlOrder().Item(static_cast<std::size_t>(Draw(1, static_cast<int>(count))));
+    }
+
+    CanvasTarget At(float x, float y) { return HitTest(main.ssScroll(), x, y); }
+
+    void Drag(const Element& element)
+    {
+        main.Press({CanvasTarget::What::Element, element.MyControl()}, MouseButton::Left, 10, 10);
+        const auto x = static_cast<float>(Draw(-500, 9000));
+        const auto y = static_cast<float>(Draw(-500, 9000));
+        if (Draw(0, 5) == 0) {
+            main.CancelDrag();
+            return;
+        }
+        const CanvasTarget target = At(x, y);
+        main.Drop(target, x - target.left, y - target.top);
+    }
+
+    void Size()
+    {
+        main.Press({CanvasTarget::What::Handle, nullptr, static_cast<std::size_t>(Draw(0, 7))}, MouseButton::Left, 0,
+                   0);
+        main.SizeBy(static_cast<float>(Draw(-600, 600)), static_cast<float>(Draw(-600, 600)));
+        if (Draw(0, 5) == 0) {
+            main.CancelDrag();
+        } else {
+            main.EndSizing();
+        }
+    }
+
+    void Edit()
+    {
+        Element* element = Any();
+        switch (element == nullptr ? 0 : Draw(0, 13)) {
+        case 0:
+            main.InsertElement(clsLEDRound::type);
+            break;
+        case 1:
+            Drag(*element);
+            break;
+        case 2:
+            Select(*element);
+            Size();
+            break;
+        case 3:
+            Select(*element);
+            main.KeyDown(46);
+            timers.Advance(10);
+            break;
+        case 4:
+            main.ReleaseControl();
+            break;
+        case 5:
+            Select(*element);
+            main.CopyControl();
+            main.PasteControl();
+            break;
+        case 6:
+            Select(*element);
+            main.ReorderControl(Draw(0, 1) == 1);
+            break;
+        case 7:
+            main.ssScroll().ScrollTo(Draw(0, 5000), Draw(0, 5000));
+            break;
+        case 8:
+            Select(*element);
+            main.AlignToGrid();
+            main.SizeToGrid();
+            break;
+        case 9:
+            main.ToggleSnap();
+            break;
+        case 10:
+            Select(*element);
+            On<NumberField>("frmCVGeneral", "txtX").Type(std::to_string(Draw(0, 300)));
+            break;
+        case 11:
+            Select(*element);
+            On<CheckBox>("frmCVLEDRound", "chkAutoOffColor").Toggle();
+            break;
+        case 12:
+            main.BeginToolDrag(clsLEDRound::type);
+            main.Drop(At(300, 300), 5, 5);
+            break;
+        default:
+            if (Draw(0, 40) == 0) {
+                main.ClearView();
+            }
+            break;
+        }
+    }
+
+    void Check()
+    {
+        std::set<std::string> names;
+        std::size_t inCollections = 0;
+        for (const Kind& kind : Kinds()) {
+            for (const std::unique_ptr<Element>& element : main.View().CollectionOf(kind.type)) {
+                ++inCollections;
+                ASSERT_EQ(main.View().CtlOrder().Item(element->ObjName()), element.get());
+                ASSERT_EQ(element->MyControl()->Tag(), element->ObjName());
+                ASSERT_TRUE(names.insert(element->ObjName()).second) << element->ObjName();
+            }
+        }
+        ASSERT_EQ(main.View().CtlOrder().Count(), inCollections);
+        const Widget* widget = main.ssScroll().Back();
+        for (const Element* element : main.View().CtlOrder()) {
+            ASSERT_EQ(widget, element->MyControl()) << "the order on the canvas is that of the elements";
+            widget = widget->Above();
+        }
+        ASSERT_EQ(widget, nullptr);
+        const Widget* selected = main.SelectedWidget();
+        ASSERT_TRUE(selected == nullptr || names.contains(selected->Tag()));
+        const Band* front = main.abViewEdit().BandOf("bndObjProps").CurrentChild();
+        ASSERT_EQ(front->Name, selected == nullptr ? "prpViewProps" : "prpGeneral");
+        ASSERT_EQ(main.abViewEdit().BandOf("bndObjProps").Child("ctlLEDRound").Visible(), selected != nullptr);
+    }
+};
+
+TEST_F(AnyEdit, LeavesTheViewWhole)
+{
+    for (int step = 0; step < 20'000; ++step) {
+        Edit();
+        Check();
+        if (HasFatalFailure()) {
+            FAIL() << "after step " << step;
+        }
+    }
+    ASSERT_TRUE(main.View().SaveFile("walk.qvw"));
+    const std::int32_t before = main.GetCurrentChecksum();
+    main.ReleaseControl();
+    boxes.answers = {BoxAnswer::No};
+    main.OpenView("walk.qvw");
+    EXPECT_EQ(main.GetCurrentChecksum(), before);
+    Check();
+}
+
+} // namespace
+} // namespace quor
