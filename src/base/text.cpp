@@ -119,7 +119,13 @@ std::size_t AnsiLength(std::string_view text) noexcept
 std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept
 {
     while (!text.empty()) {
-        *to++ = AnsiByte(Next(text));
+        const auto first = static_cast<std::uint8_t>(text.front());
+        if (first < 0x80) {
+            *to++ = first;
+            text.remove_prefix(1);
+        } else {
+            *to++ = AnsiByte(Next(text));
+        }
     }
     return to;
 }

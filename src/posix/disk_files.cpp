@@ -4,13 +4,13 @@
 #include "posix/descriptor.h"
 #include "posix/safe_replace.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
 namespace quor {
 
@@ -43,7 +43,7 @@ public:
 
     void Write(std::int64_t position, std::span<const std::uint8_t> bytes) override
     {
-        if (position != m_start + std::ssize(m_pending) || m_pending.size() + bytes.size() > m_capacity) {
+        if (position != m_start + static_cast<std::int64_t>(m_size) || bytes.size() > m_capacity - m_size) {
             Flush();
             m_start = position;
         }
@@ -52,8 +52,11 @@ public:
             m_start += std::ssize(bytes);
             return;
         }
-        m_pending.reserve(m_capacity);
-        m_pending.insert(m_pending.end(), bytes.begin(), bytes.end());
+        if (!m_pending) {
+            m_pending = std::make_unique_for_overwrite<std::uint8_t[]>(m_capacity);
+        }
+        std::copy(bytes.begin(), bytes.end(), m_pending.get() + m_size);
+        m_size += bytes.size();
     }
 
     void Close() override
@@ -67,17 +70,18 @@ private:
 
     void Flush()
     {
-        if (!m_pending.empty()) {
-            m_file.Write(m_start, m_pending);
-            m_start += std::ssize(m_pending);
-            m_pending.clear();
+        if (m_size > 0) {
+            m_file.Write(m_start, {m_pending.get(), m_size});
+            m_start += static_cast<std::int64_t>(m_size);
+            m_size = 0;
         }
     }
 
     Descriptor m_file;
     std::size_t m_capacity;
     std::int64_t m_start = 0; // where the pending bytes belong
-    std::vector<std::uint8_t> m_pending;
+    std::size_t m_size = 0;   // how many there are
+    std::unique_ptr<std::uint8_t[]> m_pending;
 };
 
 Descriptor OpenAnew(const std::string& path)

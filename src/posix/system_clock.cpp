@@ -6,7 +6,8 @@ namespace {
 
 std::string TwoDigits(int number)
 {
-    return (number < 10 ? "0" : "") + std::to_string(number);
+    std::string text(number < 10 ? 1 : 0, '0');
+    return text += std::to_string(number);
 }
 
 } // namespace

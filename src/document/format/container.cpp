@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <numeric>
 
 namespace quor {
 
@@ -26,11 +25,6 @@ template <class Number> Number NotNegative(Number value, std::string_view what)
 template <class Number> Number HeaderField(std::span<const std::uint8_t> header, std::size_t at, std::string_view what)
 {
     return NotNegative(LoadNumber<Number>(header.data() + at), what);
-}
-
-std::int64_t SumOf(std::span<const std::uint8_t> bytes) noexcept
-{
-    return std::accumulate(bytes.begin(), bytes.end(), std::int64_t{0});
 }
 
 } // namespace
@@ -82,7 +76,7 @@ std::int32_t ContainerReader::Sum()
     std::int64_t sum = 0;
     for (std::int64_t position = m_header.recordsAt; position < end;) {
         const std::int64_t piece = std::min<std::int64_t>(end - position, FileWindow::longestView);
-        sum += SumOf(m_window.View(position, static_cast<std::size_t>(piece)));
+        sum += SumOfBytes(m_window.View(position, static_cast<std::size_t>(piece)));
         position += piece;
     }
     return Narrow<std::int32_t>(sum);
@@ -152,7 +146,7 @@ void ContainerWriter::Finish()
 {
     const auto recordBlockSize = Narrow<std::int32_t>(m_end - m_recordsAt);
     const auto nameBlockSize = Narrow<std::int16_t>(m_names.size());
-    AddToSum(SumOf(m_names));
+    AddToSum(SumOfBytes(m_names));
     Append(m_names);
     std::array<std::uint8_t, view_file::checksumSize> checksum;
     StoreNumber(checksum.data(), m_sum);

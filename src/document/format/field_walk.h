@@ -6,7 +6,9 @@
 
 #include "base/property.h"
 #include "base/values.h"
+#include "document/format/fixed_field.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,10 +20,26 @@ public:
     virtual ~FieldWalk() = default;
 
     // Properties, and parts that have Fields and a name of their own.
-    template <class... Fields> void operator()(Fields&... fields) { (One(fields), ...); }
+    template <class... Fields> void operator()(Fields&... fields)
+    {
+        if constexpr (((WidthOf<Fields>() > 0) && ...)) {
+            if (PutAll(fields...)) {
+                return;
+            }
+        }
+        (One(fields), ...);
+    }
 
     // A 32-bit number that takes one byte in the record.
-    template <class Field> void AsByte(Field& field) { ByteField(Field::name, PropertyAccess::Value(field)); }
+    template <class Field> void AsByte(Field& field)
+    {
+        std::int32_t& value = PropertyAccess::Value(field);
+        if (m_next != m_end && value >= 0 && value <= 255) {
+            *m_next++ = static_cast<std::uint8_t>(value);
+        } else {
+            ByteField(Field::name, value);
+        }
+    }
 
     // The name of the thing itself: written, never taken over by a reader.
     template <class Field> void OwnName(Field& field) { NameField(Field::name, PropertyAccess::Value(field)); }
@@ -41,13 +59,42 @@ protected:
     virtual void Begin(std::string_view part) = 0;
     virtual void End() = 0;
 
+    // Room for bytes. A walk that writes records has some: fields of fixed width go there without a call, as long as
+    // there is enough. All others have none.
+    std::uint8_t* m_next = nullptr;
+    std::uint8_t* m_end = nullptr;
+
 private:
+    template <class F> static consteval std::size_t WidthOf()
+    {
+        if constexpr (requires { typename F::Value; }) {
+            return fixedWidth<typename F::Value>;
+        }
+        return 0;
+    }
+
+    template <class... F> bool PutAll(F&... fields)
+    {
+        constexpr std::size_t width = (WidthOf<F>() + ...);
+        std::uint8_t* next = m_next;
+        if (static_cast<std::size_t>(m_end - next) < width) {
+            return false;
+        }
+        ((PutFixed(next, PropertyAccess::Value(fields)), next += WidthOf<F>()), ...);
+        m_next = next;
+        return true;
+    }
+
     template <class F> void One(F& field)
     {
         if constexpr (requires { field.Fields(*this); }) {
             Begin(F::name);
             field.Fields(*this);
             End();
+        } else if constexpr (WidthOf<F>() > 0) {
+            if (!PutAll(field)) {
+                Field(F::name, PropertyAccess::Value(field));
+            }
         } else {
             Field(F::name, PropertyAccess::Value(field));
         }

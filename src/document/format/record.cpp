@@ -7,21 +7,13 @@
 #include "document/format/view_file.h"
 
 #include <algorithm>
-#include <bit>
-#include <numeric>
 
 namespace quor {
 
 namespace {
 
 constexpr std::size_t fontFixedSize = 16;
-constexpr std::size_t usualRecordSize = 256;
-constexpr std::uint8_t trueByte = 255;
-
-std::uint8_t FlagByte(bool flag) noexcept
-{
-    return flag ? trueByte : std::uint8_t{0};
-}
+constexpr std::size_t leastRoom = 64;
 
 // The longest that a text can be in a record.
 std::size_t RoomForText(std::string_view text) noexcept
@@ -38,13 +30,13 @@ std::uint8_t* PutZString(std::uint8_t* to, std::string_view text) noexcept
 
 std::uint8_t* PutFontRecord(std::uint8_t* to, const Font& font) noexcept
 {
-    to[0] = FlagByte(font.Bold());
-    StoreNumber(to + 1, font.Charset);
-    to[3] = FlagByte(font.Italic);
-    StoreNumber(to + 4, font.Size);
-    to[12] = FlagByte(font.Strikethrough);
-    to[13] = FlagByte(font.Underline);
-    StoreNumber(to + 14, font.Weight());
+    PutFixed(to, font.Bold());
+    PutFixed(to + 1, font.Charset);
+    PutFixed(to + 3, font.Italic);
+    PutFixed(to + 4, font.Size);
+    PutFixed(to + 12, font.Strikethrough);
+    PutFixed(to + 13, font.Underline);
+    PutFixed(to + 14, font.Weight());
     return PutZString(to + fontFixedSize, font.Name);
 }
 
@@ -61,8 +53,9 @@ void NeedBytes(std::span<const std::uint8_t> bytes, std::size_t position, std::s
 
 void AppendZString(std::vector<std::uint8_t>& bytes, std::string_view text)
 {
-    AppendAnsi(bytes, text);
-    bytes.push_back(0);
+    const std::size_t start = bytes.size();
+    bytes.resize(start + RoomForText(text));
+    bytes.resize(static_cast<std::size_t>(PutZString(bytes.data() + start, text) - bytes.data()));
 }
 
 void ExtractZString(std::span<const std::uint8_t> bytes, std::size_t& position, std::string& text)
@@ -99,41 +92,51 @@ void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& positio
 
 RecordWriter::RecordWriter(std::vector<std::uint8_t>& buffer, std::uint8_t type) : m_buffer(buffer)
 {
-    m_buffer.resize(usualRecordSize);
+    // The last record's size is a good guess for this one's.
+    m_buffer.resize(std::max(m_buffer.size(), leastRoom));
     m_buffer[0] = type;
-    m_size = view_file::frameSize;
+    m_next = m_buffer.data() + view_file::frameSize;
+    m_end = m_buffer.data() + m_buffer.size();
 }
 
 std::int32_t RecordWriter::Finish()
 {
-    StoreNumber(m_buffer.data() + 1, Narrow<std::int16_t>(m_size - view_file::frameSize));
-    m_buffer.resize(m_size);
-    return std::accumulate(m_buffer.begin(), m_buffer.end(), std::int32_t{0});
+    m_buffer.resize(static_cast<std::size_t>(m_next - m_buffer.data()));
+    StoreNumber(m_buffer.data() + 1, Narrow<std::int16_t>(m_buffer.size() - view_file::frameSize));
+    return static_cast<std::int32_t>(SumOfBytes(m_buffer));
 }
 
-// The end of the record, with room for so many bytes behind it.
+// Where the next bytes go; there is room for so many.
 std::uint8_t* RecordWriter::Room(std::size_t count)
 {
-    if (m_buffer.size() - m_size < count) {
-        m_buffer.resize(2 * m_buffer.size() + count);
+    if (static_cast<std::size_t>(m_end - m_next) < count) {
+        Grow(count);
     }
-    return m_buffer.data() + m_size;
+    return m_next;
 }
 
-template <class Number> void RecordWriter::Put(Number value)
+void RecordWriter::Grow(std::size_t count)
 {
-    StoreNumber(Room(sizeof(Number)), value);
-    m_size += sizeof(Number);
+    const std::ptrdiff_t written = m_next - m_buffer.data();
+    m_buffer.resize(2 * m_buffer.size() + count);
+    m_next = m_buffer.data() + written;
+    m_end = m_buffer.data() + m_buffer.size();
+}
+
+template <class T> void RecordWriter::Put(T value)
+{
+    PutFixed(Room(fixedWidth<T>), value);
+    m_next += fixedWidth<T>;
 }
 
 void RecordWriter::Field(std::string_view, bool& value)
 {
-    Put(FlagByte(value));
+    Put(value);
 }
 
 void RecordWriter::Field(std::string_view, WideFlag& value)
 {
-    Put(static_cast<std::int16_t>(value.value ? -1 : 0));
+    Put(value);
 }
 
 void RecordWriter::Field(std::string_view, std::uint8_t& value)
@@ -153,24 +156,22 @@ void RecordWriter::Field(std::string_view, std::int32_t& value)
 
 void RecordWriter::Field(std::string_view, float& value)
 {
-    Put(std::bit_cast<std::uint32_t>(value));
+    Put(value);
 }
 
 void RecordWriter::Field(std::string_view, Color& value)
 {
-    Put(value.value);
+    Put(value);
 }
 
 void RecordWriter::Field(std::string_view, Font& value)
 {
-    std::uint8_t* to = Room(fontFixedSize + RoomForText(value.Name));
-    m_size += static_cast<std::size_t>(PutFontRecord(to, value) - to);
+    m_next = PutFontRecord(Room(fontFixedSize + RoomForText(value.Name)), value);
 }
 
 void RecordWriter::Field(std::string_view, std::string& value)
 {
-    std::uint8_t* to = Room(RoomForText(value));
-    m_size += static_cast<std::size_t>(PutZString(to, value) - to);
+    m_next = PutZString(Room(RoomForText(value)), value);
 }
 
 void RecordWriter::ByteField(std::string_view, std::int32_t& value)
@@ -185,47 +186,46 @@ void RecordWriter::NameField(std::string_view name, std::string& value)
 
 // Reader ---------------------------------------------------------------------
 
-template <class Number> Number RecordReader::Take(std::string_view name)
+template <class T> void RecordReader::Take(std::string_view name, T& value)
 {
-    NeedBytes(m_payload, m_position, sizeof(Number), name);
-    const auto value = LoadNumber<Number>(m_payload.data() + m_position);
-    m_position += sizeof(Number);
-    return value;
+    NeedBytes(m_payload, m_position, fixedWidth<T>, name);
+    TakeFixed(m_payload.data() + m_position, value);
+    m_position += fixedWidth<T>;
 }
 
 void RecordReader::Field(std::string_view name, bool& value)
 {
-    value = Take<std::uint8_t>(name) != 0;
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, WideFlag& value)
 {
-    value.value = Take<std::int16_t>(name) != 0;
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, std::uint8_t& value)
 {
-    value = Take<std::uint8_t>(name);
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, std::int16_t& value)
 {
-    value = Take<std::int16_t>(name);
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, std::int32_t& value)
 {
-    value = Take<std::int32_t>(name);
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, float& value)
 {
-    value = std::bit_cast<float>(Take<std::uint32_t>(name));
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view name, Color& value)
 {
-    value.value = Take<std::int32_t>(name);
+    Take(name, value);
 }
 
 void RecordReader::Field(std::string_view, Font& value)
@@ -240,7 +240,9 @@ void RecordReader::Field(std::string_view, std::string& value)
 
 void RecordReader::ByteField(std::string_view name, std::int32_t& value)
 {
-    value = Take<std::uint8_t>(name);
+    std::uint8_t byte = 0;
+    Take(name, byte);
+    value = byte;
 }
 
 void RecordReader::NameField(std::string_view, std::string&)

@@ -49,11 +49,11 @@ private:
     void Begin(std::string_view) override {}
     void End() override {}
 
-    template <class Number> void Put(Number value);
+    template <class T> void Put(T value);
     std::uint8_t* Room(std::size_t count);
+    void Grow(std::size_t count);
 
     std::vector<std::uint8_t>& m_buffer;
-    std::size_t m_size = 0;
 };
 
 // Reads the fields of a payload. A field that is not wholly there fails with 9, says where, and moves nothing.
@@ -79,7 +79,7 @@ private:
     void Begin(std::string_view) override {}
     void End() override {}
 
-    template <class Number> Number Take(std::string_view name);
+    template <class T> void Take(std::string_view name, T& value);
 
     std::span<const std::uint8_t> m_payload;
     std::size_t m_position = 0;

@@ -5,9 +5,9 @@
 #include "document/format/bytes.h"
 #include "document/format/view_file.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <numeric>
 
 namespace quor {
 
@@ -73,7 +73,9 @@ template <class Number> std::size_t SizeAt(std::span<const std::uint8_t> file, s
 
 void Append(Bytes& bytes, std::span<const std::uint8_t> more)
 {
-    bytes.insert(bytes.end(), more.begin(), more.end());
+    const std::size_t end = bytes.size();
+    bytes.resize(end + more.size());
+    std::copy(more.begin(), more.end(), bytes.data() + end);
 }
 
 const Insertion* InsertionFor(std::uint8_t type, std::span<const Insertion> insertions)
@@ -108,8 +110,7 @@ void Complete(Bytes& bytes, std::size_t recordsAt, std::uint8_t version)
     }
     bytes[view_file::versionAt] = version;
     const auto summed = std::span(bytes).subspan(recordsAt, bytes.size() - view_file::checksumSize - recordsAt);
-    const auto sum = std::accumulate(summed.begin(), summed.end(), std::int64_t{0});
-    StoreNumber(bytes.data() + bytes.size() - view_file::checksumSize, Narrow<std::int32_t>(sum));
+    StoreNumber(bytes.data() + bytes.size() - view_file::checksumSize, Narrow<std::int32_t>(SumOfBytes(summed)));
 }
 
 Bytes Upgrade(std::span<const std::uint8_t> file, std::span<const Insertion> insertions, std::uint8_t version)
@@ -121,7 +122,9 @@ Bytes Upgrade(std::span<const std::uint8_t> file, std::span<const Insertion> ins
     const std::size_t titleSize = SizeAt<std::int16_t>(header, view_file::nameLengthAt) +
                                   SizeAt<std::int16_t>(header, view_file::categoryLengthAt);
     const std::size_t recordsAt = view_file::headerSize + titleSize;
-    Bytes result(header.begin(), header.end());
+    Bytes result;
+    result.reserve(file.size());
+    Append(result, header);
     Append(result, walk.Take(titleSize));
     std::size_t inserted = 0;
     for (std::size_t index = 0; index < recordCount; ++index) {
