@@ -85,7 +85,8 @@ public:
     bool IsDragging() const noexcept { return m_drag.index() != 0; }
     // For a pointer at that place of the visible canvas; none when nothing is dragged or sized.
     std::optional<DragOutline> OutlineAt(float x, float y) const;
-    // A key on the canvas or a widget; Delete (46) alone does something.
+    // A key on the canvas or a widget. Delete (46) asks for the deletion, Escape (27) gives up a drag or a sizing; no
+    // other one does anything.
     void KeyDown(std::int16_t code);
 
     // Sizing (main_size.cpp): from the press on a handle to the release. The distance is the pointer's since the press.

@@ -14,6 +14,7 @@ namespace quor {
 namespace {
 
 constexpr std::int16_t deleteKey = 46;
+constexpr std::int16_t escapeKey = 27;
 
 std::string PlaceTip(const Area& area)
 {
@@ -218,6 +219,8 @@ void frmMain::KeyDown(std::int16_t code)
           "An error occurred. The action you are trying to perform failed.", [&] {
               if (code == deleteKey) {
                   RequestDelete();
+              } else if (code == escapeKey && (IsDragging() || IsSizing())) {
+                  CancelDrag();
               }
           });
 }
