@@ -3,7 +3,9 @@
 #include "document/view_document.h"
 #include "editor/application.h"
 #include "editor/main_form.h"
+#include "editor/property_panel.h"
 #include "forms/bars.h"
+#include "pages/page.h"
 #include "support/frm_view_pbar.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/lone_view.h"
@@ -41,6 +43,17 @@ std::string DialogText(const CommonDialog& dialog, DialogKind kind)
         text += " file " + Quoted(dialog.FileName) + " directory " + Quoted(dialog.InitialDirectory);
     }
     return text;
+}
+
+std::string TabsText(const Band& panel)
+{
+    std::string text = "tabs";
+    for (const Band* child : panel.Children()) {
+        if (child->Visible()) {
+            text += ' ' + Quoted(child->Caption);
+        }
+    }
+    return text + " front " + Quoted(panel.CurrentChild() == nullptr ? "" : panel.CurrentChild()->Caption);
 }
 
 } // namespace
@@ -117,6 +130,16 @@ void Stage::OnForm(Form& form)
     }
 }
 
+void Stage::OnStatus(const std::string& text)
+{
+    // The fields of a page that takes over an element set one and the same text again and again.
+    std::string line = "status " + Quoted(text);
+    if (line != m_status) {
+        out.Line(line);
+        m_status = std::move(line);
+    }
+}
+
 void Stage::OnReport(const ErrorReport& report)
 {
     out.Line("error " + Quoted(report.message) + " number " + ValueText(report.number) + " source " +
@@ -125,6 +148,7 @@ void Stage::OnReport(const ErrorReport& report)
 
 void Stage::BeforeStep(std::span<const Word> words)
 {
+    m_status.clear();
     // An error report stays on the screen for steps that speak of it; else the user has read it.
     const bool isRead = std::ranges::none_of(words, [](const Word& word) { return word.text.starts_with(reportForm); });
     if (isRead) {
@@ -180,7 +204,18 @@ void Stage::ListenTo(frmMain& main)
         }
         m_selected = name;
     }));
-    keep(main.StatusChanged.Subscribe([this](const std::string& text) { out.Line("status " + Quoted(text)); }));
+    keep(main.StatusChanged.Subscribe([this](const std::string& text) { OnStatus(text); }));
+    PropertyPanel& panel = main.Panel();
+    keep(panel.TabsSet.Subscribe([this, &main] {
+        m_status.clear();
+        out.Line(TabsText(main.abViewEdit().BandOf("bndObjProps")));
+    }));
+    keep(panel.Called.Subscribe([this](const PageCall& call) {
+        if (IsTraced("pages")) {
+            const std::string element = call.verb == "SetOwner" ? ' ' + Quoted(call.element) : "";
+            out.Line(std::string(call.verb) + ' ' + std::string(call.page) + element);
+        }
+    }));
     keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Line("popup " + band.Name); }));
 }
 
@@ -225,7 +260,11 @@ Element& Stage::ElementOf(const std::string& name) const
 
 Form& Stage::FormOf(const std::string& name) const
 {
-    if (Form* form = forms.Find(name)) {
+    Form* form = forms.Find(name);
+    if (form == nullptr && m_application != nullptr) {
+        form = Main().Panel().FindPage(name);
+    }
+    if (form != nullptr) {
         return *form;
     }
     throw JourneyError("no such form: " + name);

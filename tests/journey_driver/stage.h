@@ -86,6 +86,7 @@ private:
     void ListenToPorts();
     void ListenTo(frmMain& main);
     void OnForm(Form& form);
+    void OnStatus(const std::string& text);
     void OnReport(const ErrorReport& report);
     void CloseReports();
 
@@ -97,6 +98,7 @@ private:
     std::unique_ptr<Application> m_application;
     std::unique_ptr<LoneView> m_liveView;
     std::string m_selected; // the name of the selected element
+    std::string m_status;   // the line that was last told in this step
     bool m_endIsTold = true;
     std::vector<Subscription> m_portSubscriptions;
     std::vector<Subscription> m_programSubscriptions;
