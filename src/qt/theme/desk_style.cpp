@@ -10,7 +10,10 @@
 #include <QFocusFrame>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
+#include <QPainterPath>
 #include <QPointer>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -24,6 +27,26 @@ namespace {
 template <class Option> const Option& As(const QStyleOption* option)
 {
     return *qstyleoption_cast<const Option*>(option);
+}
+
+constexpr int scrollBarExtent = 12; // pixels
+
+// Menus mark the letters for the keyboard once it is in use.
+bool UnderlinesLetters(const QWidget* widget)
+{
+    const bool isMenu =
+        qobject_cast<const QMenuBar*>(widget) != nullptr || qobject_cast<const QMenu*>(widget) != nullptr;
+    return !isMenu || qobject_cast<const QMenuBar*>(QApplication::focusWidget()) != nullptr;
+}
+
+// Of a scroll area or one of its bars.
+bool LiesOverContent(const QWidget* widget)
+{
+    const QWidget* parent = widget;
+    while (parent != nullptr && qobject_cast<const QAbstractScrollArea*>(parent) == nullptr) {
+        parent = parent->parentWidget();
+    }
+    return qobject_cast<const QScrollArea*>(parent) != nullptr;
 }
 
 bool WantsRing(const QWidget* widget)
@@ -74,6 +97,9 @@ void DeskStyle::polish(QWidget* widget)
         qobject_cast<QScrollBar*>(widget) != nullptr) {
         widget->setAttribute(Qt::WA_Hover);
     }
+    if (qobject_cast<QScrollBar*>(widget) != nullptr && LiesOverContent(widget)) {
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    }
 }
 
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -84,7 +110,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         painter->fillRect(option->rect, m_colors.menu);
         return;
     case PE_FrameMenu:
-        DrawBox(*painter, option->rect, 0, {}, m_colors.rule);
+        DrawBox(*painter, option->rect, radii::menu, {}, m_colors.rule);
         return;
     case PE_PanelMenuBar:
     case PE_FrameStatusBarItem:
@@ -137,7 +163,7 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
         painter->fillRect(option->rect, m_colors.window);
         return;
     case CE_MenuItem:
-        DrawMenuItem(As<QStyleOptionMenuItem>(option), *painter);
+        DrawMenuItem(As<QStyleOptionMenuItem>(option), *painter, widget);
         return;
     case CE_MenuEmptyArea:
         return;
@@ -162,6 +188,9 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    const QWidget* widget) const
 {
     if (control == CC_ScrollBar) {
+        if (widget == nullptr || widget->testAttribute(Qt::WA_OpaquePaintEvent)) {
+            painter->fillRect(option->rect, m_colors.window);
+        }
         DrawScrollBar(As<QStyleOptionSlider>(option), *painter);
     } else if (control == CC_ComboBox) {
         DrawComboBox(As<QStyleOptionComboBox>(option), *painter);
@@ -201,8 +230,9 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
     case PM_ScrollView_ScrollBarSpacing:
-    case PM_ScrollView_ScrollBarOverlap:
         return 0;
+    case PM_ScrollView_ScrollBarOverlap: // a page keeps its margin for it, so nothing shifts
+        return LiesOverContent(widget) ? scrollBarExtent : 0;
     case PM_MenuBarHMargin:
     case PM_MenuPanelWidth:
         return 4;
@@ -218,7 +248,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_SmallIconSize:
         return 20;
     case PM_ScrollBarExtent:
-        return 12;
+        return scrollBarExtent;
     case PM_ScrollBarSliderMin:
         return 32;
     case PM_DefaultFrameWidth:
@@ -250,6 +280,13 @@ int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     case SH_Menu_MouseTracking:
         return 1;
     case SH_UnderlineShortcut:
+        return UnderlinesLetters(widget) ? 1 : 0;
+    case SH_Menu_Mask:
+        if (auto* mask = qstyleoption_cast<QStyleHintReturnMask*>(answer)) {
+            QPainterPath shape;
+            shape.addRoundedRect(option->rect, radii::menu, radii::menu);
+            mask->region = QRegion(shape.toFillPolygon().toPolygon());
+        }
         return 1;
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:

@@ -40,9 +40,10 @@ public:
 private:
     // Each draws one kind of control.
     void DrawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const;
-    void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter) const;
+    void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const;
     void DrawMenuIcon(const QStyleOptionMenuItem& item, QPainter& painter) const;
-    void DrawMenuText(const QStyleOptionMenuItem& item, QPainter& painter) const;
+    void DrawMenuText(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const;
+    int TextFlags(const QStyleOption& option, const QWidget* widget) const; // of a menu's captions
     void DrawPushButton(const QStyleOptionButton& button, QPainter& painter) const;
     void DrawPushButtonText(const QStyleOptionButton& button, QPainter& painter, const QWidget* widget) const;
     void DrawToolButton(const QStyleOption& option, QPainter& painter) const;

@@ -119,12 +119,11 @@ void DeskStyle::DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter)
 
 void DeskStyle::DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter) const
 {
-    painter.fillRect(bar.rect, m_colors.window);
     if (bar.minimum == bar.maximum) {
         return;
     }
-    QRectF thumb = visualRect(bar.direction, bar.rect, ScrollBarPart(bar, SC_ScrollBarSlider));
-    thumb = bar.orientation == Qt::Horizontal ? thumb.adjusted(3, 3, -3, -3) : thumb.adjusted(3, 3, -3, -3);
+    const QRectF thumb =
+        visualRect(bar.direction, bar.rect, ScrollBarPart(bar, SC_ScrollBarSlider)).adjusted(3, 3, -3, -3);
     const bool isHeld = Has(bar, State_Sunken) && (bar.activeSubControls & SC_ScrollBarSlider) != 0;
     DrawBox(painter, thumb, 3, isHeld ? Mixed(m_colors.thumb, m_colors.text, 0.35) : m_colors.thumb);
 }

@@ -35,7 +35,7 @@ QString ShortcutOf(const QStyleOptionMenuItem& item)
 QSize MenuItemSize(const QStyleOptionMenuItem& item)
 {
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
-        return {0, separatorHeight};
+        return {separatorHeight, separatorHeight};
     }
     const QFontMetrics metrics(item.font);
     int width = textLeft + metrics.size(Qt::TextShowMnemonic | Qt::TextSingleLine, CaptionOf(item)).width();
@@ -71,6 +71,12 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     }
 }
 
+int DeskStyle::TextFlags(const QStyleOption& option, const QWidget* widget) const
+{
+    const bool underlines = styleHint(SH_UnderlineShortcut, &option, widget, nullptr) != 0;
+    return Qt::TextSingleLine | Qt::TextShowMnemonic | (underlines ? 0 : Qt::TextHideMnemonic);
+}
+
 void DeskStyle::DrawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const
 {
     painter.fillRect(item.rect, m_colors.window);
@@ -78,16 +84,12 @@ void DeskStyle::DrawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& pain
     if (isOpen || (item.state & State_Selected) != 0) {
         DrawBox(painter, item.rect, radii::button, isOpen ? m_colors.pressed : m_colors.hover);
     }
-    int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
-    if (styleHint(SH_UnderlineShortcut, &item, widget, nullptr) == 0) {
-        flags |= Qt::TextHideMnemonic;
-    }
     const bool isEnabled = (item.state & State_Enabled) != 0;
     painter.setPen(isEnabled ? m_colors.text : m_colors.disabledText);
-    painter.drawText(item.rect, flags, item.text);
+    painter.drawText(item.rect, Qt::AlignCenter | TextFlags(item, widget), item.text);
 }
 
-void DeskStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter) const
+void DeskStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const
 {
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
         const QRectF rule(item.rect.left() + 6, item.rect.center().y(), item.rect.width() - 12, 1);
@@ -99,7 +101,7 @@ void DeskStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter
         DrawBox(painter, item.rect, radii::button, m_colors.selectedGround);
     }
     DrawMenuIcon(item, painter);
-    DrawMenuText(item, painter);
+    DrawMenuText(item, painter, widget);
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
         const QPointF middle(item.rect.right() - 10, item.rect.center().y() + 0.5);
         DrawChevron(painter, middle, Chevron::Right, isEnabled ? m_colors.icon : m_colors.disabledText);
@@ -119,14 +121,13 @@ void DeskStyle::DrawMenuIcon(const QStyleOptionMenuItem& item, QPainter& painter
     }
 }
 
-void DeskStyle::DrawMenuText(const QStyleOptionMenuItem& item, QPainter& painter) const
+void DeskStyle::DrawMenuText(const QStyleOptionMenuItem& item, QPainter& painter, const QWidget* widget) const
 {
     const bool isEnabled = (item.state & State_Enabled) != 0;
     const QRect area = item.rect.adjusted(textLeft, 0, -rightMargin, 0);
     painter.setFont(item.font);
     painter.setPen(isEnabled ? m_colors.text : m_colors.disabledText);
-    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
-                     CaptionOf(item));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | TextFlags(item, widget), CaptionOf(item));
     painter.setPen(isEnabled ? m_colors.labelText : m_colors.disabledText);
     painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, ShortcutOf(item));
 }

@@ -37,9 +37,14 @@ QAction& BarActions::Make(BarTool& tool, const std::string& caption, const std::
     action->setObjectName(ToQt(tool.Name));
     action->setToolTip(ToQt(tip));
     action->setIconVisibleInMenu(true);
-    const bool isOwn = caption == tool.Caption() && tip == tool.Tip();
-    if (isOwn && !tool.Shortcut.empty()) {
-        action->setShortcut(QKeySequence(ToQt(tool.Shortcut)));
+    const bool isTheTools = caption == tool.Caption() && tip == tool.Tip();
+    if (!tool.Shortcut.empty()) {
+        const QKeySequence keys(ToQt(tool.Shortcut));
+        if (isTheTools) {
+            action->setShortcut(keys);
+        } else { // the keys are the tool's own action's
+            action->setText(action->text() + QLatin1Char('\t') + keys.toString(QKeySequence::NativeText));
+        }
     }
     const auto read = [&tool, action] {
         action->setEnabled(tool.Enabled());

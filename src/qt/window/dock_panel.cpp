@@ -49,8 +49,6 @@ DockPanel::DockPanel(Band& band, const Theme& theme, QWidget& content, QWidget* 
     m_closeButton->setAccessibleName(QStringLiteral("Close %1").arg(ToQt(band.Caption)));
     QObject::connect(static_cast<QAbstractButton*>(m_closeButton), &QAbstractButton::clicked, this,
                      [this] { m_band.Set(&Band::Visible, false); });
-    setVisible(band.Visible());
-    m_following = band.Changed.Subscribe([this] { setVisible(m_band.Visible()); });
 }
 
 void DockPanel::paintEvent(QPaintEvent* /*event*/)

@@ -1,8 +1,6 @@
 #pragma once
 // A panel docked beside the canvas: a title with a close button, and what the band holds below it.
 
-#include "base/event.h"
-
 #include <QWidget>
 
 namespace quor {
@@ -14,7 +12,7 @@ class DockPanel final : public QWidget {
 public:
     static constexpr int titleHeight = 28; // pixels
 
-    // Shows itself as the band is visible. Band and theme outlive it; the content becomes its child.
+    // Band and theme outlive it; the content becomes its child. Its close button hides the band.
     DockPanel(Band& band, const Theme& theme, QWidget& content, QWidget* parent = nullptr);
 
 protected:
@@ -26,7 +24,6 @@ private:
     const Theme& m_theme;
     QWidget& m_content;
     QWidget* m_closeButton;
-    Subscription m_following;
 };
 
 } // namespace quor

@@ -8,6 +8,7 @@
 #include "qt/theme/theme.h"
 #include "qt/window/dock_panel.h"
 #include "qt/window/status_line.h"
+#include "qt/window/tabbed_view.h"
 #include "qt/window/toolbox_view.h"
 
 #include <QBoxLayout>
@@ -24,6 +25,7 @@ namespace {
 
 constexpr QSize firstSize(1366, 768); // pixels
 constexpr int toolboxWidth = 80;
+constexpr int propertiesWidth = 320;
 
 // A line of 1 px between two parts of the window.
 class Rule final : public QWidget {
@@ -108,22 +110,30 @@ void MainWindow::AddCenter()
     auto* rows = Tight(new QVBoxLayout(center));
     auto* columns = Tight(new QHBoxLayout);
     m_canvas = new CanvasView(m_main, m_theme, center);
-    auto* toolbox = new ToolboxView(m_main, *m_canvas, m_theme, center);
-    Band& toolboxBand = bars.BandOf("bndToolbox");
-    auto* dock = new DockPanel(toolboxBand, m_theme, *toolbox, center);
-    dock->setFixedWidth(toolboxWidth);
-    auto* rule = new Rule(m_theme, Qt::Vertical, center);
-    rule->setVisible(toolboxBand.Visible());
-    m_subscriptions.push_back(
-        toolboxBand.Changed.Subscribe([rule, &toolboxBand] { rule->setVisible(toolboxBand.Visible()); }));
-    columns->addWidget(dock);
-    columns->addWidget(rule);
+    Band& toolbox = bars.BandOf("bndToolbox");
+    Band& properties = bars.BandOf("bndObjProps");
+    AddPanel(*columns, toolbox, *new ToolboxView(m_main, *m_canvas, m_theme), toolboxWidth, Qt::LeftEdge);
     columns->addWidget(m_canvas, 1);
+    AddPanel(*columns, properties, *new TabbedView(properties, m_theme), propertiesWidth, Qt::RightEdge);
     rows->addWidget(new Rule(m_theme, Qt::Horizontal, center));
     rows->addLayout(columns, 1);
     rows->addWidget(new StatusLine(bars.BandOf("bndStatus"), m_theme, center));
     setCentralWidget(center);
     m_canvas->setFocus();
+}
+
+// A panel and the rule between it and the canvas, which come and go with the band.
+void MainWindow::AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int width, Qt::Edge edge)
+{
+    auto* panel = new QWidget;
+    auto* parts = Tight(new QHBoxLayout(panel));
+    auto* dock = new DockPanel(band, m_theme, content);
+    dock->setFixedWidth(width);
+    parts->addWidget(dock);
+    parts->insertWidget(edge == Qt::LeftEdge ? 1 : 0, new Rule(m_theme, Qt::Vertical, panel));
+    columns.addWidget(panel);
+    panel->setVisible(band.Visible());
+    m_subscriptions.push_back(band.Changed.Subscribe([panel, &band] { panel->setVisible(band.Visible()); }));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class QBoxLayout;
+
 namespace quor {
 
 class Band;
@@ -30,6 +32,7 @@ private:
     void AddMenuBar(const Band& band);
     void AddToolBar(Band& band);
     void AddCenter();
+    void AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int width, Qt::Edge edge);
 
     frmMain& m_main;
     const Theme& m_theme;
