@@ -1,7 +1,7 @@
 # Sourced by the scripts: build PRESET [TARGET...] configures and builds, and shows what a step said only if it failed.
 
 # Objects are found again by ccache in another clone of the project, too.
-export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$PWD} CCACHE_NOHASHDIR=1
+export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$PWD} CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 quietly() {
     local log=$1

@@ -8,9 +8,10 @@ shift
 scratch=$(mktemp -d)
 display_pid= program_pid=
 finish() {
-    [ -z "$program_pid" ] || kill "$program_pid" 2>/dev/null || true
-    [ -z "$program_pid" ] || wait "$program_pid" 2>/dev/null || true
-    [ -z "$display_pid" ] || kill "$display_pid" 2>/dev/null || true
+    for pid in $program_pid $display_pid; do
+        kill "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
+    done
     rm -rf "$scratch"
 }
 trap finish EXIT
@@ -26,6 +27,7 @@ if ! read -r -t 30 number <"$scratch/display"; then
 fi
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$scratch}
 
 "$@" &
 program_pid=$!
@@ -33,7 +35,7 @@ program_pid=$!
 # Prints the number of the widest window on the display that is wide enough to be no splash.
 main_window() {
     local window width widest=0 found=
-    for window in $(xdotool search --onlyvisible --name '.' 2>/dev/null); do
+    for window in $(xdotool search --onlyvisible --class '.' 2>/dev/null); do
         width=$(xdotool getwindowgeometry --shell "$window" 2>/dev/null | sed -n 's/^WIDTH=//p')
         if [ "${width:-0}" -gt "$widest" ]; then
             widest=$width found=$window
@@ -56,7 +58,7 @@ for _ in $(seq 100); do
     now=$(cksum <"$scratch/window.rgb")
     if [ "$now" = "$previous" ]; then
         import -silent -window "$window" "$picture"
-        echo "There is no display: a picture of the window is in $(realpath "$picture")"
+        echo "A picture of the window is in $(realpath "$picture")"
         exit 0
     fi
     previous=$now

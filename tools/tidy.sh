@@ -6,7 +6,7 @@ source tools/build.sh
 
 [ -f build/dev/compile_commands.json ] || quietly build/tidy.log cmake --preset dev
 case "${1:-}" in
-    --all) mapfile -t files < <(git ls-files 'src/*.cpp' 'bench/*.cpp') ;;
+    --all) mapfile -t files < <(git ls-files 'src/*.cpp') ;;
     '') mapfile -t files < <(git diff --name-only --diff-filter=d main -- 'src/*.cpp') ;;
     *) files=("$@") ;;
 esac
