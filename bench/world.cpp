@@ -57,8 +57,8 @@ void World::Renew()
 
 EditorPorts World::PortsOfEditor()
 {
-    return {m_files,    m_boxes,    m_dialog, m_forms,    m_timers,   m_screen,
-            m_pictures, m_settings, m_login,  m_reporter, m_progress, m_live};
+    return {m_files,    m_boxes, m_dialog,   m_forms,    m_timers, m_screen, m_pictures,
+            m_settings, m_login, m_reporter, m_progress, m_live,   m_help,   m_systemInfo};
 }
 
 } // namespace quor::bench

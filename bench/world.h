@@ -7,6 +7,7 @@
 #include "editor/editor_ports.h"
 #include "support/frm_view_pbar.h"
 #include "tests/support/fake_boxes.h"
+#include "tests/support/fake_clipboard.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/fake_files.h"
 #include "tests/support/fake_forms.h"
@@ -14,6 +15,7 @@
 #include "tests/support/fake_pictures.h"
 #include "tests/support/fake_screen.h"
 #include "tests/support/fake_settings.h"
+#include "tests/support/fake_system_info.h"
 #include "tests/support/fake_timers.h"
 #include "widgets/canvas.h"
 
@@ -27,6 +29,7 @@ namespace quor::bench {
 class NoReporter final : public Reporter {
 public:
     void ShowError(const ErrorReport& report) noexcept override;
+    void LogError(const ErrorReport& report) noexcept override { ShowError(report); }
 };
 void MustHold(bool condition, const std::string& words);
 
@@ -56,6 +59,8 @@ private:
     FakeScreen m_screen;
     FakeSettings m_settings;
     FakeLogin m_login;
+    FakeHelp m_help;
+    FakeSystemInfo m_systemInfo;
     frmViewPBar m_progress{m_forms};
     Live m_live;
     Canvas m_canvas;

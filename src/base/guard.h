@@ -23,10 +23,14 @@ class Reporter {
 public:
     virtual ~Reporter() = default;
     virtual void ShowError(const ErrorReport& report) noexcept = 0;
+
+    // For the log alone: the user has nothing to do about it.
+    virtual void LogError(const ErrorReport& report) noexcept = 0;
 };
 
 // Reports the failure being handled; its source is the reference's owner where it has none of its own.
 void ReportCurrentFailure(Reporter& reporter, RefNumber ref, std::string_view message) noexcept;
+void LogCurrentFailure(Reporter& reporter, RefNumber ref, std::string_view message) noexcept;
 
 // Runs the body. True if it ended well; otherwise the failure has been reported.
 template <class Body> bool Guard(Reporter& reporter, RefNumber ref, std::string_view message, Body&& body)
@@ -36,6 +40,18 @@ template <class Body> bool Guard(Reporter& reporter, RefNumber ref, std::string_
         return true;
     } catch (...) {
         ReportCurrentFailure(reporter, ref, message);
+        return false;
+    }
+}
+
+// The same, but the failure goes to the log alone.
+template <class Body> bool GuardToLog(Reporter& reporter, RefNumber ref, std::string_view message, Body&& body)
+{
+    try {
+        std::forward<Body>(body)();
+        return true;
+    } catch (...) {
+        LogCurrentFailure(reporter, ref, message);
         return false;
     }
 }

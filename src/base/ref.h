@@ -28,7 +28,7 @@ inline constexpr RefBlock refBlocks[] = {
                        "ssScroll_Scroll imgCVBackground_MouseDown imgCVBackground_MouseUp imgCVBackground_DragDrop "
                        "DropControl PositionHandles HideHandles SelectControl ReleaseControl tmrDelControl "
                        "DeleteSelected ShowGrid HideGrid AlignToGrid SizeToGrid CopyControl PasteControl "
-                       "ReorderControl ShowPropertyPages HidePropertyPages"},
+                       "ReorderControl ShowPropertyPages HidePropertyPages LoadToolbarLayout SaveToolbarLayout"},
     {14069, "frmCVBlnDataSource", "cboDataType cboChan cboLimitType cboMacro cboSite cboUnit optTmpStatus"},
     {14076, "frmCVBlnPic", "cboAlignment cboBevelStyle cboImageAlign chkAutoCaption chkBakColorDef chkUseMask "
                            "chkWordWrap cmdBrwsBGColor cmdBrwsFont cmdBrwsFontColor cmdBrwsMaskColor "

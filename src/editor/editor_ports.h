@@ -7,11 +7,13 @@ class ApplicationSettings;
 class CommonDialog;
 class Files;
 class Forms;
+class Help;
 class MessageBoxes;
 class Pictures;
 class QuorLogin;
 class Reporter;
 class Screen;
+class SystemInfo;
 class Timers;
 class frmViewPBar;
 struct Live;
@@ -29,6 +31,8 @@ struct EditorPorts {
     Reporter& reporter;
     frmViewPBar& progress;
     Live& live;
+    Help& help;
+    SystemInfo& systemInfo;
 };
 
 } // namespace quor

@@ -6,6 +6,7 @@
 #include "editor/frm_view_toolbox.h"
 #include "editor/mouse.h"
 #include "pages/page_host.h"
+#include "support/grid_host.h"
 #include "widgets/canvas.h"
 
 #include <cstdint>
@@ -30,7 +31,7 @@ float RoundToStep(double value, float step);
 // Why the form is asked to close.
 enum class CloseReason : std::int16_t { User = 0, Code = 1, System = 2, TaskManager = 3 };
 
-class frmMain final : public ToolDragHost, public PageHost {
+class frmMain final : public ToolDragHost, public PageHost, public GridHost {
 public:
     static constexpr std::string_view caption = "Custom View Editor";
 
@@ -101,16 +102,16 @@ public:
     void ClearView();
 
     // The grid (main_grid.cpp).
-    void LoadGrid();
-    void ShowGrid();
-    void HideGrid();
+    void LoadGrid() override;
+    void ShowGrid() override;
+    void HideGrid() override;
     void ToggleGrid();
     void ToggleSnap();
     void AlignToGrid();
     void SizeToGrid();
-    bool GridVisible() const noexcept { return m_gridVisible; }
-    std::int16_t GridSize() const noexcept { return m_gridSize; }
-    void SetGridSize(std::int16_t pixels) noexcept { m_gridSize = pixels; }
+    bool GridVisible() const noexcept override { return m_gridVisible; }
+    std::int16_t GridSize() const noexcept override { return m_gridSize; }
+    void SetGridSize(std::int16_t pixels) noexcept override { m_gridSize = pixels; }
 
     // Clipboard and order (main_clipboard.cpp).
     void CopyControl();

@@ -33,7 +33,7 @@ public:
     void ShowError(const ErrorReport& report) noexcept override;
 
     // Appends a line to the log, which grows without limit. Its own failures are forgotten.
-    void LogError(const ErrorReport& report) noexcept;
+    void LogError(const ErrorReport& report) noexcept override;
 
 private:
     void Append(const std::string& folder, const std::string& line);

@@ -11,6 +11,7 @@
 #include "pages/page.h"
 #include "support/frm_view_pbar.h"
 #include "tests/support/fake_boxes.h"
+#include "tests/support/fake_clipboard.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/fake_files.h"
 #include "tests/support/fake_forms.h"
@@ -18,6 +19,7 @@
 #include "tests/support/fake_pictures.h"
 #include "tests/support/fake_screen.h"
 #include "tests/support/fake_settings.h"
+#include "tests/support/fake_system_info.h"
 #include "tests/support/fake_timers.h"
 #include "tests/support/test_reporter.h"
 
@@ -33,6 +35,8 @@ struct EditorFixture : testing::Test {
     FakeDialog dialog;
     FakeSettings settings;
     FakeLogin login;
+    FakeHelp help;
+    FakeSystemInfo systemInfo;
     FakePictures pictures{files};
     FakeScreen screen;
     Live live;
@@ -49,7 +53,9 @@ struct EditorFixture : testing::Test {
                              .login = login,
                              .reporter = reporter,
                              .progress = progress,
-                             .live = live}};
+                             .live = live,
+                             .help = help,
+                             .systemInfo = systemInfo}};
 
     void SetUp() override { main.Form_Load(""); }
 

@@ -182,8 +182,8 @@ void Stage::Start(const std::string& tail)
     m_live = {};
     m_endIsTold = false;
     m_selected.clear();
-    const EditorPorts ports{files,    boxes,    dialog, forms,      timers,     screen,
-                            pictures, settings, login,  m_reporter, m_progress, m_live};
+    const EditorPorts ports{files,    boxes, dialog,     forms,      timers, screen, pictures,
+                            settings, login, m_reporter, m_progress, m_live, help,   systemInfo};
     m_application = std::make_unique<Application>(ports, tail);
     const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
     keep(m_application->MainFormLoads.Subscribe([this](frmMain& main) { ListenTo(main); }));

@@ -15,6 +15,7 @@
 #include "tests/support/fake_pictures.h"
 #include "tests/support/fake_screen.h"
 #include "tests/support/fake_settings.h"
+#include "tests/support/fake_system_info.h"
 #include "tests/support/fake_timers.h"
 
 #include <memory>
@@ -54,6 +55,8 @@ public:
     FakeClipboard clipboard;
     FakeScreen screen;
     FakeClock clock;
+    FakeHelp help;
+    FakeSystemInfo systemInfo;
     std::string server;                     // its sites, as JSON
     std::vector<std::string> reportButtons; // that the user pushes in the next error report
     std::set<std::string> traced;           // what is traced

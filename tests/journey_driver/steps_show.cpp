@@ -129,6 +129,7 @@ void PrintView(Stage& stage, const Arguments&)
 class Silence final : public Reporter {
 public:
     void ShowError(const ErrorReport& report) noexcept override { words = report.description; }
+    void LogError(const ErrorReport& /*report*/) noexcept override {}
 
     std::string words;
 };

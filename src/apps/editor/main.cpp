@@ -11,9 +11,11 @@
 #include "qt/ports/qt_boxes.h"
 #include "qt/ports/qt_clipboard.h"
 #include "qt/ports/qt_common_dialog.h"
+#include "qt/ports/qt_help.h"
 #include "qt/ports/qt_pictures.h"
 #include "qt/ports/qt_screen.h"
 #include "qt/ports/qt_settings.h"
+#include "qt/ports/qt_system_info.h"
 #include "qt/ports/qt_text.h"
 #include "qt/ports/qt_timers.h"
 #include "qt/theme/theme.h"
@@ -94,8 +96,8 @@ private:
     {
         m_theme.Apply(*qApp);
         QApplication::setWindowIcon(m_theme.Icon("application"));
-        return {m_files,    m_boxes,    m_dialog, m_forms,    m_timers,   m_screen,
-                m_pictures, m_settings, m_login,  m_reporter, m_progress, m_live};
+        return {m_files,    m_boxes, m_dialog,   m_forms,    m_timers, m_screen, m_pictures,
+                m_settings, m_login, m_reporter, m_progress, m_live,   m_help,   m_systemInfo};
     }
 
     void ShowWindow(frmMain& main)
@@ -117,6 +119,8 @@ private:
     QtSettings m_settings{QtSettings::DefaultPath()};
     QtClipboard m_clipboard;
     DesktopLogin m_login;
+    QtHelp m_help;
+    QtSystemInfo m_systemInfo;
     ErrorReporter m_reporter{{m_files, m_forms, m_screen, m_clipboard, m_clock},
                              FromQt(QCoreApplication::applicationDirPath()),
                              StateFolder()};

@@ -32,6 +32,7 @@ public:
     {
         IgnoreFailure([&] { reports.push_back(report); });
     }
+    void LogError(const ErrorReport& /*report*/) noexcept override {}
 };
 
 class NoForms final : public Forms {
