@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -239,33 +241,53 @@ TEST_F(OnDisk, ACopyOfAScratchFileOutlivesIt)
     EXPECT_EQ(EntryCount(), 2U);
 }
 
-// Saves alternating texts over the target until it is killed.
-[[noreturn]] void SaveForEver(DiskFiles& files, const std::string& folder, const std::string& target,
-                              const std::vector<std::string>& texts)
+// Goes the way of a save: a scratch file, a copy over the target, and the scratch file is deleted.
+void SaveOnce(DiskFiles& files, const std::string& folder, const std::string& target, const std::string& text)
 {
-    for (std::size_t round = 0;; ++round) {
-        const std::string scratch = folder + '/' + files.TempName();
-        const auto file = files.Open(scratch, OpenMode::Scratch);
-        file->Write(0, BytesOf(texts[round % texts.size()]));
-        file->Close();
-        files.CopyFile(scratch, target);
-        files.DeleteFile(scratch);
+    const std::string scratch = folder + '/' + files.TempName();
+    const auto file = files.Open(scratch, OpenMode::Scratch);
+    file->Write(0, BytesOf(text));
+    file->Close();
+    files.CopyFile(scratch, target);
+    files.DeleteFile(scratch);
+}
+
+// A process that does the body over and over until it is killed; it has begun when this returns.
+template <class Body> pid_t StartLoop(Body&& body)
+{
+    int ends[2];
+    EXPECT_EQ(pipe(ends), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        static_cast<void>(write(ends[1], "x", 1) == 1);
+        for (unsigned round = 0;; ++round) {
+            body(round);
+        }
     }
+    char begun = 0;
+    EXPECT_EQ(read(ends[0], &begun, 1), 1);
+    close(ends[0]);
+    close(ends[1]);
+    return child;
 }
 
 TEST_F(OnDisk, ASaveKilledAtAnyMomentLeavesOneOfTheTwoWhole)
 {
+    using std::chrono::microseconds;
     const std::vector<std::string> texts{std::string(150'000, 'a'), std::string(70'000, 'b')};
-    const std::string target = Put("target", texts[0]);
+    const std::string target = Path("target");
+    const auto start = std::chrono::steady_clock::now();
+    SaveOnce(files, m_folder.string(), target, texts[0]);
+    const auto oneSave = std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
+    const auto longest =
+        static_cast<unsigned>(std::clamp(2 * oneSave, microseconds(2'000), microseconds(30'000)).count());
     std::mt19937 random(7);
     std::set<std::string> seen;
-    for (int kill = 0; kill < 300; ++kill) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            SaveForEver(files, m_folder.string(), target, texts);
-        }
-        usleep(static_cast<useconds_t>(500 + random() % 10'000));
+    for (unsigned kill = 0; kill < 300; ++kill) {
+        const pid_t child = StartLoop(
+            [&](unsigned round) { SaveOnce(files, m_folder.string(), target, texts[(kill + round) % texts.size()]); });
+        ASSERT_GT(child, 0);
+        usleep(static_cast<useconds_t>(random() % longest));
         ASSERT_EQ(::kill(child, SIGKILL), 0);
         ASSERT_EQ(waitpid(child, nullptr, 0), child);
         const std::string found = Text(target);
