@@ -10,6 +10,13 @@ namespace quor {
 namespace {
 // Far beyond any canvas: stands for all of it.
 constexpr Area everywhere{-1e9F, -1e9F, 2e9F, 2e9F};
+
+// Places of a file can be any numbers, or none. Beyond this, what lies elsewhere would get lost in the rounding.
+bool IsPlain(const Area& area) noexcept
+{
+    constexpr float far = 1e6F; // twips
+    return area.left > -far && area.top > -far && area.left + area.width < far && area.top + area.height < far;
+}
 } // namespace
 
 Area United(const Area& one, const Area& other) noexcept
@@ -203,11 +210,12 @@ void Canvas::SetGrid(const GridLines& grid)
 
 void Canvas::Invalidate(const Area& area)
 {
+    const Area& stale = IsPlain(area) ? area : everywhere;
     if (m_holds == 0) {
-        Changed.Raise(area);
+        Changed.Raise(stale);
         return;
     }
-    m_stale = m_isStale ? United(m_stale, area) : area;
+    m_stale = m_isStale ? United(m_stale, stale) : stale;
     m_isStale = true;
 }
 

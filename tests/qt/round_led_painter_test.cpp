@@ -4,13 +4,16 @@
 #include "qt/painters/round_led_painter.h"
 #include "widgets/round_led.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace {
 
@@ -197,6 +200,31 @@ TEST(Painters, AreFoundByTheArrayOfTheirKind)
 {
     EXPECT_NE(PainterFor("ctlLEDRound"), nullptr);
     EXPECT_EQ(PainterFor("ctlNothing"), nullptr);
+}
+
+// Places and sizes of a file can be any numbers, or none.
+TEST(RoundLedPicture, ComesAtOnceAtAnyPlaceAndSize)
+{
+    QImage image(400, 300, QImage::Format_RGB32);
+    image.fill(ground);
+    const RoundLed led = MakeLamp(true, bevels::lowered, true);
+    const qreal beyond = std::numeric_limits<qreal>::infinity();
+    const std::array values = {
+        std::numeric_limits<qreal>::quiet_NaN(), beyond, -beyond, 3e37, -3e37, 1e9, 2e6, 32'700.0, -100.0};
+    QElapsedTimer time;
+    time.start();
+    for (const qreal place : values) {
+        for (const qreal size : values) {
+            for (const QRectF& area : {QRectF(place, place, size, size), QRectF(10, 10, size, size),
+                                       QRectF(-size / 2, -size / 2, size, size)}) {
+                QPainter painter(&image);
+                if (IsPaintable(area)) {
+                    PaintRoundLed(painter, led, area);
+                }
+            }
+        }
+    }
+    EXPECT_LT(time.elapsed(), 10'000);
 }
 
 } // namespace

@@ -96,7 +96,7 @@ void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRegion& region
             continue;
         }
         const QRectF area = PixelsOf(widget->Bounds());
-        if (!region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
+        if (!IsPaintable(area) || !region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
             continue;
         }
         painter.setOpacity(widget == look.faded ? movedOpacity : 1);

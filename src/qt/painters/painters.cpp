@@ -39,6 +39,12 @@ bool PaintsNothing(const Widget& widget)
     return widget.Width() < twipsPerPixelX || widget.Height() < twipsPerPixelY;
 }
 
+bool IsPaintable(const QRectF& area)
+{
+    constexpr qreal far = 32'767; // the toolkit takes seconds for curves beyond it
+    return area.left() > -far && area.top() > -far && area.right() < far && area.bottom() < far;
+}
+
 QRectF PixelsOf(const Area& twips)
 {
     return {static_cast<qreal>(twips.left) / twipsPerPixelX, static_cast<qreal>(twips.top) / twipsPerPixelY,

@@ -21,6 +21,9 @@ WidgetPainter PainterFor(std::string_view arrayName);
 // True for a widget that would be invisible as it is, such as one without any extent.
 bool PaintsNothing(const Widget& widget);
 
+// Whether the place in pixels is one that can be drawn: not too far, not too large, and a number.
+bool IsPaintable(const QRectF& area);
+
 // Twips as device-independent pixels.
 QRectF PixelsOf(const Area& twips);
 
