@@ -25,8 +25,7 @@ void clsCustView::Written(const decltype(BGPicture)&)
 
 void clsCustView::SetBackground(const std::string& path, std::int32_t mode)
 {
-    m_canvas.SetPicture(nullptr, m_canvas.PictureMode());
-    m_canvas.SetBackground(nullptr, false);
+    HideBackground();
     if (!path.empty()) {
         if (mode == picture_modes::topLeft) {
             m_canvas.SetBackground(m_ports.pictures.LoadPicture(path), true);
@@ -35,6 +34,12 @@ void clsCustView::SetBackground(const std::string& path, std::int32_t mode)
         }
     }
     RepaintAll();
+}
+
+void clsCustView::HideBackground()
+{
+    m_canvas.SetPicture(nullptr, m_canvas.PictureMode());
+    m_canvas.SetBackground(nullptr, false);
 }
 
 void clsCustView::ReadFromArray(std::span<const std::uint8_t> payload)

@@ -36,8 +36,9 @@ clsCustView::clsCustView(const ViewPorts& ports, Canvas& canvas) : m_ports(ports
 
 clsCustView::~clsCustView()
 {
-    IgnoreFailure([&] { SetAllVisible(false); });
     const CanvasHold hold(m_canvas);
+    IgnoreFailure([&] { SetAllVisible(false); });
+    IgnoreFailure([&] { HideBackground(); });
     m_order->Clear();
     for (const std::uint8_t type : endOrder) {
         m_collections[type].reset();

@@ -27,6 +27,9 @@ bool clsCustView::LoadFile(const std::string& path)
           [&] { isLoaded = Open(path, file); });
     file.reset();
     m_ports.progress.CloseMe();
+    if (m_verdict == LoadVerdict::Failure) {
+        IgnoreFailure([&] { HideBackground(); });
+    }
     return isLoaded;
 }
 
@@ -88,6 +91,7 @@ void clsCustView::ReadRecords(ContainerReader& reader)
 {
     const std::vector<std::string> names = reader.Names();
     const std::int32_t count = reader.Header().recordCount;
+    m_ports.progress.Load();
     m_ports.progress.InitPBar("Loading custom view...", Narrow<std::int16_t>(count));
     if (count > recordsWithoutProgress) {
         m_ports.forms.Show(m_ports.progress);

@@ -27,7 +27,9 @@ void Application::OpenMainForm()
     m_mainUnloaded = m_main->Unloaded.Subscribe([this] { EndUnlessFormsAreLeft(); });
     MainFormLoads.Raise(*m_main);
     m_main->Form_Load(m_tail);
-    MainFormShown.Raise(*m_main);
+    if (!m_main->IsUnloading()) { // the session may have ended during the load
+        MainFormShown.Raise(*m_main);
+    }
 }
 
 void Application::EndUnlessFormsAreLeft()

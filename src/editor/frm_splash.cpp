@@ -35,7 +35,7 @@ frmSplash::~frmSplash() = default;
 void frmSplash::Form_Load()
 {
     Guard(m_ports.reporter, Ref("frmSplash.Form_Load"), "Unable to " + std::string(appTitle) + ".", [&] {
-        m_subscriptions.push_back(m_ports.login.LogOn.Subscribe([this](bool success) { m_Login_LogOn(success); }));
+        m_onLogOn = m_ports.login.LogOn.Subscribe([this](bool success) { m_Login_LogOn(success); });
         lblSplash.Set(&Label::Caption, "Loading " + std::string(appTitle) + "...");
         m_ports.screen.SetMousePointer(MousePointer::Hourglass);
         tmrSplash->SetEnabled(true);
@@ -60,6 +60,7 @@ void frmSplash::m_Login_LogOn(bool success)
         if (success) {
             OpenMainOrRefuse();
         } else {
+            StopListening();
             Unload();
         }
     });
@@ -67,13 +68,22 @@ void frmSplash::m_Login_LogOn(bool success)
 
 void frmSplash::OpenMainOrRefuse()
 {
-    if (!m_ports.login.HasPrivilege(rights::editViews)) {
+    const bool mayEdit = m_ports.login.HasPrivilege(rights::editViews);
+    StopListening();
+    if (!mayEdit) {
         tmrAbort->SetEnabled(true);
         return;
     }
     m_openMain();
     m_ports.screen.SetMousePointer(MousePointer::Default);
     Unload();
+}
+
+// The user is known: a logon that is told later, or while the main form loads, opens no second one.
+void frmSplash::StopListening()
+{
+    tmrSplash->SetEnabled(false);
+    m_onLogOn.End();
 }
 
 void frmSplash::tmrAbort_Timer()

@@ -25,6 +25,7 @@ private:
     void tmrAbort_Timer();
     void m_Login_LogOn(bool success);
     void OpenMainOrRefuse();
+    void StopListening();
 
     EditorPorts m_ports;
     std::function<void()> m_openMain;
@@ -32,6 +33,7 @@ private:
     std::unique_ptr<Timer> tmrAbort;
     Label& lblSplash;
     std::vector<Subscription> m_subscriptions;
+    Subscription m_onLogOn;
 };
 
 } // namespace quor

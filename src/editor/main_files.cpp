@@ -134,6 +134,10 @@ std::int32_t frmMain::GetCurrentChecksum()
         Files& files = m_ports.files;
         const std::string name = files.TempFolder() + "/" + files.TempName();
         if (!m_view->SaveFile(name)) {
+            // It may have failed behind the copy.
+            if (files.FileExists(name)) {
+                files.DeleteFile(name);
+            }
             return;
         }
         std::int32_t found = 0;

@@ -138,7 +138,7 @@ private:
     struct Sizing {
         std::size_t handle = 0;
         Widget* widget = nullptr;
-        Area before;
+        Area before; // view coordinates
     };
 
     static const std::string editWords; // of most failures while editing

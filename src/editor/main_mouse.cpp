@@ -30,6 +30,13 @@ std::string SizeTip(const Area& area)
 
 void frmMain::Press(const CanvasTarget& target, MouseButton button, float x, float y)
 {
+    if (m_sizing) {
+        return; // until the release of the button that began it
+    }
+    if (IsDragging()) { // its drop went astray
+        m_drag = {};
+        DragChanged.Raise();
+    }
     switch (target.what) {
     case CanvasTarget::What::Element:
         Guard(m_ports.reporter, Ref("frmMain.Widget_MouseDown"), editWords,
@@ -181,7 +188,10 @@ void frmMain::CancelDrag()
         m_canvas.SetFrame({});
         PositionHandles(*sizing.widget);
     }
-    m_drag = {};
+    const bool wasMoving = std::holds_alternative<Widget*>(std::exchange(m_drag, {}));
+    if (wasMoving && m_selected != nullptr) {
+        PositionHandles(*m_selected); // the press has left them where they were
+    }
     DragChanged.Raise();
 }
 

@@ -37,7 +37,7 @@ void MoveEdge(int edge, float distance, float& start, float& length)
 void frmMain::BeginSizing(std::size_t handle)
 {
     Widget& widget = Selected();
-    m_sizing = Sizing{handle, &widget, widget.Bounds()};
+    m_sizing = Sizing{handle, &widget, {GetCanvasLeft(widget), GetCanvasTop(widget), widget.Width(), widget.Height()}};
     m_canvas.SetFrame({widget.Bounds(), true, true});
     HideHandles();
     DragChanged.Raise();
@@ -49,6 +49,8 @@ void frmMain::SizeBy(float dx, float dy)
         return;
     }
     Area area = m_sizing->before;
+    area.left -= static_cast<float>(m_canvas.ScrollOffsetX());
+    area.top -= static_cast<float>(m_canvas.ScrollOffsetY());
     const Edges& edges = handleEdges.at(m_sizing->handle);
     MoveEdge(edges.x, dx, area.left, area.width);
     MoveEdge(edges.y, dy, area.top, area.height);

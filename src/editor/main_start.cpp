@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "base/narrow.h"
+#include "base/text.h"
 #include "binding/live.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
@@ -83,12 +84,13 @@ void frmMain::LoadSettings()
 
 void frmMain::ReadCommandLine(const std::string& tail)
 {
-    if (tail.size() <= openPrefix.size()) {
+    if (CharacterCount(tail) <= openPrefix.size()) {
         m_savedChecksum = GetCurrentChecksum();
         return;
     }
     m_skipSavePrompt = true;
-    OpenView(tail.substr(openPrefix.size())); // whatever the first six characters are
+    // Whatever the first six characters are, and however many bytes they take.
+    OpenView(tail.substr(FitField(tail, openPrefix.size()).size()));
 }
 
 std::unique_ptr<clsCustView> frmMain::MakeView()
@@ -130,7 +132,9 @@ bool frmMain::Close(CloseReason reason)
     if (m_unloading || !QueryUnload(reason)) {
         return false;
     }
-    Form_Unload();
+    if (!m_unloading) { // the session may have ended while the question was open
+        Form_Unload();
+    }
     return true;
 }
 

@@ -1,0 +1,111 @@
+// What may happen in the middle of something else.
+
+#include "elements/led_round.h"
+#include "tests/editor/editor_fixture.h"
+
+#include <limits>
+
+namespace quor {
+namespace {
+
+struct TheMainForm : EditorFixture {
+    int ends = 0;
+    Subscription ending = main.Unloaded.Subscribe([this] { ++ends; });
+
+    Area PlaceOf(const Element& element) const
+    {
+        return {element.ObjLeft(), element.ObjTop(), element.ObjWidth(), element.ObjHeight()};
+    }
+
+    // Two lamps over a picture, in a file in which both have one name.
+    void PutBrokenView(const std::string& path)
+    {
+        files.Put("back.bmp", {1});
+        Insert<clsLEDRound>();
+        Insert<clsLEDRound>();
+        main.View().Set(&clsCustView::BGPicture, std::string("back.bmp"));
+        ASSERT_TRUE(main.SaveView(path));
+        FakeFiles::Bytes bytes = files.Get(path);
+        const std::size_t lastLetter = bytes.size() - 6;
+        ASSERT_EQ(bytes[lastLetter], '2');
+        bytes[lastLetter] = '1';
+        --bytes[bytes.size() - 4]; // the checksum
+        files.Put(path, bytes);
+    }
+};
+
+TEST_F(TheMainForm, EndsOnceWhenTheSessionEndsDuringItsQuestion)
+{
+    Insert<clsLEDRound>();
+    boxes.answers = {BoxAnswer::No};
+    const Subscription session = boxes.Shown.Subscribe([this](const ShownBox&) { main.Close(CloseReason::System); });
+    main.Close(CloseReason::User);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(TheMainForm, SurvivesTheEndOfTheSessionInTheMiddleOfALoad)
+{
+    Insert<clsLEDRound>();
+    Insert<clsLEDRound>();
+    ASSERT_TRUE(main.SaveView("a.qvw"));
+    const Subscription session =
+        progress.Stepped.Subscribe([this](std::int32_t) { main.Close(CloseReason::TaskManager); });
+    main.OpenView("a.qvw");
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(TheMainForm, ShowsNothingOfAViewThatFailsToLoad)
+{
+    PutBrokenView("a.qvw");
+    ASSERT_NE(main.ssScroll().Picture(), nullptr);
+    reporter.Announce(Ref("clsCustView.LoadFile"));
+    main.OpenView("a.qvw");
+    EXPECT_EQ(reporter.reports.back().number, failures::keyInUse);
+    EXPECT_EQ(main.ssScroll().Picture(), nullptr);
+    EXPECT_EQ(main.ssScroll().WidgetAt(200, 200), nullptr);
+}
+
+TEST_F(TheMainForm, ShowsNothingOfTheOldViewBesideAFileThatIsNone)
+{
+    PutBrokenView("a.qvw");
+    files.PutText("b.qvw", "no view");
+    main.OpenView("b.qvw");
+    EXPECT_EQ(main.ssScroll().Picture(), nullptr);
+}
+
+TEST_F(TheMainForm, SizesAtThePlaceInTheViewWhenTheCanvasScrollsMeanwhile)
+{
+    auto& led = Insert<clsLEDRound>();
+    led.Set(&Element::ObjLeft, 3000);
+    led.Set(&Element::ObjTop, 3000);
+    main.ssScroll().ScrollTo(1500, 750);
+    main.BeginSizing(7);
+    main.SizeBy(45, 45);
+    main.ssScroll().ScrollTo(0, 0);
+    main.SizeBy(45, 45);
+    main.EndSizing();
+    EXPECT_EQ(PlaceOf(led), (Area{3000, 3000, 300, 300}));
+}
+
+TEST_F(TheMainForm, RepaintsAllForPlacesThatAreNoPlaces)
+{
+    auto& led = Insert<clsLEDRound>();
+    Area repainted;
+    const Subscription listening = main.ssScroll().Changed.Subscribe([&](const Area& area) { repainted = area; });
+    const float none = std::numeric_limits<float>::quiet_NaN();
+    const float beyond = std::numeric_limits<float>::infinity();
+    for (const float place : {none, beyond, -beyond, 3e38F, -3e38F}) {
+        SCOPED_TRACE(place);
+        {
+            const CanvasHold hold(main.ssScroll());
+            led.Set(&Element::ObjLeft, place);
+            main.ssScroll().Invalidate({10, 10, 20, 20});
+        }
+        EXPECT_TRUE(Contains(repainted, 10, 10) && Contains(repainted, 29, 29));
+        main.PositionHandles(*led.MyControl());
+        main.SetStatusCaption(led.MyControl());
+    }
+}
+
+} // namespace
+} // namespace quor
