@@ -43,8 +43,6 @@ std::span<const std::uint8_t> FileWindow::View(std::int64_t position, std::size_
     return std::span(m_bytes).subspan(static_cast<std::size_t>(offset), count);
 }
 
-// Reader ---------------------------------------------------------------------
-
 ContainerReader::ContainerReader(OpenFile& file) : m_file(file), m_window(file)
 {
     const auto header = m_window.View(0, view_file::headerSize);
@@ -113,8 +111,6 @@ RecordView ContainerReader::NextRecord()
     m_walkAt += static_cast<std::int64_t>(record.size());
     return {type, record.subspan(view_file::frameSize)};
 }
-
-// Writer ---------------------------------------------------------------------
 
 ContainerWriter::ContainerWriter(OpenFile& file, std::int32_t recordCount, std::string_view name,
                                  std::string_view category)

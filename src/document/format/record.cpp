@@ -88,8 +88,6 @@ void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& positio
     font.SetWeight(LoadNumber<std::int16_t>(from + 14));
 }
 
-// Writer ---------------------------------------------------------------------
-
 RecordWriter::RecordWriter(std::vector<std::uint8_t>& buffer, std::uint8_t type) : m_buffer(buffer)
 {
     // The last record's size is a good guess for this one's.
@@ -183,8 +181,6 @@ void RecordWriter::NameField(std::string_view name, std::string& value)
 {
     Field(name, value);
 }
-
-// Reader ---------------------------------------------------------------------
 
 template <class T> void RecordReader::Take(std::string_view name, T& value)
 {
