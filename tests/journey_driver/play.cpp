@@ -4,6 +4,7 @@
 #include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
+#include <exception>
 #include <filesystem>
 #include <iostream>
 
@@ -39,6 +40,8 @@ void Act(Stage& stage, const Entry& entry)
         Refuse(entry, error.what());
     } catch (const Failure& failure) {
         Refuse(entry, "failed with " + std::to_string(failure.Number()) + ": " + failure.Description());
+    } catch (const std::exception& error) {
+        Refuse(entry, std::string("failed: ") + error.what());
     }
 }
 
