@@ -18,5 +18,6 @@ struct Family {
 extern const Family loading;
 extern const Family saving;
 extern const Family editing;
+extern const Family starting;
 
 } // namespace quor::bench

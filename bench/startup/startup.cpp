@@ -80,6 +80,7 @@ pid_t Spawn(const std::filesystem::path& program, const std::string& home, int w
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, writingEnd, 3);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t process = 0;
     const int trouble = ::posix_spawn(&process, program.c_str(), &actions, nullptr, Pointers(arguments).data(),
                                       Pointers(environment).data());
