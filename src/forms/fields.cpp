@@ -3,7 +3,9 @@
 #include "base/failure.h"
 #include "base/text.h"
 
+#include <algorithm>
 #include <charconv>
+#include <limits>
 
 namespace quor {
 
@@ -14,6 +16,23 @@ void RequireIndex(std::int32_t index, std::size_t count)
     if (index < -1 || (index >= 0 && static_cast<std::size_t>(index) >= count)) {
         throw Failure(failures::invalidPropertyValue);
     }
+}
+
+bool HoldsDigits(std::string_view text)
+{
+    return text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// Of a text that is a number; one too large to be held is infinite.
+double NumberOf(std::string_view text)
+{
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    if (error != std::errc()) {
+        number = std::numeric_limits<double>::infinity();
+        return text.starts_with('-') ? -number : number;
+    }
+    return number + 0.0; // no negative zero
 }
 
 } // namespace
@@ -95,19 +114,34 @@ void NumberField::Value(double value)
     }
 }
 
+NumberField::Typing NumberField::Judge(std::string_view text) const noexcept
+{
+    const std::string_view typed = TrimBlanks(text);
+    const bool isNegative = typed.starts_with('-');
+    const std::string_view digits = typed.substr(isNegative ? 1 : 0);
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    const std::string_view decimals = digits.substr(point);
+    if ((isNegative && Least >= 0) || !HoldsDigits(digits.substr(0, point)) ||
+        (!decimals.empty() && (Decimals == 0 || !HoldsDigits(decimals.substr(1)))) ||
+        decimals.size() > static_cast<std::size_t>(Decimals) + 1) {
+        return Typing::Refused;
+    }
+    if (digits.empty() || digits == ".") {
+        return Typing::Begun;
+    }
+    const double number = NumberOf(typed);
+    if (isNegative ? number < Least : number > Most) {
+        return Typing::Refused;
+    }
+    return number >= Least && number <= Most ? Typing::Done : Typing::Begun;
+}
+
 bool NumberField::Type(std::string_view text)
 {
-    const std::string_view digits = TrimBlanks(text);
-    double number = 0;
-    const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
-    const std::size_t point = digits.find('.');
-    const std::size_t decimals = point == std::string_view::npos ? 0 : digits.size() - point - 1;
-    if (!AcceptsUser() || error != std::errc() || end != digits.data() + digits.size() ||
-        decimals > static_cast<std::size_t>(Decimals) || !(number >= Least && number <= Most)) {
+    if (!AcceptsUser() || Judge(text) != Typing::Done) {
         return false;
     }
-    Value(number);
+    Value(NumberOf(TrimBlanks(text)));
     return true;
 }
 

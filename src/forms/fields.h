@@ -111,7 +111,11 @@ public:
     double Value() const noexcept { return m_value(); }
     void Value(double value);
 
-    // False if the text was refused: no number, out of range, or too many decimals.
+    // What a person has typed so far: Begun may become a number in the range by more digits.
+    enum class Typing { Refused, Begun, Done };
+    Typing Judge(std::string_view text) const noexcept;
+
+    // False if the text isn't a number within the range yet, or never will be.
     bool Type(std::string_view text);
 
 private:

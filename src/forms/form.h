@@ -13,7 +13,7 @@
 
 namespace quor {
 
-// One control on a line. Pixels. The first of a line that has no room at its place begins at the left margin.
+// One control on a line. Pixels.
 struct LayoutItem {
     static constexpr int behind = -1;  // as x: behind the item before it
     static constexpr int filling = -1; // as width: to the item behind it or to the right margin
@@ -33,7 +33,7 @@ struct LayoutLine {
     static constexpr int below = -1; // as y: where the line before it ends
 
     int y = below;
-    int height = 0;
+    int height = 0; // grows where options don't fit side by side
     std::vector<LayoutItem> items;
 };
 

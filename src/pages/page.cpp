@@ -19,9 +19,11 @@ constexpr int boxPitch = 26;
 constexpr int numberWidth = 80;
 constexpr int swatchWidth = 56;
 constexpr int swatchLeast = 40;
+constexpr int fieldHeight = 24;
 constexpr int browseWidth = 28;
 constexpr int browseGap = 4;
-constexpr int browsedWidth = 160;
+constexpr int frameGap = 9;     // above the rule
+constexpr int frameHeight = 31; // rule, title and the room around it
 constexpr int panelWidth = 320;
 
 constexpr std::int32_t pictureFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
@@ -97,7 +99,9 @@ void Page::BoxLine(CheckBox& box)
 void Page::FrameLine(std::string name, std::string caption)
 {
     Frame& frame = Make<Frame>(std::move(name), std::move(caption));
-    m_lines.push_back({.height = 44, .items = {{.control = &frame, .x = margin, .width = LayoutItem::filling}}});
+    m_lines.push_back({.height = frameGap});
+    m_lines.push_back(
+        {.height = frameHeight, .items = {{.control = &frame, .x = margin, .width = LayoutItem::filling}}});
 }
 
 void Page::ArrangeLines()
@@ -132,8 +136,9 @@ TextBox& Page::MakeBrowsed(std::string_view name, std::string_view button, std::
     auto& text = Make<TextBox>(std::string(name));
     text.Set(&TextBox::ReadOnly, onlyShows);
     auto& browse = Make<Button>(std::string(button), "...");
-    Line(caption, {{.control = &text, .x = controlsAt, .width = browsedWidth},
-                   {.control = &browse, .width = browseWidth, .gap = browseGap}});
+    Line(caption,
+         {{.control = &text, .x = controlsAt, .width = LayoutItem::filling},
+          {.control = &browse, .width = browseWidth, .height = fieldHeight, .gap = browseGap, .atRight = true}});
     return text;
 }
 
@@ -141,8 +146,9 @@ Swatch& Page::MakeSwatch(std::string_view name, std::string_view button, std::st
 {
     auto& swatch = Make<Swatch>(std::string(name));
     auto& browse = Make<Button>(std::string(button), "...");
-    std::vector<LayoutItem> items = {{.control = &swatch, .x = controlsAt, .width = swatchWidth, .least = swatchLeast},
-                                     {.control = &browse, .width = browseWidth, .gap = browseGap}};
+    std::vector<LayoutItem> items = {
+        {.control = &swatch, .x = controlsAt, .width = swatchWidth, .least = swatchLeast},
+        {.control = &browse, .width = browseWidth, .height = fieldHeight, .gap = browseGap}};
     if (!box.empty()) {
         items.push_back({.control = &Make<CheckBox>(std::string(box), "Use Default")});
     }
@@ -153,10 +159,8 @@ Swatch& Page::MakeSwatch(std::string_view name, std::string_view button, std::st
 OptionArray& Page::MakeOptions(std::string_view name, std::vector<std::string> captions)
 {
     auto& options = Make<OptionArray>(std::string(name), std::move(captions));
-    const int height = boxPitch * static_cast<int>(options.Captions().size());
     m_lines.push_back(
-        {.height = height,
-         .items = {{.control = &options, .x = controlsAt, .width = LayoutItem::filling, .height = height}}});
+        {.height = boxPitch, .items = {{.control = &options, .x = controlsAt, .width = LayoutItem::filling}}});
     return options;
 }
 

@@ -14,6 +14,8 @@ namespace quor {
 
 namespace {
 
+constexpr std::string_view browseCaption = "..."; // says nothing by itself: the caption beside it does
+
 class LabelView final : public ViewOf<Label, QLabel> {
 public:
     LabelView(Label& label, const Theme& theme, QWidget& parent) : ViewOf(label, new QLabel(&parent))
@@ -71,7 +73,11 @@ private:
     void ReadLook() override
     {
         Shown().setText(ToQt(Model().Caption()));
-        Shown().setAccessibleName(ToQt(PlainCaption(Model().Caption())));
+        if (Model().Caption() == browseCaption) {
+            Shown().setAccessibleDescription(QStringLiteral("Browse"));
+        } else {
+            Shown().setAccessibleName(ToQt(PlainCaption(Model().Caption())));
+        }
         Shown().setDefault(Model().Default());
     }
     int TextWidth() const { return Shown().fontMetrics().horizontalAdvance(ToQt(PlainCaption(Model().Caption()))); }

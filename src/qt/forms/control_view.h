@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 class QWidget;
 
@@ -33,10 +34,28 @@ public:
     // What a width that the form asks for becomes.
     virtual int FittingWidth(int asked) const { return asked; }
 
+    // What its line has to be high at least, where it is that wide.
+    virtual int LineHeight(int /*width*/) const { return 0; }
+
+    // Where the keyboard stops, in order.
+    virtual std::vector<QWidget*> Stops() const { return {m_widget}; }
+
+    // Off, it looks and is disabled, whatever the model says.
+    void SetOff(bool isOff)
+    {
+        if (m_isOff != isOff) {
+            m_isOff = isOff;
+            Read();
+        }
+    }
+
     // From now on the user's input goes nowhere: the model may be gone.
     void Detach() noexcept { m_isAttached = false; }
 
 protected:
+    bool IsOff() const noexcept { return m_isOff; }
+    bool IsAttached() const noexcept { return m_isAttached; }
+
     // Hands the user's input to the model. Failures have their own reports; none may pass through the event loop.
     template <class Body> void FromUser(Body&& body)
     {
@@ -57,6 +76,7 @@ protected:
 private:
     QWidget* m_widget;
     bool m_isAttached = true;
+    bool m_isOff = false;
 };
 
 // The view of any control, in the parent. The control outlives it. Fails with 13 for a control of an unknown kind.

@@ -1,4 +1,3 @@
-#include "base/text.h"
 #include "forms/fields.h"
 #include "qt/forms/swatch_button.h"
 #include "qt/forms/view_of.h"
@@ -8,8 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
+#include <QWheelEvent>
 
 namespace quor {
 
@@ -17,9 +15,25 @@ namespace {
 
 constexpr int fieldHeight = 24;
 
+// The wheel belongs to the page unless the list has the keyboard.
+class DropDown final : public QComboBox {
+public:
+    explicit DropDown(QWidget& parent) : QComboBox(&parent) { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
+
 class ListView final : public ViewOf<ListBox, QComboBox> {
 public:
-    ListView(ListBox& list, QWidget& parent) : ViewOf(list, new QComboBox(&parent))
+    ListView(ListBox& list, QWidget& parent) : ViewOf(list, new DropDown(parent))
     {
         QObject::connect(&Shown(), &QComboBox::activated, &Shown(),
                          [this](int index) { FromUserAndRead([&] { Model().Choose(index); }); });
@@ -52,6 +66,7 @@ public:
         QObject::connect(&Shown(), &QCheckBox::clicked, &Shown(),
                          [this] { FromUserAndRead([&] { Model().Toggle(); }); });
     }
+    int NaturalHeight() const override { return Shown().sizeHint().height(); }
 
 private:
     void ReadLook() override
@@ -59,87 +74,6 @@ private:
         Shown().setText(ToQt(Model().Caption()));
         Shown().setChecked(Model().Value());
     }
-};
-
-// The options stand side by side.
-class OptionsView final : public ViewOf<OptionArray, QWidget> {
-public:
-    OptionsView(OptionArray& options, QWidget& parent) : ViewOf(options, new QWidget(&parent))
-    {
-        auto* row = new QHBoxLayout(&Shown());
-        row->setContentsMargins(0, 0, 0, 0);
-        row->setSpacing(16);
-        for (const std::string& caption : options.Captions()) {
-            const auto index = static_cast<int>(m_buttons.size());
-            auto* button = new QRadioButton(ToQt(caption), &Shown());
-            button->setObjectName(ToQt(options.Name() + '(' + std::to_string(index) + ')'));
-            row->addWidget(button);
-            m_buttons.push_back(button);
-            QObject::connect(button, &QRadioButton::clicked, &Shown(),
-                             [this, index] { FromUserAndRead([&] { Model().Choose(index); }); });
-        }
-        row->addStretch();
-    }
-
-private:
-    void ReadLook() override
-    {
-        for (std::size_t index = 0; index < m_buttons.size(); ++index) {
-            // Without this a group keeps one option chosen.
-            m_buttons[index]->setAutoExclusive(false);
-            m_buttons[index]->setChecked(static_cast<std::int32_t>(index) == Model().Index());
-            m_buttons[index]->setAutoExclusive(true);
-        }
-    }
-
-    std::vector<QRadioButton*> m_buttons;
-};
-
-class TextView final : public ViewOf<TextBox, QLineEdit> {
-public:
-    TextView(TextBox& box, QWidget& parent) : ViewOf(box, new QLineEdit(&parent))
-    {
-        QObject::connect(&Shown(), &QLineEdit::textEdited, &Shown(),
-                         [this](const QString& text) { FromUserAndRead([&] { Model().Type(FromQt(text)); }); });
-    }
-    int NaturalHeight() const override { return fieldHeight; }
-
-private:
-    void ReadLook() override
-    {
-        Shown().setReadOnly(Model().ReadOnly());
-        const QString text = ToQt(Model().Text());
-        if (Shown().text() != text) { // else the caret would move
-            Shown().setText(text);
-        }
-    }
-};
-
-class NumberView final : public ViewOf<NumberField, QLineEdit> {
-public:
-    NumberView(NumberField& field, QWidget& parent) : ViewOf(field, new QLineEdit(&parent))
-    {
-        Shown().setAlignment(Qt::AlignRight);
-        QObject::connect(&Shown(), &QLineEdit::textEdited, &Shown(), [this](const QString& text) {
-            m_isTyping = true;
-            FromUser([&] { Model().Type(FromQt(text)); });
-            m_isTyping = false;
-        });
-        // What was refused stands only while the user may still be typing.
-        QObject::connect(&Shown(), &QLineEdit::editingFinished, &Shown(), [this] { FromUserAndRead([] {}); });
-    }
-    int NaturalHeight() const override { return fieldHeight; }
-
-private:
-    void ReadLook() override
-    {
-        const QString text = ToQt(Decimal(Model().Value()));
-        if (!m_isTyping && Shown().text() != text) {
-            Shown().setText(text);
-        }
-    }
-
-    bool m_isTyping = false;
 };
 
 class SwatchView final : public ViewOf<Swatch, SwatchButton> {
@@ -167,14 +101,20 @@ public:
         rule->setFixedHeight(1);
         m_title->setTextFormat(Qt::PlainText);
         m_title->setFont(theme.TitleFont());
+        m_title->setFixedHeight(titleHeight);
         auto* column = new QVBoxLayout(&Shown());
         column->setContentsMargins(0, 0, 0, 0);
-        column->setSpacing(10);
+        column->setSpacing(titleGap);
         column->addWidget(rule);
-        column->addWidget(m_title, 1, Qt::AlignTop);
+        column->addWidget(m_title);
+        column->addStretch();
     }
 
 private:
+    // Pixels: ten from the rule to the title's letters, which stand in the middle of the label.
+    static constexpr int titleGap = 6;
+    static constexpr int titleHeight = 20;
+
     void ReadLook() override { m_title->setText(ToQt(Model().Caption())); }
 
     QLabel* m_title;
@@ -191,13 +131,7 @@ std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme,
         return std::make_unique<CheckView>(*box, parent);
     }
     if (auto* options = dynamic_cast<OptionArray*>(&control)) {
-        return std::make_unique<OptionsView>(*options, parent);
-    }
-    if (auto* text = dynamic_cast<TextBox*>(&control)) {
-        return std::make_unique<TextView>(*text, parent);
-    }
-    if (auto* number = dynamic_cast<NumberField*>(&control)) {
-        return std::make_unique<NumberView>(*number, parent);
+        return MakeOptionsView(*options, parent);
     }
     if (auto* swatch = dynamic_cast<Swatch*>(&control)) {
         return std::make_unique<SwatchView>(*swatch, parent);
@@ -205,7 +139,7 @@ std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme,
     if (auto* frame = dynamic_cast<Frame*>(&control)) {
         return std::make_unique<FrameView>(*frame, theme, parent);
     }
-    return nullptr;
+    return MakeTypedView(control, parent);
 }
 
 } // namespace quor

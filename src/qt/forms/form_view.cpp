@@ -2,6 +2,7 @@
 
 #include "base/values.h"
 #include "forms/caption.h"
+#include "forms/fields.h"
 #include "forms/form.h"
 #include "qt/ports/qt_text.h"
 
@@ -9,6 +10,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <functional>
 
 namespace quor {
 
@@ -17,17 +19,6 @@ namespace {
 int PixelsOf(float twips, float twipsPerPixel)
 {
     return qRound(twips / twipsPerPixel);
-}
-
-// The lines of the form from above, each with its top.
-template <class Visit> void VisitLines(const Form& form, Visit visit)
-{
-    int below = 0;
-    for (const LayoutLine& line : form.Layout()) {
-        const int top = line.y == LayoutLine::below ? below : line.y;
-        visit(line, top);
-        below = top + line.height;
-    }
 }
 
 // A label says in a tip what it has no room for.
@@ -45,12 +36,19 @@ FormView::FormView(Form& form, const Theme& theme, QWidget* parent) : QWidget(pa
     setObjectName(ToQt(form.Name()));
     setBackgroundRole(QPalette::Light);
     setAutoFillBackground(true);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     for (const std::unique_ptr<Control>& control : form.Controls()) {
         AddControl(*control, theme);
     }
     NameFields();
     OrderTabs();
-    m_following = form.Changed.Subscribe([this] { Place(); });
+    for (const LayoutLine& line : form.Layout()) {
+        ShowUse(line);
+    }
+    FollowForm();
+    m_following = form.Changed.Subscribe([this] { FollowForm(); });
 }
 
 FormView::~FormView() = default;
@@ -61,27 +59,72 @@ void FormView::AddControl(Control& control, const Theme& theme)
     part.view = MakeControlView(control, theme, *this);
     part.view->Read();
     part.natural = part.view->NaturalWidth();
-    part.following = control.Changed.Subscribe([this, &part] {
-        part.view->Read();
-        if (const int natural = part.view->NaturalWidth(); natural != part.natural) {
-            part.natural = natural;
-            Place();
-        }
-    });
+    part.following = control.Changed.Subscribe([this, &control, &part] { FollowControl(control, part); });
 }
 
-// A field's name for assistive tools is the caption beside it.
+void FormView::FollowForm()
+{
+    const Color ground = m_form->BackColor();
+    QPalette own;
+    if (ground != colors::buttonFace) { // which is the theme's own
+        own.setColor(QPalette::Light, ToQt(Resolve(ground)));
+    }
+    setPalette(own);
+    Place();
+    updateGeometry();
+}
+
+void FormView::FollowControl(const Control& control, Part& part)
+{
+    part.view->Read();
+    for (const LayoutLine& line : m_form->Layout()) {
+        if (std::any_of(line.items.begin(), line.items.end(),
+                        [&](const LayoutItem& item) { return item.control == &control; })) {
+            ShowUse(line);
+        }
+    }
+    if (const int natural = part.view->NaturalWidth(); natural != part.natural) {
+        part.natural = natural;
+        Place();
+    }
+}
+
+// A swatch whose button is off is so, too, and the captions of a line look as its first field.
+void FormView::ShowUse(const LayoutLine& line)
+{
+    const auto find = [&](auto from, auto matches) { return std::find_if(from, line.items.end(), matches); };
+    const auto swatch =
+        find(line.items.begin(), [](const LayoutItem& item) { return dynamic_cast<Swatch*>(item.control) != nullptr; });
+    const auto button =
+        find(swatch, [](const LayoutItem& item) { return dynamic_cast<Button*>(item.control) != nullptr; });
+    if (button != line.items.end()) {
+        ViewOfItem(*swatch).SetOff(!button->control->Enabled());
+    }
+    const auto isLabel = [](const LayoutItem& item) { return dynamic_cast<Label*>(item.control) != nullptr; };
+    const auto first = find(line.items.begin(), std::not_fn(isLabel));
+    for (const LayoutItem& item : line.items) {
+        if (isLabel(item) && first != line.items.end()) {
+            ViewOfItem(item).SetOff(!ViewOfItem(*first).Widget().isEnabledTo(this));
+        }
+    }
+}
+
+// A field's name for assistive tools is the caption beside it, that of options the title above them.
 void FormView::NameFields()
 {
+    QString title;
     for (const LayoutLine& line : m_form->Layout()) {
-        QString caption;
+        QString caption = title;
         for (const LayoutItem& item : line.items) {
             QWidget& widget = ViewOfItem(item).Widget();
             if (const auto* label = dynamic_cast<const Label*>(item.control)) {
                 caption = ToQt(label->Caption());
+            } else if (const auto* frame = dynamic_cast<const Frame*>(item.control)) {
+                title = ToQt(frame->Caption());
+            } else if (const auto* box = dynamic_cast<const CheckBox*>(item.control)) {
+                widget.setAccessibleName(ToQt(PlainCaption(box->Caption())));
             } else if (widget.accessibleName().isEmpty()) {
-                const auto* button = qobject_cast<QAbstractButton*>(&widget);
-                widget.setAccessibleName(button == nullptr || button->text().isEmpty() ? caption : button->text());
+                widget.setAccessibleName(caption);
             }
         }
     }
@@ -90,15 +133,16 @@ void FormView::NameFields()
 void FormView::OrderTabs()
 {
     QWidget* before = nullptr;
-    VisitLines(*m_form, [&](const LayoutLine& line, int) {
+    for (const LayoutLine& line : m_form->Layout()) {
         for (const LayoutItem& item : line.items) {
-            QWidget& widget = ViewOfItem(item).Widget();
-            if (before != nullptr) {
-                setTabOrder(before, &widget);
+            for (QWidget* stop : ViewOfItem(item).Stops()) {
+                if (before != nullptr) {
+                    setTabOrder(before, stop);
+                }
+                before = stop;
             }
-            before = &widget;
         }
-    });
+    }
 }
 
 void FormView::Detach()
@@ -116,23 +160,53 @@ QSize FormView::sizeHint() const
     if (m_form == nullptr) {
         return size();
     }
-    int bottom = 0;
-    VisitLines(*m_form, [&](const LayoutLine& line, int top) { bottom = std::max(bottom, top + line.height); });
     const int width = PixelsOf(m_form->Width(), twipsPerPixelX);
     const int height = PixelsOf(m_form->Height(), twipsPerPixelY);
-    return {width, height > 0 ? height : bottom + m_form->Margin()};
+    return {width, height > 0 ? height : heightForWidth(width)};
+}
+
+int FormView::heightForWidth(int width) const
+{
+    if (m_form == nullptr) {
+        return height();
+    }
+    int bottom = 0;
+    VisitLines(width, [&](const LayoutLine&, int top, int height) { bottom = std::max(bottom, top + height); });
+    return bottom + m_form->Margin();
+}
+
+// The lines from above, each with its top and its height in a form of that width.
+template <class Visit> void FormView::VisitLines(int width, Visit visit) const
+{
+    int below = 0;
+    for (const LayoutLine& line : m_form->Layout()) {
+        const int top = line.y == LayoutLine::below ? below : line.y;
+        const int height = HeightOf(line, width);
+        visit(line, top, height);
+        below = top + height;
+    }
+}
+
+int FormView::HeightOf(const LayoutLine& line, int width) const
+{
+    int height = line.height;
+    for (const LayoutItem& item : line.items) {
+        const int room = width - m_form->Margin() - std::max(item.x, m_form->Margin());
+        height = std::max(height, ViewOfItem(item).LineHeight(item.width > 0 ? item.width : room));
+    }
+    return height;
 }
 
 QWidget* FormView::FirstFocus() const
 {
     QWidget* first = nullptr;
-    VisitLines(*m_form, [&](const LayoutLine& line, int) {
+    for (const LayoutLine& line : m_form->Layout()) {
         for (const LayoutItem& item : line.items) {
             QWidget& widget = ViewOfItem(item).Widget();
             const bool takesFocus = item.control->AcceptsUser() && (widget.focusPolicy() & Qt::TabFocus) != 0;
             first = first == nullptr && takesFocus ? &widget : first;
         }
-    });
+    }
     const Button* standard = m_form->DefaultButton();
     const bool beginsWithButton = first == nullptr || qobject_cast<QAbstractButton*>(first) != nullptr;
     return standard != nullptr && beginsWithButton ? &m_parts.at(standard).view->Widget() : first;
@@ -146,11 +220,11 @@ void FormView::resizeEvent(QResizeEvent*)
 void FormView::Place()
 {
     if (m_form != nullptr) {
-        VisitLines(*m_form, [this](const LayoutLine& line, int top) { PlaceLine(line, top); });
+        VisitLines(width(), [this](const LayoutLine& line, int top, int height) { PlaceLine(line, top, height); });
     }
 }
 
-void FormView::PlaceLine(const LayoutLine& line, int top)
+void FormView::PlaceLine(const LayoutLine& line, int top, int height)
 {
     const int rightGroup = RightStart(line);
     int missing = std::max(0, LeftEnd(line) - rightGroup);
@@ -166,14 +240,14 @@ void FormView::PlaceLine(const LayoutLine& line, int top)
         }
         int& x = item.atRight ? right : left;
         if (item.x != LayoutItem::behind) {
-            x = isFirst && missing > 0 ? m_form->Margin() : item.x;
+            x = item.orX != LayoutItem::behind && item.x + width > rightGroup ? item.orX : item.x;
         } else if (!isFirst && !item.atRight) {
             x += item.gap;
         }
         if (item.width == LayoutItem::filling) {
             width = EndOfFilling(line, item, rightGroup) - x;
         }
-        Put(item, line, x, top, width);
+        Put(item, QRect(x, top, width, height));
         x += width + (item.atRight ? item.gap : 0);
     }
 }
@@ -220,12 +294,13 @@ int FormView::RightStart(const LayoutLine& line) const
     return start;
 }
 
-void FormView::Put(const LayoutItem& item, const LayoutLine& line, int x, int top, int width)
+// In the middle of the place's height.
+void FormView::Put(const LayoutItem& item, const QRect& place)
 {
     const ControlView& view = ViewOfItem(item);
-    const int natural = view.NaturalHeight() > 0 ? view.NaturalHeight() : line.height;
+    const int natural = view.NaturalHeight() > 0 ? view.NaturalHeight() : place.height();
     const int height = item.height > 0 ? item.height : natural;
-    view.Widget().setGeometry(x, top + (line.height - height) / 2, width, height);
+    view.Widget().setGeometry(place.x(), place.y() + (place.height() - height) / 2, place.width(), height);
     if (auto* label = qobject_cast<QLabel*>(&view.Widget())) {
         TipWhatIsCut(*label);
     }

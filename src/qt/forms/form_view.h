@@ -21,6 +21,7 @@ public:
 
     // As the form's size says, or, where that is 0, as its layout needs.
     QSize sizeHint() const override;
+    int heightForWidth(int width) const override;
 
     // Ends the connection with the form; the widgets stay as they are, without effect.
     void Detach();
@@ -41,13 +42,18 @@ private:
     void AddControl(Control& control, const Theme& theme);
     void NameFields();
     void OrderTabs();
+    void FollowForm();
+    void FollowControl(const Control& control, Part& part);
+    template <class Visit> void VisitLines(int width, Visit visit) const;
+    int HeightOf(const LayoutLine& line, int width) const;
+    void ShowUse(const LayoutLine& line);
     void Place();
-    void PlaceLine(const LayoutLine& line, int top);
+    void PlaceLine(const LayoutLine& line, int top, int height);
     int WidthOf(const LayoutItem& item) const;
     int RightStart(const LayoutLine& line) const;
     int LeftEnd(const LayoutLine& line) const;
     int EndOfFilling(const LayoutLine& line, const LayoutItem& item, int rightGroup) const;
-    void Put(const LayoutItem& item, const LayoutLine& line, int x, int top, int width);
+    void Put(const LayoutItem& item, const QRect& place);
     ControlView& ViewOfItem(const LayoutItem& item) const;
 
     Form* m_form;

@@ -1,8 +1,15 @@
 #include "qt/forms/swatch_button.h"
 
+#include "qt/theme/style_parts.h"
+
 #include <QPainter>
 
 namespace quor {
+
+SwatchButton::SwatchButton(QWidget& parent) : QAbstractButton(&parent)
+{
+    setAttribute(Qt::WA_Hover);
+}
 
 void SwatchButton::ShowColor(const QColor& color, const QString& caption)
 {
@@ -11,26 +18,21 @@ void SwatchButton::ShowColor(const QColor& color, const QString& caption)
     update();
 }
 
-void SwatchButton::paintEvent(QPaintEvent*)
+void SwatchButton::paintEvent(QPaintEvent* /*event*/)
 {
+    constexpr int frame = 3; // pixels around the colour
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const bool hasCaption = !text().isEmpty();
-    const QPalette::ColorGroup group = hasCaption ? QPalette::Disabled : QPalette::Active;
-    painter.setPen(palette().color(QPalette::Dark));
-    painter.setBrush(palette().color(group, QPalette::Base));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    if (hasCaption) {
-        painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-        painter.drawText(rect(), Qt::AlignCenter, text());
+    const QPalette& look = palette();
+    if (!isEnabled() || !text().isEmpty()) {
+        DrawBox(painter, rect(), radii::control, look.color(QPalette::Disabled, QPalette::Base),
+                look.color(QPalette::Mid));
+        painter.setPen(look.color(QPalette::Active, QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
         return;
     }
-    const QRect inside = rect().adjusted(3, 3, -3, -3);
-    painter.fillRect(inside, m_color);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QColor(0, 0, 0, 56));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(inside.adjusted(0, 0, -1, -1));
+    const QPalette::ColorRole ground = isDown() ? QPalette::Mid : underMouse() ? QPalette::Midlight : QPalette::Base;
+    DrawBox(painter, rect(), radii::control, look.color(ground), look.color(QPalette::Dark));
+    DrawBox(painter, rect().adjusted(frame, frame, -frame, -frame), 1, m_color, WithAlpha(Qt::black, 0.22));
 }
 
 } // namespace quor

@@ -8,7 +8,7 @@ namespace quor {
 
 class SwatchButton final : public QAbstractButton {
 public:
-    explicit SwatchButton(QWidget& parent) : QAbstractButton(&parent) {}
+    explicit SwatchButton(QWidget& parent);
 
     void ShowColor(const QColor& color, const QString& caption);
     QSize sizeHint() const override { return {56, 24}; }

@@ -9,6 +9,8 @@
 
 namespace quor {
 
+class OptionArray;
+
 // Shows a control of the class C by a widget of the class W. Derived classes read what C adds to every control.
 template <class C, class W> class ViewOf : public ControlView {
 public:
@@ -19,7 +21,7 @@ public:
 
     void Read() override
     {
-        m_shown->setEnabled(m_control.Enabled());
+        m_shown->setEnabled(m_control.Enabled() && !IsOff());
         m_shown->setVisible(m_control.Visible());
         ReadLook();
     }
@@ -39,5 +41,7 @@ private:
 
 // The views of the controls that hold what a user enters; null for other controls.
 std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme, QWidget& parent);
+std::unique_ptr<ControlView> MakeTypedView(Control& control, QWidget& parent);
+std::unique_ptr<ControlView> MakeOptionsView(OptionArray& options, QWidget& parent);
 
 } // namespace quor
