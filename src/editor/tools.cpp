@@ -52,11 +52,11 @@ constexpr EditorTool toolRows[] = {
     {{23, "miSaveAs", "Save &As...", "Save As", "File", Enabled, "Ctrl+Shift+S"}, [](frmMain& main) { main.SaveView(""); }},
     {{25, "miExit", "E&xit", "", "File", Enabled, "Ctrl+Q"}, [](frmMain& main) { main.Close(CloseReason::Code); }},
 
-    {{53, "miCut", "Cu&t", "", "Edit", Disabled, "Ctrl+X"}, [](frmMain& main) { main.CopyControl(); main.RequestDelete(); }},
-    {{54, "miCopy", "&Copy", "", "Edit", Disabled, "Ctrl+C"}, [](frmMain& main) { main.CopyControl(); }},
-    {{55, "miPaste", "&Paste", "", "Edit", Disabled, "Ctrl+V"}, [](frmMain& main) { main.PasteControl(); }},
+    {{53, "miCut", "Cu&t", "", "Edit", Disabled, "Ctrl+X", "", KeyScope::Canvas}, [](frmMain& main) { main.CopyControl(); main.RequestDelete(); }},
+    {{54, "miCopy", "&Copy", "", "Edit", Disabled, "Ctrl+C", "", KeyScope::Canvas}, [](frmMain& main) { main.CopyControl(); }},
+    {{55, "miPaste", "&Paste", "", "Edit", Disabled, "Ctrl+V", "", KeyScope::Canvas}, [](frmMain& main) { main.PasteControl(); }},
     {{33, "miInsert", "&Insert", "", "Edit", Enabled, "", "bndInsert"}},
-    {{28, "miDelete", "&Delete", "", "Edit", Disabled, "Del"}, [](frmMain& main) { main.RequestDelete(); }},
+    {{28, "miDelete", "&Delete", "", "Edit", Disabled, "Del", "", KeyScope::Canvas}, [](frmMain& main) { main.RequestDelete(); }},
     {{29, "miClear", "C&lear All", "", "Edit"}, [](frmMain& main) { main.ClearView(); }},
 
     {{52, "miToolbox", "&Toolbox", "View Toolbox", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolbox", "bndToolbox"); }},

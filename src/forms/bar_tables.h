@@ -6,6 +6,9 @@
 
 namespace quor {
 
+// Where the keyboard has to be for a tool's shortcut to act.
+enum class KeyScope { Window, Canvas };
+
 enum class ToolStart { Enabled, Disabled, Checked };
 
 // A program may derive its row from this one, to say more about a tool.
@@ -18,6 +21,7 @@ struct ToolRow {
     ToolStart start = ToolStart::Enabled;
     std::string_view shortcut{}; // "Ctrl+N"
     std::string_view opens{};    // the band that it opens as a menu
+    KeyScope keys = KeyScope::Window;
 };
 
 enum class BandKind { Menu, MenuBar, ToolBar, StatusBar, Popup, Panel, Child };

@@ -7,9 +7,10 @@
 namespace quor {
 
 BarTool::BarTool(const ToolRow& row)
-    : Id(row.id), Name(row.name), Shortcut(row.shortcut), Opens(row.opens), Enabled(row.start != ToolStart::Disabled),
-      Checked(row.start == ToolStart::Checked), Caption(std::string(row.caption)),
-      Tip(row.tip.empty() ? PlainCaption(row.caption) : std::string(row.tip)), Category(std::string(row.category))
+    : Id(row.id), Name(row.name), Shortcut(row.shortcut), Keys(row.keys), Opens(row.opens),
+      Enabled(row.start != ToolStart::Disabled), Checked(row.start == ToolStart::Checked),
+      Caption(std::string(row.caption)), Tip(row.tip.empty() ? PlainCaption(row.caption) : std::string(row.tip)),
+      Category(std::string(row.category))
 {
 }
 

@@ -24,7 +24,8 @@ public:
     const int Id;
     const std::string Name;
     const std::string Shortcut; // "Ctrl+N", or empty
-    const std::string Opens;    // the name of the band that it opens as a menu, or empty
+    const KeyScope Keys;
+    const std::string Opens; // the name of the band that it opens as a menu, or empty
 
     Property<"Enabled", bool> Enabled{true};
     Property<"Checked", bool> Checked;

@@ -22,7 +22,7 @@ constexpr int swatchLeast = 40;
 constexpr int fieldHeight = 24;
 constexpr int browseWidth = 28;
 constexpr int browseGap = 4;
-constexpr int frameGap = 9;     // above the rule
+constexpr int frameGap = 9;     // above the first line and above a rule
 constexpr int frameHeight = 31; // rule, title and the room around it
 constexpr int panelWidth = 320;
 
@@ -99,13 +99,14 @@ void Page::BoxLine(CheckBox& box)
 void Page::FrameLine(std::string name, std::string caption)
 {
     Frame& frame = Make<Frame>(std::move(name), std::move(caption));
-    m_lines.push_back({.height = frameGap});
+    m_lines.push_back({.height = frameGap, .items = {}});
     m_lines.push_back(
         {.height = frameHeight, .items = {{.control = &frame, .x = margin, .width = LayoutItem::filling}}});
 }
 
 void Page::ArrangeLines()
 {
+    m_lines.insert(m_lines.begin(), LayoutLine{.height = frameGap, .items = {}});
     Arrange(margin, std::move(m_lines));
 }
 

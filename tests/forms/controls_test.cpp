@@ -114,6 +114,26 @@ TEST(ANumberField, RefusesWhatAPersonTypesOutOfItsRangeButNotWhatCodeSets)
     EXPECT_EQ(field.Value(), 4000);
 }
 
+TEST(ANumberField, KnowsWhatMayBecomeANumberInItsRange)
+{
+    using enum NumberField::Typing;
+    const NumberField narrow("txtWidth", 5, 100);
+    const NumberField wide("txtX", -100, 100, 2);
+    const struct {
+        const NumberField& field;
+        const char* text;
+        NumberField::Typing judged;
+    } cases[] = {{narrow, "", Begun},    {narrow, "1", Begun},     {narrow, "12", Done},    {narrow, "101", Refused},
+                 {narrow, "-", Refused}, {narrow, "5.", Refused},  {narrow, "5x", Refused}, {narrow, "0005", Done},
+                 {wide, "-", Begun},     {wide, ".", Begun},       {wide, "-.5", Done},     {wide, "-101", Refused},
+                 {wide, "1.25", Done},   {wide, "1.255", Refused}, {wide, "1..", Refused},  {wide, "1e1", Refused},
+                 {wide, "--1", Refused}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(each.field.Judge(each.text), each.judged) << each.text;
+    }
+    EXPECT_EQ(wide.Judge(std::string(400, '9')), Refused);
+}
+
 TEST(AProgressBar, KeepsItsValueWithinItsMaximum)
 {
     ProgressBar bar("pbrConfig");

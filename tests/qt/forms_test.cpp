@@ -193,7 +193,7 @@ public:
                             {.control = &cmdBrws, .width = 28, .height = 24, .gap = 4},
                             {.control = &lblRest, .width = LayoutItem::filling}}},
                  {.height = 30, .items = {{.control = &lblWidth, .x = 12}, {.control = &txtWidth, .x = 116}}},
-                 {.height = 26, .items = {{.control = &chkLong, .x = 116}}}});
+                 {.height = 26, .items = {{.control = &chkLong, .x = 116, .orX = 12}}}});
     }
 
     Label& lblStyle = Make<Label>("lblViewProps(0)", "Bevel Style:");
@@ -247,9 +247,20 @@ TEST_F(TheFormRuntime, HandsInputToTheModelsAndShowsWhatTheyMakeOfIt)
     EXPECT_EQ(form.txtWidth.Value(), 0); // 1 is out of the range, and may become 12
     Press(number, Qt::Key_2, {}, "2");
     EXPECT_EQ(form.txtWidth.Value(), 12);
-    Press(number, Qt::Key_5, {}, "5");
-    Press(number, Qt::Key_Return);
+    for (const char* refused : {"5", "x", "-", "."}) { // 125 is beyond the range
+        Press(number, 0, {}, refused);
+        EXPECT_EQ(number.text(), "12") << refused;
+    }
+    Press(number, Qt::Key_Backspace);
+    EXPECT_EQ(form.txtWidth.Value(), 12);
+    Press(number, Qt::Key_Return); // what was begun goes
     EXPECT_EQ(number.text(), "12");
+    form.txtWidth.Value(4000); // code may set anything, and the user may go on from there
+    number.end(false);
+    Press(number, Qt::Key_Backspace);
+    EXPECT_EQ(number.text(), "400");
+    Press(number, Qt::Key_Backspace);
+    EXPECT_EQ(form.txtWidth.Value(), 40);
     form.txtWidth.Set(&Control::Enabled, false);
     EXPECT_FALSE(number.isEnabled());
 }

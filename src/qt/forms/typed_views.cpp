@@ -109,13 +109,20 @@ private:
         }
         switch (Model().Judge(FromQt(text))) {
         case NumberField::Typing::Refused:
-            return QValidator::Invalid;
+            return LeadsBack(text) ? QValidator::Intermediate : QValidator::Invalid;
         case NumberField::Typing::Begun:
             return QValidator::Intermediate;
         case NumberField::Typing::Done:
             break;
         }
         return QValidator::Acceptable;
+    }
+
+    // Digits taken off a number that code set out of the range.
+    bool LeadsBack(const QString& text) const
+    {
+        const QString present = Present();
+        return text.size() < present.size() && Model().Judge(FromQt(present)) == NumberField::Typing::Refused;
     }
 
     QString Present() const { return IsAttached() ? ToQt(Decimal(Model().Value())) : Shown().text(); }

@@ -14,13 +14,22 @@ namespace quor {
 BarActions::BarActions(Bars& bars, const Theme& theme, QWidget& window) : m_bars(bars), m_theme(theme), m_window(window)
 {
     for (const auto& tool : bars.Tools()) {
-        if (!tool->Shortcut.empty()) {
+        if (!tool->Shortcut.empty() && tool->Keys == KeyScope::Window) {
             window.addAction(&Make(*tool, tool->Caption(), tool->Tip()));
         }
     }
 }
 
 BarActions::~BarActions() = default;
+
+void BarActions::AddCanvasKeys(QWidget& canvas)
+{
+    for (const auto& tool : m_bars.Tools()) {
+        if (!tool->Shortcut.empty() && tool->Keys == KeyScope::Canvas) {
+            canvas.addAction(&Make(*tool, tool->Caption(), tool->Tip()));
+        }
+    }
+}
 
 QAction& BarActions::ActionFor(const BandTool& place)
 {
@@ -42,6 +51,7 @@ QAction& BarActions::Make(BarTool& tool, const std::string& caption, const std::
         const QKeySequence keys(ToQt(tool.Shortcut));
         if (isTheTools) {
             action->setShortcut(keys);
+            action->setShortcutContext(tool.Keys == KeyScope::Window ? Qt::WindowShortcut : Qt::WidgetShortcut);
         } else { // the keys are the tool's own action's
             action->setText(action->text() + QLatin1Char('\t') + keys.toString(QKeySequence::NativeText));
         }

@@ -27,6 +27,9 @@ public:
     BarActions(const BarActions&) = delete;
     BarActions& operator=(const BarActions&) = delete;
 
+    // The keys of tools that act on what is selected hold while the canvas has the keyboard: elsewhere they edit text.
+    void AddCanvasKeys(QWidget& canvas);
+
     // One a tool, but for places with words of their own.
     QAction& ActionFor(const BandTool& place);
 

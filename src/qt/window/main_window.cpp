@@ -7,6 +7,7 @@
 #include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
 #include "qt/window/dock_panel.h"
+#include "qt/window/panel_edge.h"
 #include "qt/window/status_line.h"
 #include "qt/window/tabbed_view.h"
 #include "qt/window/toolbox_view.h"
@@ -119,6 +120,7 @@ void MainWindow::AddCenter()
     rows->addLayout(columns, 1);
     rows->addWidget(new StatusLine(bars.BandOf("bndStatus"), m_theme, center));
     setCentralWidget(center);
+    m_actions.AddCanvasKeys(*m_canvas);
     m_canvas->setFocus();
 }
 
@@ -131,6 +133,9 @@ void MainWindow::AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int
     dock->setFixedWidth(width);
     parts->addWidget(dock);
     parts->insertWidget(edge == Qt::LeftEdge ? 1 : 0, new Rule(m_theme, Qt::Vertical, panel));
+    if (edge == Qt::RightEdge) {
+        new PanelEdge(*panel, *dock, *m_canvas);
+    }
     columns.addWidget(panel);
     panel->setVisible(band.Visible());
     m_subscriptions.push_back(band.Changed.Subscribe([panel, &band] { panel->setVisible(band.Visible()); }));

@@ -4,6 +4,9 @@
 #include "qt/theme/theme.h"
 
 #include <QAbstractButton>
+#include <QAccessibleWidget>
+#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace quor {
@@ -19,14 +22,29 @@ constexpr int margin = 8;
 constexpr int topGap = 2;
 constexpr int bottomGap = 6; // with the rule
 
+} // namespace
+
 class PanelTab final : public QAbstractButton {
 public:
     PanelTab(const Theme& theme, QWidget* parent) : QAbstractButton(parent), m_theme(theme)
     {
         setCheckable(true);
-        setAutoExclusive(true);
-        setFocusPolicy(Qt::TabFocus);
+        setFocusPolicy(Qt::NoFocus);
         setAttribute(Qt::WA_Hover);
+    }
+
+    void ShowCaption(const QString& caption)
+    {
+        setText(caption);
+        setObjectName(caption);
+        setAccessibleName(caption);
+    }
+
+    // The keyboard stops at the tab in front; arrows lead from there to the others.
+    void ShowInFront(bool isInFront)
+    {
+        setChecked(isInFront);
+        setFocusPolicy(isInFront ? Qt::TabFocus : Qt::NoFocus);
     }
 
     QSize sizeHint() const override
@@ -35,15 +53,27 @@ public:
     }
 
 protected:
+    void nextCheckState() override {} // the model says what is in front
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select) {
+            QAbstractButton::keyPressEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
         const ThemeColors& colors = m_theme.Colors();
         if (isChecked()) {
+            const QRectF underline(padding, height() - 4, width() - 2 * padding, 2);
             DrawBox(painter, rect(), radii::button, colors.selectedGround);
-            painter.fillRect(Snapped(painter, QRectF(padding, height() - 5, width() - 2 * padding, 2)), colors.accent);
+            DrawBox(painter, underline, 1, colors.accent);
         } else if (underMouse()) {
-            DrawBox(painter, rect(), radii::button, colors.hover);
+            DrawBox(painter, rect(), radii::button, isDown() ? colors.pressed : colors.hover);
         }
         painter.setFont(m_theme.TextFont());
         painter.setPen(isChecked() ? colors.selectedText : colors.labelText);
@@ -54,40 +84,85 @@ private:
     const Theme& m_theme;
 };
 
+namespace {
+
+// What assistive tools are told of a tab.
+class TabAccess final : public QAccessibleWidget {
+public:
+    explicit TabAccess(PanelTab& tab) : QAccessibleWidget(&tab, QAccessible::PageTab), m_tab(tab) {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = true;
+        state.selected = m_tab.isChecked();
+        return state;
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction()) {
+            m_tab.click();
+        }
+    }
+
+private:
+    PanelTab& m_tab;
+};
+
+QAccessibleInterface* MakeAccess(const QString& /*key*/, QObject* object)
+{
+    if (auto* tab = dynamic_cast<PanelTab*>(object)) {
+        return new TabAccess(*tab);
+    }
+    if (auto* tabs = dynamic_cast<PanelTabs*>(object)) {
+        return new QAccessibleWidget(tabs, QAccessible::PageTabList);
+    }
+    return nullptr;
+}
+
 } // namespace
 
 PanelTabs::PanelTabs(const Theme& theme, std::function<void(int)> onChoice, QWidget* parent)
     : QWidget(parent), m_theme(theme), m_onChoice(std::move(onChoice))
 {
+    static const bool isTold = (QAccessible::installFactory(MakeAccess), true);
+    static_cast<void>(isTold);
 }
 
 void PanelTabs::Show(const QStringList& captions, int current)
 {
+    if (captions == m_captions && current == m_current) {
+        return;
+    }
     while (m_tabs.size() < static_cast<std::size_t>(captions.size())) {
-        auto* tab = new PanelTab(m_theme, this);
         const int position = static_cast<int>(m_tabs.size());
+        auto* tab = new PanelTab(m_theme, this);
         connect(tab, &QAbstractButton::clicked, this, [this, position] { m_onChoice(position); });
         m_tabs.push_back(tab);
     }
-    for (std::size_t i = 0; i < m_tabs.size(); ++i) {
-        const auto position = static_cast<qsizetype>(i);
-        m_tabs[i]->setVisible(position < captions.size());
-        m_tabs[i]->setText(captions.value(position));
-        m_tabs[i]->setChecked(position == current);
+    const bool flows = captions != m_captions;
+    m_captions = captions;
+    m_current = current;
+    int position = 0;
+    for (PanelTab* tab : m_tabs) {
+        tab->ShowInFront(position == current);
+        if (flows) {
+            tab->ShowCaption(captions.value(position));
+            tab->setVisible(position < captions.size());
+        }
+        ++position;
     }
-    Flow();
-}
-
-void PanelTabs::resizeEvent(QResizeEvent* /*event*/)
-{
-    Flow();
+    if (flows) {
+        Flow();
+    }
 }
 
 void PanelTabs::Flow()
 {
     int x = margin;
     int y = topGap;
-    for (QAbstractButton* tab : m_tabs) {
+    for (PanelTab* tab : m_tabs) {
         if (tab->isHidden()) {
             continue;
         }
@@ -100,6 +175,52 @@ void PanelTabs::Flow()
         x += tabWidth + gap;
     }
     setFixedHeight(y + rowPitch + bottomGap);
+}
+
+void PanelTabs::Choose(qsizetype position)
+{
+    if (position < 0 || position >= m_captions.size()) {
+        return;
+    }
+    m_tabs[static_cast<std::size_t>(position)]->setFocus(Qt::TabFocusReason);
+    m_onChoice(static_cast<int>(position));
+}
+
+void PanelTabs::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        Choose(m_current - 1);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        Choose(m_current + 1);
+        break;
+    case Qt::Key_Home:
+        Choose(0);
+        break;
+    case Qt::Key_End:
+        Choose(m_captions.size() - 1);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PanelTabs::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        Flow();
+    }
+    QWidget::changeEvent(event);
+}
+
+void PanelTabs::resizeEvent(QResizeEvent* event)
+{
+    if (event->size().width() != event->oldSize().width()) {
+        Flow();
+    }
 }
 
 void PanelTabs::paintEvent(QPaintEvent* /*event*/)

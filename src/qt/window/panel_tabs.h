@@ -1,5 +1,5 @@
 #pragma once
-// Tabs that flow like words: never clipped, scrolled or reordered.
+// Tabs that flow like words over as many rows as they need: never clipped, scrolled or reordered.
 
 #include <QStringList>
 #include <QWidget>
@@ -7,30 +7,34 @@
 #include <functional>
 #include <vector>
 
-class QAbstractButton;
-
 namespace quor {
 
+class PanelTab;
 class Theme;
 
 class PanelTabs final : public QWidget {
 public:
-    // `onChoice` hears of the tab that the user chooses, by its position.
+    // `onChoice` hears of the tab that the user chooses, by its position; what is in front is for Show to say.
     PanelTabs(const Theme& theme, std::function<void(int)> onChoice, QWidget* parent = nullptr);
 
     // The tabs in order and the position of the one in front, -1 for none.
     void Show(const QStringList& captions, int current);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void Choose(qsizetype position);
     void Flow();
 
     const Theme& m_theme;
     std::function<void(int)> m_onChoice;
-    std::vector<QAbstractButton*> m_tabs;
+    std::vector<PanelTab*> m_tabs; // as many as there ever were
+    QStringList m_captions;
+    int m_current = -1;
 };
 
 } // namespace quor

@@ -6,97 +6,115 @@
 #include "qt/ports/qt_text.h"
 #include "qt/window/panel_tabs.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QScrollArea>
+#include <QStackedWidget>
 
 #include <algorithm>
 
 namespace quor {
 
 namespace {
-constexpr int topGap = 9; // pixels, between the tabs and the page
+
+constexpr int roomAround = 8; // pixels, around a control that is scrolled to
+
+// The form that the child band shows; null without one.
+Form* FormOf(const Band& child)
+{
+    return child.Tools().empty() ? nullptr : child.Tools().front().Tool().HostedForm();
 }
 
-TabbedView::TabbedView(Band& band, const Theme& theme, QWidget* parent) : QWidget(parent), m_band(band), m_theme(theme)
+// A form as wide as the panel. It scrolls where it is too high, and to the control that the keyboard reaches.
+class PageArea final : public QScrollArea {
+public:
+    PageArea(Form& form, const Theme& theme)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(new FormView(form, theme));
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+            if (now != nullptr && isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton) {
+                ensureWidgetVisible(now, 0, roomAround);
+            }
+        });
+    }
+};
+
+} // namespace
+
+TabbedView::TabbedView(Band& band, const Theme& theme, QWidget* parent)
+    : QWidget(parent), m_band(band), m_theme(theme), m_stack(new QStackedWidget(this))
 {
-    m_tabs = new PanelTabs(theme, [this](int position) {
-        m_band.SetCurrentChild(VisibleChildren().at(static_cast<std::size_t>(position))->Name);
-    });
-    m_area = new QScrollArea;
-    m_area->setFrameShape(QFrame::NoFrame);
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setFocusPolicy(Qt::NoFocus);
-    m_area->setBackgroundRole(QPalette::Light);
+    m_tabs = new PanelTabs(
+        theme, [this](int position) { m_band.SetCurrentChild(m_shown.at(static_cast<std::size_t>(position))->Name); },
+        this);
+    m_tabs->setAccessibleName(ToQt(band.Caption));
+    m_stack->addWidget(new QWidget); // where no page is in front
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(m_tabs);
-    rows->addSpacing(topGap);
-    rows->addWidget(m_area, 1);
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, [this] { Follow(); });
-    const auto followSoon = [this] { m_soon.start(0); };
-    m_following.push_back(band.Changed.Subscribe(followSoon));
+    rows->addWidget(m_stack, 1);
+    m_following.push_back(band.Changed.Subscribe([this] { FollowSoon(); }));
     for (Band* child : band.Children()) {
-        m_following.push_back(child->Changed.Subscribe(followSoon));
+        m_following.push_back(child->Changed.Subscribe([this] { FollowSoon(); }));
+        for (const BandTool& place : child->Tools()) {
+            m_following.push_back(place.Tool().Changed.Subscribe([this, child] { ForgetForm(*child); }));
+        }
     }
     Follow();
 }
 
-TabbedView::~TabbedView()
+// A selection hides and shows many tabs; they are looked at once, before anything is painted.
+void TabbedView::FollowSoon()
 {
-    m_area->takeWidget();
-    for (const auto& [form, view] : m_views) {
-        delete view;
+    if (!m_willFollow) {
+        m_willFollow = true;
+        QMetaObject::invokeMethod(
+            this, [this] { Follow(); }, Qt::QueuedConnection);
     }
-}
-
-std::vector<Band*> TabbedView::VisibleChildren() const
-{
-    std::vector<Band*> visible;
-    std::copy_if(m_band.Children().begin(), m_band.Children().end(), std::back_inserter(visible),
-                 [](const Band* child) { return child->Visible(); });
-    return visible;
 }
 
 void TabbedView::Follow()
 {
-    const std::vector<Band*> visible = VisibleChildren();
+    m_willFollow = false;
+    m_shown.clear();
+    std::copy_if(m_band.Children().begin(), m_band.Children().end(), std::back_inserter(m_shown),
+                 [](const Band* child) { return child->Visible(); });
     QStringList captions;
-    int current = -1;
-    for (const Band* child : visible) {
-        if (child == m_band.CurrentChild()) {
-            current = static_cast<int>(captions.size());
-        }
+    for (const Band* child : m_shown) {
         captions.append(ToQt(child->Caption));
     }
-    m_tabs->Show(captions, current);
-    ShowPage(current < 0 ? nullptr : m_band.CurrentChild());
+    const auto front = std::find(m_shown.begin(), m_shown.end(), m_band.CurrentChild());
+    m_tabs->Show(captions, front == m_shown.end() ? -1 : static_cast<int>(front - m_shown.begin()));
+    m_stack->setCurrentWidget(front == m_shown.end() ? m_stack->widget(0) : PageOf(**front));
 }
 
-void TabbedView::ShowPage(const Band* page)
+QWidget* TabbedView::PageOf(const Band& child)
 {
-    Form* form = page == nullptr || page->Tools().empty() ? nullptr : page->Tools().front().Tool().HostedForm();
-    FormView* view = nullptr;
-    if (form != nullptr) {
-        FormView*& made = m_views[form];
-        if (made == nullptr) {
-            form->Load();
-            made = new FormView(*form, m_theme);
-        }
-        view = made;
+    Form* form = FormOf(child);
+    if (form == nullptr) {
+        return m_stack->widget(0);
     }
-    if (m_area->widget() == view) {
-        return;
+    Page& page = m_pages[&child];
+    if (page.area == nullptr) {
+        form->Load();
+        page = {form, new PageArea(*form, m_theme)};
+        m_stack->addWidget(page.area);
     }
-    if (QWidget* old = m_area->takeWidget()) {
-        old->setParent(nullptr);
-        old->hide();
-    }
-    if (view != nullptr) {
-        view->resize(view->sizeHint());
-        m_area->setWidget(view);
-        view->show();
+    return page.area;
+}
+
+void TabbedView::ForgetForm(const Band& child)
+{
+    const auto known = m_pages.find(&child);
+    if (known != m_pages.end() && known->second.form != FormOf(child)) {
+        delete known->second.area;
+        m_pages.erase(known);
+        FollowSoon();
     }
 }
 

@@ -3,39 +3,44 @@
 
 #include "base/event.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <unordered_map>
 #include <vector>
 
-class QScrollArea;
+class QStackedWidget;
 
 namespace quor {
 
 class Band;
 class Form;
-class FormView;
 class PanelTabs;
 class Theme;
 
 class TabbedView final : public QWidget {
 public:
-    // Band and theme outlive it, and so do the forms that its tools host.
+    // Band and theme outlive it. Forms are let go as soon as their tools host them no longer.
     TabbedView(Band& band, const Theme& theme, QWidget* parent = nullptr);
-    ~TabbedView() override;
 
 private:
+    // A form's view in its scroll area, made when it is first shown and then kept.
+    struct Page {
+        const Form* form;
+        QWidget* area;
+    };
+
+    void FollowSoon();
     void Follow();
-    void ShowPage(const Band* page);
-    std::vector<Band*> VisibleChildren() const;
+    void ForgetForm(const Band& child);
+    QWidget* PageOf(const Band& child);
 
     Band& m_band;
     const Theme& m_theme;
     PanelTabs* m_tabs;
-    QScrollArea* m_area;
-    std::unordered_map<const Form*, FormView*> m_views; // made when they are first shown
-    QTimer m_soon; // a change of the selection sets many tabs, which are then shown once
+    QStackedWidget* m_stack;
+    std::vector<Band*> m_shown; // the tabs in order
+    std::unordered_map<const Band*, Page> m_pages;
+    bool m_willFollow = false;
     std::vector<Subscription> m_following;
 };
 

@@ -1,0 +1,27 @@
+#pragma once
+// The edge of a docked panel by which the user makes it wider or narrower.
+
+#include <QWidget>
+
+namespace quor {
+
+class PanelEdge final : public QWidget {
+public:
+    // `dock` is the part of `panel` that has the width, at least what it has now; `rest` lies at the panel's left and
+    // gives the room.
+    PanelEdge(QWidget& panel, QWidget& dock, QWidget& rest);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    QWidget& m_dock;
+    QWidget& m_rest;
+    int m_least;
+    int m_grip = 0; // width and the pointer's place, as the edge was taken hold of
+};
+
+} // namespace quor
