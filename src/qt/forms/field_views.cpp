@@ -66,7 +66,7 @@ public:
         QObject::connect(&Shown(), &QCheckBox::clicked, &Shown(),
                          [this] { FromUserAndRead([&] { Model().Toggle(); }); });
     }
-    int NaturalHeight() const override { return Shown().sizeHint().height(); }
+    int NaturalHeight() const override { return BoxHeight(Shown()); }
 
 private:
     void ReadLook() override

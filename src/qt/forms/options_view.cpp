@@ -41,7 +41,7 @@ protected:
         const bool isColumn = width() < WidthSideBySide();
         QPoint at;
         for (QRadioButton* option : m_options) {
-            const QSize size = option->sizeHint();
+            const QSize size(option->sizeHint().width(), BoxHeight(*option));
             option->setGeometry(QRect(at, size).translated(0, (optionPitch - size.height()) / 2));
             at += isColumn ? QPoint(0, optionPitch) : QPoint(size.width() + optionGap, 0);
         }

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QValidator>
 
+#include <algorithm>
 #include <functional>
 
 namespace quor {
@@ -65,7 +66,12 @@ public:
     {
     }
 
-    State validate(QString& text, int& /*caret*/) const override { return m_judge(text); }
+    State validate(QString& text, int& caret) const override
+    {
+        text = text.trimmed();
+        caret = std::min(caret, static_cast<int>(text.size()));
+        return m_judge(text);
+    }
     void fixup(QString& text) const override { text = m_present(); }
 
 private:

@@ -7,9 +7,18 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace quor {
 
 class OptionArray;
+
+// The height of a box or an option with its caption beside it.
+inline int BoxHeight(const QWidget& box)
+{
+    constexpr int boxSize = 16; // pixels
+    return std::max(boxSize, box.fontMetrics().height());
+}
 
 // Shows a control of the class C by a widget of the class W. Derived classes read what C adds to every control.
 template <class C, class W> class ViewOf : public ControlView {

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QFocusFrame>
@@ -13,6 +14,7 @@
 #include <QMenuBar>
 #include <QPainterPath>
 #include <QPointer>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleFactory>
@@ -47,6 +49,16 @@ bool LiesOverContent(const QWidget* widget)
         parent = parent->parentWidget();
     }
     return qobject_cast<const QScrollArea*>(parent) != nullptr;
+}
+
+// How far the ring around a control reaches beyond it. A box has no edge that the ring may cover.
+int RingDistance(const QWidget* ring)
+{
+    const auto* frame = qobject_cast<const QFocusFrame*>(ring);
+    const QWidget* control = frame == nullptr ? nullptr : frame->widget();
+    const bool isBox =
+        qobject_cast<const QCheckBox*>(control) != nullptr || qobject_cast<const QRadioButton*>(control) != nullptr;
+    return isBox ? 3 : 1;
 }
 
 bool WantsRing(const QWidget* widget)
@@ -263,7 +275,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return 8;
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
-        return 1;
+        return RingDistance(widget);
     case PM_SplitterWidth:
         return 1;
     default:

@@ -65,17 +65,15 @@ void DeskStyle::DrawCheckBox(const QStyleOption& option, QPainter& painter) cons
 {
     const bool isEnabled = Has(option, State_Enabled);
     const QRectF box(option.rect.topLeft(), QSizeF(16, 16));
-    const QColor ground = isEnabled ? m_colors.field : m_colors.readOnlyField;
-    const QColor edge = isEnabled ? m_colors.edge : m_colors.disabledText;
     if (!Has(option, State_On)) {
-        DrawBox(painter, box, radii::control, Has(option, State_Sunken) ? m_colors.pressed : ground, edge);
+        DrawBox(painter, box, radii::control, Has(option, State_Sunken) ? m_colors.pressed : m_colors.field,
+                isEnabled ? m_colors.edge : m_colors.rule);
         return;
     }
-    DrawBox(painter, box, radii::control, isEnabled ? m_colors.accent : ground, isEnabled ? QColor() : edge);
+    DrawBox(painter, box, radii::control, isEnabled ? m_colors.accent : m_colors.disabledText);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(isEnabled ? m_colors.onAccent : m_colors.disabledText, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(m_colors.onAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.translate(box.topLeft());
     painter.drawPolyline(QPolygonF({{4, 8.25}, {6.75, 11}, {12, 5}}));
     painter.restore();
@@ -85,17 +83,16 @@ void DeskStyle::DrawRadioButton(const QStyleOption& option, QPainter& painter) c
 {
     const bool isEnabled = Has(option, State_Enabled);
     const QRectF box(option.rect.topLeft(), QSizeF(16, 16));
-    const QColor ground = isEnabled ? m_colors.field : m_colors.readOnlyField;
     if (!Has(option, State_On)) {
-        DrawBox(painter, box, 8, Has(option, State_Sunken) ? m_colors.pressed : ground,
-                isEnabled ? m_colors.edge : m_colors.disabledText);
+        DrawBox(painter, box, 8, Has(option, State_Sunken) ? m_colors.pressed : m_colors.field,
+                isEnabled ? m_colors.edge : m_colors.rule);
         return;
     }
     DrawBox(painter, box, 8, isEnabled ? m_colors.accent : m_colors.disabledText);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isEnabled ? m_colors.onAccent : ground);
+    painter.setBrush(m_colors.onAccent);
     painter.drawEllipse(box.center(), 3, 3);
     painter.restore();
 }

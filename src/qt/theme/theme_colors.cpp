@@ -139,7 +139,7 @@ QPalette PaletteOf(const ThemeColors& colors)
     palette.setColor(QPalette::Shadow, colors.edge);
     palette.setColor(QPalette::ToolTipBase, Hex(0x1B222A));
     palette.setColor(QPalette::ToolTipText, Hex(0xFFFFFF));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
         palette.setColor(QPalette::Disabled, role, colors.disabledText);
     }
     palette.setColor(QPalette::Disabled, QPalette::Base, colors.readOnlyField);

@@ -23,6 +23,7 @@ int PlaceOf(const QMouseEvent& event)
 PanelEdge::PanelEdge(QWidget& panel, QWidget& dock, QWidget& rest)
     : QWidget(&panel), m_dock(dock), m_rest(rest), m_least(dock.minimumWidth())
 {
+    setObjectName(dock.objectName() + QStringLiteral(".edge"));
     setCursor(Qt::SizeHorCursor);
     panel.installEventFilter(this);
 }

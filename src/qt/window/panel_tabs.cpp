@@ -47,10 +47,7 @@ public:
         setFocusPolicy(isInFront ? Qt::TabFocus : Qt::NoFocus);
     }
 
-    QSize sizeHint() const override
-    {
-        return {QFontMetrics(m_theme.TextFont()).horizontalAdvance(text()) + 2 * padding, tabHeight};
-    }
+    QSize sizeHint() const override { return {fontMetrics().horizontalAdvance(text()) + 2 * padding, tabHeight}; }
 
 protected:
     void nextCheckState() override {} // the model says what is in front
@@ -75,7 +72,6 @@ protected:
         } else if (underMouse()) {
             DrawBox(painter, rect(), radii::button, isDown() ? colors.pressed : colors.hover);
         }
-        painter.setFont(m_theme.TextFont());
         painter.setPen(isChecked() ? colors.selectedText : colors.labelText);
         painter.drawText(rect().adjusted(0, 0, 0, -2), Qt::AlignCenter | Qt::TextSingleLine, text());
     }
@@ -126,6 +122,7 @@ QAccessibleInterface* MakeAccess(const QString& /*key*/, QObject* object)
 PanelTabs::PanelTabs(const Theme& theme, std::function<void(int)> onChoice, QWidget* parent)
     : QWidget(parent), m_theme(theme), m_onChoice(std::move(onChoice))
 {
+    setObjectName(QStringLiteral("tabs"));
     static const bool isTold = (QAccessible::installFactory(MakeAccess), true);
     static_cast<void>(isTold);
 }
