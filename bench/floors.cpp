@@ -68,15 +68,16 @@ void WriteReadDelete(const std::filesystem::path& path, std::size_t size)
     std::filesystem::remove(path);
 }
 
-std::string LabelForm(std::int64_t labels)
+std::string CheckBoxForm(std::int64_t boxes)
 {
     std::string form = "<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">";
-    for (std::int64_t label = 1; label <= labels; ++label) {
-        const std::string left = std::to_string(label % 100 * 20);
-        const std::string top = std::to_string(label / 100 * 20);
-        form += "<widget class=\"QLabel\" name=\"a" + std::to_string(label) +
+    for (std::int64_t box = 1; box <= boxes; ++box) {
+        const std::string left = std::to_string(box % 100 * 20);
+        const std::string top = std::to_string(box / 100 * 20);
+        form += "<widget class=\"QCheckBox\" name=\"a" + std::to_string(box) +
                 "\"><property name=\"geometry\"><rect><x>" + left + "</x><y>" + top +
-                "</y><width>17</width><height>17</height></rect></property></widget>";
+                "</y><width>17</width><height>17</height></rect></property>"
+                "<property name=\"checked\"><bool>true</bool></property></widget>";
     }
     return form + "</widget></ui>";
 }

@@ -37,7 +37,7 @@ void LoadView(benchmark::State& state)
 
 void LoadQtForm(benchmark::State& state)
 {
-    const std::string form = LabelForm(state.range(0));
+    const std::string form = CheckBoxForm(state.range(0));
     for (auto _ : state) {
         auto widgets = LoadForm(form);
         state.PauseTiming();

@@ -30,14 +30,10 @@ void AppendUtf8(std::string& text, char32_t character)
     }
 }
 
-// Takes the next character off the text; a byte that begins none is noCharacter.
-char32_t Next(std::string_view& text) noexcept
+char32_t NextBeyondAscii(std::string_view& text) noexcept
 {
     const auto first = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
-    if (first < 0x80) {
-        return first;
-    }
     const std::size_t length = first >= 0xF0 && first < 0xF5 ? 3 : first >= 0xE0 ? 2 : first >= 0xC2 ? 1 : 0;
     if (length == 0 || first >= 0xF5 || text.size() < length) {
         return noCharacter;
@@ -56,6 +52,17 @@ char32_t Next(std::string_view& text) noexcept
     }
     text.remove_prefix(length);
     return character;
+}
+
+// Takes the next character off the text; a byte that begins none is noCharacter.
+inline char32_t Next(std::string_view& text) noexcept
+{
+    const auto first = static_cast<unsigned char>(text.front());
+    if (first >= 0x80) {
+        return NextBeyondAscii(text);
+    }
+    text.remove_prefix(1);
+    return first;
 }
 
 std::uint8_t AnsiByte(char32_t character) noexcept
@@ -101,7 +108,7 @@ template <class Number> std::string ShortestDecimal(Number number)
 std::string FromAnsi(std::span<const std::uint8_t> bytes)
 {
     if (std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte < 0x80; })) {
-        return {bytes.begin(), bytes.end()};
+        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
     }
     std::string text;
     text.reserve(bytes.size() * 2);
@@ -119,13 +126,7 @@ std::size_t AnsiLength(std::string_view text) noexcept
 std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept
 {
     while (!text.empty()) {
-        const auto first = static_cast<std::uint8_t>(text.front());
-        if (first < 0x80) {
-            *to++ = first;
-            text.remove_prefix(1);
-        } else {
-            *to++ = AnsiByte(Next(text));
-        }
+        *to++ = AnsiByte(Next(text));
     }
     return to;
 }

@@ -13,7 +13,7 @@ namespace quor {
 namespace {
 
 constexpr std::size_t fontFixedSize = 16;
-constexpr std::size_t leastRoom = 64;
+constexpr std::size_t leastRoom = 32;
 
 // The longest that a text can be in a record.
 std::size_t RoomForText(std::string_view text) noexcept
@@ -40,13 +40,29 @@ std::uint8_t* PutFontRecord(std::uint8_t* to, const Font& font) noexcept
     return PutZString(to + fontFixedSize, font.Name);
 }
 
+[[noreturn]] void FailToRead(std::string_view name, std::size_t count, std::size_t position, std::size_t size)
+{
+    throw Failure(failures::outOfRange, std::string(name) + " needs " + std::to_string(count) + " bytes at offset " +
+                                            std::to_string(position) + " of a record of " + std::to_string(size) +
+                                            " bytes.");
+}
+
 void NeedBytes(std::span<const std::uint8_t> bytes, std::size_t position, std::size_t count, std::string_view name)
 {
     if (position > bytes.size() || bytes.size() - position < count) {
-        throw Failure(failures::outOfRange, std::string(name) + " needs " + std::to_string(count) +
-                                                " bytes at offset " + std::to_string(position) + " of a record of " +
-                                                std::to_string(bytes.size()) + " bytes.");
+        FailToRead(name, count, position, bytes.size());
     }
+}
+
+// Takes the bytes up to a zero byte or the end, and moves the position behind that.
+std::span<const std::uint8_t> TakeZString(std::span<const std::uint8_t> bytes, std::size_t& position)
+{
+    const auto rest = bytes.subspan(std::min(position, bytes.size()));
+    const void* zero = rest.empty() ? nullptr : std::memchr(rest.data(), 0, rest.size());
+    const std::size_t length =
+        zero == nullptr ? rest.size() : static_cast<std::size_t>(static_cast<const std::uint8_t*>(zero) - rest.data());
+    position += length + 1;
+    return rest.first(length);
 }
 
 } // namespace
@@ -60,10 +76,12 @@ void AppendZString(std::vector<std::uint8_t>& bytes, std::string_view text)
 
 void ExtractZString(std::span<const std::uint8_t> bytes, std::size_t& position, std::string& text)
 {
-    const auto rest = bytes.subspan(std::min(position, bytes.size()));
-    const auto length = static_cast<std::size_t>(std::find(rest.begin(), rest.end(), 0) - rest.begin());
-    text = FromAnsi(rest.first(length));
-    position += length + 1;
+    const auto taken = TakeZString(bytes, position);
+    if (taken.empty()) {
+        text.clear();
+    } else {
+        text = FromAnsi(taken);
+    }
 }
 
 void AppendFontRecord(std::vector<std::uint8_t>& bytes, const Font& font)
@@ -243,8 +261,7 @@ void RecordReader::ByteField(std::string_view name, std::int32_t& value)
 
 void RecordReader::NameField(std::string_view, std::string&)
 {
-    std::string dropped;
-    ExtractZString(m_payload, m_position, dropped);
+    TakeZString(m_payload, m_position);
 }
 
 } // namespace quor
