@@ -222,6 +222,17 @@ TEST_F(TheFormRuntime, LaysOutALineByTheRoomThatItHas)
     EXPECT_EQ(Part<QWidget>(&view, "cmdBrwsOnColor").x(), 160);
 }
 
+TEST_F(TheFormRuntime, ShowsTheGroundThatAFormSetsUnlessItIsTheSystems)
+{
+    TryForm form;
+    FormView view(form, theme);
+    const QColor usual = view.palette().color(QPalette::Light);
+    form.Set(&Form::BackColor, Color{0x0000FF});
+    EXPECT_EQ(view.palette().color(view.backgroundRole()), QColor(Qt::red));
+    form.Set(&Form::BackColor, colors::buttonFace);
+    EXPECT_EQ(view.palette().color(view.backgroundRole()), usual);
+}
+
 TEST_F(TheFormRuntime, HandsInputToTheModelsAndShowsWhatTheyMakeOfIt)
 {
     TryForm form;

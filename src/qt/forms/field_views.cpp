@@ -112,7 +112,7 @@ public:
 
 private:
     // Pixels: ten from the rule to the title's letters, which stand in the middle of the label.
-    static constexpr int titleGap = 6;
+    static constexpr int titleGap = 7;
     static constexpr int titleHeight = 20;
 
     void ReadLook() override { m_title->setText(ToQt(Model().Caption())); }

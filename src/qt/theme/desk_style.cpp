@@ -52,10 +52,8 @@ bool LiesOverContent(const QWidget* widget)
 }
 
 // How far the ring around a control reaches beyond it. A box has no edge that the ring may cover.
-int RingDistance(const QWidget* ring)
+int RingDistance(const QWidget* control)
 {
-    const auto* frame = qobject_cast<const QFocusFrame*>(ring);
-    const QWidget* control = frame == nullptr ? nullptr : frame->widget();
     const bool isBox =
         qobject_cast<const QCheckBox*>(control) != nullptr || qobject_cast<const QRadioButton*>(control) != nullptr;
     return isBox ? 3 : 1;
@@ -226,7 +224,7 @@ QRect DeskStyle::subControlRect(ComplexControl control, const QStyleOptionComple
 QRect DeskStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
     if (element == SE_LineEditContents && As<QStyleOptionFrame>(option).lineWidth > 0) {
-        return option->rect.adjusted(6, 1, -6, -1);
+        return option->rect.adjusted(6, 1, -4, -2); // so that the text is level with the caption beside it
     }
     return QProxyStyle::subElementRect(element, option, widget);
 }
@@ -275,7 +273,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return 8;
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
-        return RingDistance(widget);
+        return RingDistance(m_ring == nullptr ? nullptr : m_ring->widget());
     case PM_SplitterWidth:
         return 1;
     default:
