@@ -277,13 +277,12 @@ bool CanvasView::focusNextPrevChild(bool next)
 void CanvasView::FollowDrag()
 {
     if (!IsBusy()) {
-        releaseKeyboard();
         ShowOutline(std::nullopt, m_pointer);
-    } else {
-        grabKeyboard();
-        if (m_main.IsSizing()) {
-            ShowOutline(m_main.OutlineAt(Twips(m_pointer.x()), Twips(m_pointer.y())), m_pointer);
-        }
+        return;
+    }
+    setFocus(); // for Escape
+    if (m_main.IsSizing()) {
+        ShowOutline(m_main.OutlineAt(Twips(m_pointer.x()), Twips(m_pointer.y())), m_pointer);
     }
 }
 

@@ -1,0 +1,62 @@
+#include "apps/editor/program.h"
+
+#include "editor/main_form.h"
+#include "qt/ports/qt_text.h"
+#include "qt/window/main_window.h"
+
+#include <QApplication>
+#include <QDir>
+
+namespace quor {
+
+namespace {
+
+// The user's folder for state, where the log goes if the program's own can't be written.
+std::string StateFolder()
+{
+    QString base = qEnvironmentVariable("XDG_STATE_HOME");
+    if (base.isEmpty()) {
+        base = QDir::homePath() + QStringLiteral("/.local/state");
+    }
+    const QString folder = base + QStringLiteral("/quor");
+    QDir().mkpath(folder);
+    return FromQt(folder);
+}
+
+} // namespace
+
+Program::Program(std::string tail)
+    : m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
+                 StateFolder()),
+      m_application(Ports(), std::move(tail))
+{
+    m_shown = m_application.MainFormShown.Subscribe([this](frmMain& main) { ShowWindow(main); });
+    m_ended = m_application.Ended.Subscribe([this] { Ended.Raise(); });
+}
+
+Program::~Program() = default;
+
+void Program::EndSession()
+{
+    frmMain* main = m_application.MainForm();
+    if (main == nullptr || !main->Close(CloseReason::System)) {
+        Ended.Raise();
+    }
+}
+
+EditorPorts Program::Ports()
+{
+    m_theme.Apply(*qApp);
+    QApplication::setWindowIcon(m_theme.Icon("application"));
+    return {m_files,    m_boxes, m_dialog,   m_forms,    m_timers, m_screen, m_pictures,
+            m_settings, m_login, m_reporter, m_progress, m_live,   m_help,   m_systemInfo};
+}
+
+void Program::ShowWindow(frmMain& main)
+{
+    m_window = std::make_unique<MainWindow>(main, m_theme);
+    m_forms.SetMainWindow(m_window.get());
+    m_window->show();
+}
+
+} // namespace quor

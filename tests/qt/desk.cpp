@@ -1,0 +1,228 @@
+#include "tests/qt/desk.h"
+
+#include "document/view_document.h"
+#include "widgets/widget.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace quor::testing {
+
+namespace {
+
+QPoint Middle(const GrabHandle& handle)
+{
+    constexpr float half = Canvas::handleSize / 2;
+    return {qRound((handle.left + half) / twipsPerPixelX), qRound((handle.top + half) / twipsPerPixelY)};
+}
+
+QString Told(const QWidget& dialog)
+{
+    QString text = dialog.windowTitle();
+    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog)) {
+        text += ": " + box->text();
+    } else if (const auto* label = dialog.findChild<QLabel*>("lblError")) {
+        text += ": " + label->text();
+    }
+    return text;
+}
+
+QAction* FindAction(const QMenu& menu, const QString& name)
+{
+    for (QAction* action : menu.actions()) {
+        if (action->objectName() == name) {
+            return action;
+        }
+        if (action->menu() != nullptr) {
+            emit action->menu()->aboutToShow();
+            if (QAction* inner = FindAction(*action->menu(), name)) {
+                return inner;
+            }
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Desk::Home::Home(const QString& path) : before(QDir::currentPath())
+{
+    QDir::setCurrent(path);
+}
+
+Desk::Home::~Home()
+{
+    QDir::setCurrent(before);
+}
+
+Desk::Desk(const std::string& tail) : m_home(m_folder.path()), m_program(tail)
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { MeetNext(); });
+    m_watch.start(5);
+    m_program.Start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_program.Window() != nullptr; }));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(m_program.Window()));
+    m_program.Window()->activateWindow();
+    m_program.Window()->resize(1200, 760);
+    Settle();
+}
+
+Desk::~Desk()
+{
+    EXPECT_TRUE(m_answers.empty()) << "a dialog was expected and did not come";
+    EXPECT_EQ(m_met, QStringList()) << "dialogs came that nobody asked about";
+    m_program.EndSession();
+}
+
+void Desk::Settle()
+{
+    QTest::qWait(40);
+}
+
+void Desk::DragTool(int index, const QPoint& to)
+{
+    auto* cell = Window().findChild<QWidget*>(QStringLiteral("cmdTool(%1)").arg(index));
+    ASSERT_NE(cell, nullptr);
+    const QPoint target = cell->mapFromGlobal(Canvas().mapToGlobal(to));
+    QTest::mousePress(cell, Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::mouseMove(cell, (target + QPoint(10, 10)) / 2);
+    QTest::mouseMove(cell, target);
+    QTest::mouseRelease(cell, Qt::LeftButton, {}, target);
+    Settle();
+}
+
+void Desk::Drag(const QPoint& from, const QPoint& to, bool gives)
+{
+    QTest::mousePress(&Canvas(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(&Canvas(), (from + to) / 2);
+    QTest::mouseMove(&Canvas(), to);
+    if (gives) {
+        Key(Qt::Key_Escape);
+    }
+    QTest::mouseRelease(&Canvas(), Qt::LeftButton, {}, to);
+    Settle();
+}
+
+void Desk::Click(const QPoint& at, Qt::MouseButton button)
+{
+    QTest::mouseClick(&Canvas(), button, {}, at);
+    Settle();
+}
+
+void Desk::DragHandle(std::size_t handle, const QPoint& by)
+{
+    const GrabHandle& grab = Main().ssScroll().Handles().at(handle);
+    ASSERT_TRUE(grab.visible);
+    Drag(Middle(grab), Middle(grab) + by);
+}
+
+void Desk::Key(int key, Qt::KeyboardModifiers modifiers)
+{
+    if (QApplication::activeWindow() == nullptr) { // as a desktop does when a dialog has gone
+        Window().activateWindow();
+        Settle();
+    }
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keyClick(focused == nullptr ? &Window() : focused, static_cast<Qt::Key>(key), modifiers);
+    Settle();
+}
+
+void Desk::Choose(const char* tool)
+{
+    for (QAction* header : Window().menuBar()->actions()) {
+        emit header->menu()->aboutToShow();
+        if (QAction* action = FindAction(*header->menu(), QString::fromLatin1(tool))) {
+            action->trigger();
+            Settle();
+            return;
+        }
+    }
+    FAIL() << tool << " is in no menu";
+}
+
+void Desk::Meet(std::function<void(QWidget&)> answer)
+{
+    m_answers.push_back(std::move(answer));
+}
+
+void Desk::MeetAndCancel()
+{
+    Meet([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+}
+
+void Desk::MeetAndType(const QString& path)
+{
+    Meet([path](QWidget& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        ASSERT_NE(name, nullptr);
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void Desk::MeetAndPush(const QString& button)
+{
+    Meet([button](QWidget& dialog) {
+        for (auto* each : dialog.findChildren<QPushButton*>()) {
+            if (each->text().remove(QLatin1Char('&')) == button) {
+                QTest::mouseClick(each, Qt::LeftButton);
+                return;
+            }
+        }
+        FAIL() << button.toStdString() << " is no button of " << Told(dialog).toStdString();
+    });
+}
+
+// A dialog that nobody expects is cancelled, and fails the test at its end.
+void Desk::MeetNext()
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->isVisible()) {
+        return;
+    }
+    m_watch.stop();
+    m_met.append(Told(*dialog));
+    if (m_answers.empty()) {
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    } else {
+        const auto answer = m_answers.front();
+        m_answers.erase(m_answers.begin());
+        answer(*dialog);
+    }
+    m_watch.start();
+}
+
+QStringList Desk::Met()
+{
+    Settle();
+    return std::exchange(m_met, {});
+}
+
+QStringList Desk::Elements()
+{
+    QStringList elements;
+    for (const Widget* widget = Main().ssScroll().Back(); widget != nullptr; widget = widget->Above()) {
+        const QRectF place(widget->Left(), widget->Top(), widget->Width(), widget->Height());
+        elements.append(QStringLiteral("%1 %2,%3 %4x%5")
+                            .arg(QString::fromStdString(widget->Tag()))
+                            .arg(place.left() / 15)
+                            .arg(place.top() / 15)
+                            .arg(place.width() / 15)
+                            .arg(place.height() / 15));
+    }
+    return elements;
+}
+
+} // namespace quor::testing

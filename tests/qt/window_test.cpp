@@ -1,0 +1,161 @@
+// What a user does at the real window, by mouse and keys.
+
+#include "tests/qt/desk.h"
+
+#include "forms/bars.h"
+#include "qt/canvas/canvas_view.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMenu>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace quor;
+using quor::testing::Desk;
+
+TEST(Window, ThreeLampsAreDrawnSavedAndOpenedAgain)
+{
+    Desk desk;
+    desk.DragTool(3, {101, 98});
+    desk.DragTool(3, {203, 98});
+    desk.DragTool(3, {304, 202});
+    EXPECT_EQ(desk.Elements(), (QStringList{"LED (Round) 1 100,100 17x17", "LED (Round) 2 200,100 17x17",
+                                            "LED (Round) 3 300,200 17x17"}));
+
+    desk.Drag({305, 205}, {388, 321}); // with the snap: 300 + 83 is nearer to 380
+    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 380,320 17x17");
+    desk.DragHandle(7, {24, 36}); // to 41 x 53
+    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 380,320 40x50");
+    desk.DragHandle(0, {-31, -29});
+    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 350,290 70x80");
+
+    desk.Choose("miSnapToGrid");
+    desk.Drag({205, 105}, {218, 112});
+    EXPECT_EQ(desk.Elements().at(1), "LED (Round) 2 213,107 17x17");
+    desk.DragHandle(4, {6, 0});
+    EXPECT_EQ(desk.Elements().at(1), "LED (Round) 2 213,107 23x17");
+    desk.Choose("miSnapToGrid");
+
+    desk.Click({105, 105});
+    desk.Key(Qt::Key_Delete);
+    const QStringList drawn = {"LED (Round) 2 213,107 23x17", "LED (Round) 3 350,290 70x80"};
+    EXPECT_EQ(desk.Elements(), drawn);
+
+    desk.MeetAndType(desk.PathOf("panel"));
+    desk.Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desk.Met().size(), 1);
+    ASSERT_TRUE(QFile::exists(desk.PathOf("panel.qvw"))) << "the suffix comes by itself";
+    desk.Key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(desk.Elements(), QStringList()) << "a saved view goes without a question";
+
+    desk.MeetAndType(desk.PathOf("panel.qvw"));
+    desk.Key(Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(desk.Met().size(), 1);
+    EXPECT_EQ(desk.Elements(), drawn);
+    EXPECT_TRUE(desk.Window().close());
+    EXPECT_TRUE(desk.HasEnded());
+}
+
+TEST(Window, EveryDialogCanBeCancelled)
+{
+    Desk desk;
+    desk.DragTool(3, {100, 100});
+    const QStringList drawn = desk.Elements();
+
+    desk.MeetAndCancel();
+    desk.Choose("miSaveAs");
+    desk.MeetAndCancel(); // the question
+    desk.Choose("miNew");
+    desk.MeetAndPush("No");
+    desk.MeetAndCancel(); // the file
+    desk.Choose("miOpen");
+    EXPECT_EQ(desk.Met().size(), 4);
+    EXPECT_EQ(desk.Elements(), drawn);
+
+    desk.MeetAndCancel();
+    desk.Key(Qt::Key_Delete); // with nothing selected: an error report
+    EXPECT_EQ(desk.Met(), QStringList{"Quor Custom View Editor: Unable to delete the selected control."});
+
+    desk.MeetAndCancel();
+    EXPECT_FALSE(desk.Window().close());
+    EXPECT_EQ(desk.Met(), QStringList{"Custom View Editor: Do you want to save changes to My View?"});
+    desk.MeetAndPush("No");
+    EXPECT_TRUE(desk.Window().close());
+    EXPECT_EQ(desk.Met().size(), 1) << "one question a close";
+    EXPECT_TRUE(desk.HasEnded());
+}
+
+TEST(Window, EscapeGivesUpADragAndASizing)
+{
+    Desk desk;
+    desk.DragTool(3, {100, 100});
+    const QStringList drawn = desk.Elements();
+    desk.Drag({105, 105}, {300, 300}, true);
+    EXPECT_EQ(desk.Elements(), drawn);
+    EXPECT_FALSE(desk.Main().IsDragging());
+    desk.Click({105, 105});
+    desk.Drag({119, 119}, {300, 300}, true);
+    EXPECT_EQ(desk.Elements(), drawn);
+    EXPECT_FALSE(desk.Main().IsSizing());
+    desk.Drag({105, 105}, {-50, 100}); // outside the canvas nothing takes it
+    EXPECT_EQ(desk.Elements(), drawn);
+}
+
+TEST(Window, TheRightButtonOpensThePopupOfWhatItIsOver)
+{
+    Desk desk;
+    desk.DragTool(3, {100, 100});
+    desk.Click({400, 300});
+    desk.Click({105, 105}, Qt::RightButton);
+    auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(popup, nullptr);
+    EXPECT_EQ(popup->objectName(), "bndToolPopup");
+    EXPECT_NE(desk.Main().SelectedWidget(), nullptr);
+    const QList<QAction*> actions = popup->actions();
+    EXPECT_EQ(actions.at(2)->toolTip(), "Pate");
+    EXPECT_TRUE(actions.at(0)->isEnabled());
+    desk.Key(Qt::Key_Escape);
+    popup->close();
+}
+
+TEST(Window, TheScrollBarsMoveTheViewAndFollowIt)
+{
+    Desk desk;
+    desk.DragTool(3, {100, 100});
+    CanvasView& canvas = desk.Window().Canvas();
+    canvas.verticalScrollBar()->setValue(700);
+    EXPECT_EQ(desk.Main().ssScroll().ScrollOffsetY(), 705) << "whole pixels";
+    EXPECT_EQ(desk.Elements().first(), "LED (Round) 1 100,53 17x17");
+    desk.DragTool(3, {200, 200}); // 247 in the view, so it snaps to 250
+    EXPECT_EQ(desk.Elements().last(), "LED (Round) 2 200,203 17x17");
+    desk.Main().ssScroll().ScrollTo(0, 3000);
+    EXPECT_EQ(canvas.verticalScrollBar()->value(), 3000);
+    canvas.verticalScrollBar()->setValue(canvas.verticalScrollBar()->maximum());
+    EXPECT_EQ(desk.Main().ssScroll().ScrollOffsetY() + canvas.viewport()->height() * 15,
+              desk.Main().ssScroll().ScrollMaxY());
+}
+
+TEST(Window, ThePanelsComeAndGoWithTheirTools)
+{
+    Desk desk;
+    auto* toolbox = desk.Window().findChild<QWidget*>("bndToolbox");
+    ASSERT_TRUE(toolbox->isVisible());
+    desk.Choose("miToolbox");
+    EXPECT_FALSE(toolbox->isVisible());
+    EXPECT_FALSE(desk.Main().abViewEdit().Tool("miToolbox").Checked());
+    desk.Choose("miToolbox");
+    EXPECT_TRUE(toolbox->isVisible());
+}
+
+TEST(Window, TheEndOfTheSessionAsksNothing)
+{
+    Desk desk;
+    desk.DragTool(3, {100, 100});
+    EXPECT_FALSE(desk.HasEnded());
+} // the desk ends the session
+
+} // namespace
