@@ -1,6 +1,7 @@
 #include "qt/theme/theme.h"
 
 #include "qt/theme/desk_style.h"
+#include "qt/theme/desktop_scheme.h"
 #include "qt/theme/icon_engine.h"
 
 #include <QApplication>
@@ -42,6 +43,11 @@ private:
 };
 
 namespace {
+
+bool IsDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
 
 QFont DesktopFont(int pixels, QFont::Weight weight = QFont::Normal)
 {
@@ -85,8 +91,13 @@ void Theme::UseColors(const ThemeColors& colors)
 
 void Theme::AdoptDesktop()
 {
+    const QPalette desktop = QApplication::palette();
     const std::unique_ptr<QStyle> fallback(DeskStyle::MakeBase());
-    m_colors = ColorsFor(QApplication::palette(), fallback->standardPalette());
+    if (IsOwnPalette(desktop, fallback->standardPalette())) {
+        m_colors = ColorsFrom(desktop);
+    } else {
+        m_colors = IsDark(desktop) || DesktopPrefersDark() ? DarkColors() : LightColors();
+    }
 }
 
 void Theme::Spread() const

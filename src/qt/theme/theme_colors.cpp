@@ -9,51 +9,7 @@ QColor Hex(QRgb rgb)
     return QColor(rgb);
 }
 
-bool IsFallback(const QPalette& desktop, const QPalette& fallback)
-{
-    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Text, QPalette::Highlight}) {
-        if (desktop.color(role) != fallback.color(role)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-ThemeColors DerivedFrom(const QPalette& desktop)
-{
-    const QColor window = desktop.color(QPalette::Window);
-    const QColor text = desktop.color(QPalette::WindowText);
-    const QColor base = desktop.color(QPalette::Base);
-    const QColor accent = desktop.color(QPalette::Highlight);
-    ThemeColors colors = window.lightness() < text.lightness() ? DarkColors() : LightColors();
-    colors.window = window;
-    colors.panel = Mixed(window, base, 0.4);
-    colors.field = base;
-    colors.readOnlyField = Mixed(base, window, 0.7);
-    colors.rule = Mixed(window, text, 0.14);
-    colors.edge = Mixed(window, text, 0.5);
-    colors.text = text;
-    colors.labelText = Mixed(text, window, 0.28);
-    colors.disabledText = desktop.color(QPalette::Disabled, QPalette::WindowText);
-    colors.accent = accent;
-    colors.onAccent = desktop.color(QPalette::HighlightedText);
-    colors.selectedGround = Mixed(base, accent, 0.2);
-    colors.selectedText = Mixed(accent, text, 0.35);
-    colors.hover = Mixed(window, text, 0.07);
-    colors.pressed = Mixed(window, text, 0.14);
-    colors.icon = Mixed(text, window, 0.14);
-    colors.menu = base;
-    colors.button = desktop.color(QPalette::Button);
-    colors.thumb = Mixed(window, text, 0.45);
-    return colors;
-}
-
 } // namespace
-
-bool ThemeColors::IsDark() const
-{
-    return window.lightness() < text.lightness();
-}
 
 ThemeColors LightColors()
 {
@@ -107,13 +63,43 @@ ThemeColors DarkColors()
     };
 }
 
-ThemeColors ColorsFor(const QPalette& desktop, const QPalette& fallback)
+bool IsOwnPalette(const QPalette& desktop, const QPalette& fallback)
 {
-    if (!IsFallback(desktop, fallback)) {
-        return DerivedFrom(desktop);
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Text, QPalette::Highlight}) {
+        if (desktop.color(role) != fallback.color(role)) {
+            return true;
+        }
     }
-    const bool isDark = desktop.color(QPalette::Window).lightness() < desktop.color(QPalette::WindowText).lightness();
-    return isDark ? DarkColors() : LightColors();
+    return false;
+}
+
+ThemeColors ColorsFrom(const QPalette& desktop)
+{
+    const QColor window = desktop.color(QPalette::Window);
+    const QColor text = desktop.color(QPalette::WindowText);
+    const QColor base = desktop.color(QPalette::Base);
+    const QColor accent = desktop.color(QPalette::Highlight);
+    ThemeColors colors = window.lightness() < text.lightness() ? DarkColors() : LightColors();
+    colors.window = window;
+    colors.panel = Mixed(window, base, 0.4);
+    colors.field = base;
+    colors.readOnlyField = Mixed(base, window, 0.7);
+    colors.rule = Mixed(window, text, 0.14);
+    colors.edge = Mixed(window, text, 0.5);
+    colors.text = text;
+    colors.labelText = Mixed(text, window, 0.28);
+    colors.disabledText = desktop.color(QPalette::Disabled, QPalette::WindowText);
+    colors.accent = accent;
+    colors.onAccent = desktop.color(QPalette::HighlightedText);
+    colors.selectedGround = Mixed(base, accent, 0.2);
+    colors.selectedText = Mixed(accent, text, 0.35);
+    colors.hover = Mixed(window, text, 0.07);
+    colors.pressed = Mixed(window, text, 0.14);
+    colors.icon = Mixed(text, window, 0.14);
+    colors.menu = base;
+    colors.button = desktop.color(QPalette::Button);
+    colors.thumb = Mixed(window, text, 0.45);
+    return colors;
 }
 
 QPalette PaletteOf(const ThemeColors& colors)

@@ -27,16 +27,16 @@ struct ThemeColors {
     QColor button;
     QColor thumb;
     QColor error;
-
-    bool IsDark() const;
 };
 
 ThemeColors LightColors();
 ThemeColors DarkColors();
 
-// The colours for a desktop: derived from its palette if that is its own, else (it is the one that the toolkit falls
-// back on) the light or the dark ones, as the palette is.
-ThemeColors ColorsFor(const QPalette& desktop, const QPalette& fallback);
+// True if the desktop has a palette of its own, not the one that the toolkit falls back on.
+bool IsOwnPalette(const QPalette& desktop, const QPalette& fallback);
+
+// The colours for a desktop with a palette of its own.
+ThemeColors ColorsFrom(const QPalette& desktop);
 
 QPalette PaletteOf(const ThemeColors& colors);
 
