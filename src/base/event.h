@@ -4,45 +4,22 @@
 // A handler may end any subscription, subscribe (the new one waits for the next raise), raise again and destroy the
 // publisher. A handler that fails stops the round and the failure reaches the raiser; subscribe it Quietly if not.
 
+#include "base/ring.h"
+
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace quor {
 
 namespace detail {
 
-struct EventHub;
-
-// A subscriber in the ring of its hub; the hub itself is the ring's fixed node.
-struct EventNode {
-    EventNode* previous = this;
-    EventNode* next = this;
-    EventHub* hub = nullptr;
-    std::uint64_t number = 0; // in order of subscription
+// A subscriber in the ring of its event.
+struct EventNode : RingNode {
     std::uint32_t runs = 0;   // calls of the handler under way
     bool isSubscribed = true; // a subscription owns the node
     virtual ~EventNode() = default;
-};
-
-// One round under way, on the stack of its raise.
-struct EventRound {
-    EventNode* upcoming = nullptr;
-    std::uint64_t limit = 0; // subscriptions from this number on wait for the next raise
-    EventRound* outer = nullptr;
-    bool isOver = false; // the publisher is gone
-};
-
-struct EventHub final : EventNode {
-    EventRound* rounds = nullptr;
-    std::uint64_t subscriptions = 0;
-
-    EventHub() = default;
-    EventHub(const EventHub&) = delete;
-    EventHub& operator=(const EventHub&) = delete;
-    ~EventHub() override;
-    void Append(EventNode& node) noexcept;
-    void Unlink(EventNode& node) noexcept;
 };
 
 void Unsubscribe(EventNode* node) noexcept;
@@ -84,24 +61,24 @@ public:
     Event() noexcept = default;
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
-    ~Event() { delete m_hub; }
+    ~Event() = default;
 
     [[nodiscard]] Subscription Subscribe(Handler handler)
     {
-        if (m_hub == nullptr) {
-            m_hub = new detail::EventHub;
+        if (m_ring == nullptr) {
+            m_ring = std::make_unique<Ring>();
         }
         auto* node = new Node(std::move(handler));
-        m_hub->Append(*node);
+        m_ring->Append(*node);
         return Subscription(node);
     }
 
-    bool HasListeners() const noexcept { return m_hub != nullptr && m_hub->next != m_hub; }
+    bool HasListeners() const noexcept { return m_ring != nullptr && !m_ring->IsEmpty(); }
 
     void Raise(Arguments... arguments) const
     {
         if (HasListeners()) {
-            RaiseTo(*m_hub, arguments...);
+            RaiseTo(*m_ring, arguments...);
         }
     }
 
@@ -109,22 +86,6 @@ private:
     struct Node final : detail::EventNode {
         explicit Node(Handler handlerOf) : handler(std::move(handlerOf)) {}
         Handler handler;
-    };
-
-    struct Round : detail::EventRound {
-        explicit Round(detail::EventHub& hubOf) : EventRound{hubOf.next, hubOf.subscriptions, hubOf.rounds}, hub(hubOf)
-        {
-            hub.rounds = this;
-        }
-        ~Round()
-        {
-            if (!isOver) {
-                hub.rounds = outer;
-            }
-        }
-        Round(const Round&) = delete;
-        Round& operator=(const Round&) = delete;
-        detail::EventHub& hub;
     };
 
     struct Run {
@@ -135,18 +96,17 @@ private:
         detail::EventNode* node;
     };
 
-    static void RaiseTo(detail::EventHub& hub, const Arguments&... arguments)
+    static void RaiseTo(Ring& ring, const Arguments&... arguments)
     {
-        Round round(hub);
-        while (!round.isOver && round.upcoming != &hub && round.upcoming->number < round.limit) {
-            detail::EventNode* node = round.upcoming;
-            round.upcoming = node->next;
+        RingWalk walk(ring);
+        while (RingNode* next = walk.Next()) {
+            auto* node = static_cast<Node*>(next);
             const Run run(node);
-            static_cast<Node*>(node)->handler(arguments...);
+            node->handler(arguments...);
         }
     }
 
-    detail::EventHub* m_hub = nullptr;
+    std::unique_ptr<Ring> m_ring; // made for the first subscriber
 };
 
 } // namespace quor

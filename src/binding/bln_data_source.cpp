@@ -1,28 +1,347 @@
 #include "binding/bln_data_source.h"
 
+#include "base/guard.h"
+#include "base/text.h"
+#include "binding/live.h"
+#include "binding/masks.h"
+#include "binding/server.h"
+#include "binding/sites.h"
+
 namespace quor {
+
+namespace {
+
+// The values of Connected that mean that a link is up.
+bool IsConnectedStatus(std::int32_t status)
+{
+    return status == 5 || status == 6;
+}
+
+bool ToBoolean(const std::string& text)
+{
+    if (SameText(text, "True")) {
+        return true;
+    }
+    if (SameText(text, "False")) {
+        return false;
+    }
+    std::size_t read = 0;
+    double number = 0;
+    if (!IgnoreFailure([&] { number = std::stod(text, &read); }) || read != text.size()) {
+        throw Failure(failures::typeMismatch);
+    }
+    return number != 0;
+}
+
+} // namespace
+
+clsBlnDataSource::clsBlnDataSource(Live& live, BlnOwner& owner)
+    : m_live(live), m_owner(owner), m_hears(!live.DesignMode && live.Server != nullptr)
+{
+    Follow();
+}
+
+clsBlnDataSource::~clsBlnDataSource() = default;
 
 void clsBlnDataSource::Fields(FieldWalk& record)
 {
     record.AsByte(BlnDataType);
     record(Unit, Channel, Site);
+    Follow();
+}
+
+void clsBlnDataSource::Follow()
+{
+    if (!m_hears) {
+        return;
+    }
+    switch (BlnDataType()) {
+    case watch::anyAlarms:
+        m_live.Routes.FollowAll(*m_live.Server, *this);
+        break;
+    case watch::nothing:
+    case watch::primaryPath:
+    case watch::backupPath:
+    case watch::siteAlarms:
+        m_live.Routes.FollowSite(*m_live.Server, *this, Site());
+        break;
+    default:
+        m_live.Routes.FollowUnit(*m_live.Server, *this, Site(), Unit());
+        break;
+    }
 }
 
 void clsBlnDataSource::ForceValue(bool value, bool mute)
 {
-    SetValue(value, mute);
-}
-
-void clsBlnDataSource::RefreshData()
-{
-    const bool watchesNothing = BlnDataType() == 0;
-    SetValue(false, !watchesNothing);
+    m_value = value;
+    RaiseUpdate(value, mute);
 }
 
 void clsBlnDataSource::SetValue(bool value, bool mute)
 {
     m_value = value;
+    HasData = true;
+    RaiseUpdate(value, mute);
+}
+
+void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
+{
+    IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
     UpdateBlnData.Raise(value, mute);
+}
+
+void clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
+{
+    IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
+    LabelData.Raise(on, off);
+}
+
+void clsBlnDataSource::RefreshData()
+{
+    if (!IgnoreFailure([&] { Refresh(); })) {
+        IgnoreFailure([&] { SetValue(false, true); });
+    }
+}
+
+void clsBlnDataSource::Refresh()
+{
+    switch (BlnDataType()) {
+    case watch::nothing:
+        SetValue(false, false);
+        break;
+    case watch::primaryPath:
+    case watch::backupPath:
+        RaiseLabel("Connected", "Not Connected");
+        SetValue(m_live.TheServer().Sites().Item(Site()).UsingBackup() == (BlnDataType() == watch::backupPath), false);
+        break;
+    case watch::siteAlarms:
+        RaiseLabel("Alarms Present on " + Site(), "No Alarms Present on " + Site());
+        SetValue(m_live.TheServer().Sites().Item(Site()).SiteAlarms(), false);
+        break;
+    case watch::anyAlarms:
+        RaiseLabel("Alarm(s) Present", "No Alarms Present");
+        SetValue(m_live.TheServer().AppAlarms(), false);
+        break;
+    default:
+        if (!HasData) {
+            m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig();
+        }
+        break;
+    }
+}
+
+void clsBlnDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
+{
+    if (!IsOf(event.NetName, event.UnitNum)) {
+        return;
+    }
+    if (WatchesLimits()) {
+        TakeLimits(event);
+    }
+    Label(event);
+    if (WatchesLimits() && LastValue > NoData) {
+        SetValue(IsOutside(), false);
+    } else if (BlnDataType() == watch::macroRunning) {
+        SetValue(ToBoolean(event.MacroNames.FromLower(Channel() - 1, 1)), false);
+    }
+}
+
+void clsBlnDataSource::TakeLimits(const ConfigDataEvent& event)
+{
+    const std::int32_t index = Channel() - 1;
+    const std::int32_t type = BlnDataType();
+    const auto take = [&](std::int32_t watcher, float& limit, std::int32_t row) {
+        if (type == watcher || type == watch::outsideLimits) {
+            limit = event.Limits.FromLower(index, row);
+        }
+    };
+    take(watch::belowSecondLower, LimitSecondLower, 0);
+    take(watch::belowFirstLower, LimitFirstLower, 1);
+    take(watch::aboveFirstUpper, LimitFirstUpper, 2);
+    take(watch::aboveSecondUpper, LimitSecondUpper, 3);
+}
+
+void clsBlnDataSource::Label(const ConfigDataEvent& event)
+{
+    const std::int32_t index = Channel() - 1;
+    const auto two = [&](const std::string& label, const char* on, const char* off) {
+        RaiseLabel(label + on, label + off);
+    };
+    const auto meter = [&](const char* on, const char* off) { two(event.MtrLabels.FromLower(index), on, off); };
+    switch (BlnDataType()) {
+    case watch::belowSecondLower:
+        return meter(" is below 2nd lower limit", " is in tolerance");
+    case watch::belowFirstLower:
+        return meter(" is below 1st lower limit", " is in tolerance");
+    case watch::aboveFirstUpper:
+        return meter(" is above 1st upper limit", " is in tolerance");
+    case watch::aboveSecondUpper:
+        return meter(" is above 2nd upper limit", " is in tolerance");
+    case watch::outsideLimits:
+        return meter(" is out of tolerance", " is in tolerance");
+    case watch::commandA:
+        return two(event.CmdLabels.FromLower(index, 0), " (Engaged)", " (Disengaged)");
+    case watch::commandB:
+        return two(event.CmdLabels.FromLower(index, 1), " (Engaged)", " (Disengaged)");
+    case watch::meterMute:
+        return meter(" (Muted)", " (Unmuted)");
+    case watch::statusMute:
+        return two(event.StatusLabels.FromLower(index, 0), " (Muted)", " (Unmuted)");
+    case watch::localMode:
+        return RaiseLabel("Local Control", "Remote Control");
+    case watch::capturesPending: {
+        const std::string unit = UnitCaption(m_live.Server, Site(), Unit());
+        return RaiseLabel("Captures pending on " + unit, "No captures pending on " + unit);
+    }
+    case watch::macroRunning:
+        return two(event.MacroNames.FromLower(index, 0), " (Running)", " (Idle)");
+    case watch::statusOn:
+        return RaiseLabel(event.StatusLabels.FromLower(index, 1), event.StatusLabels.FromLower(index, 0));
+    default: // alarms and links get no captions here, those of a unit's alarms from nowhere
+        return;
+    }
+}
+
+// The limit that must be known before a value is compared; for all four it is the second lower alone.
+float clsBlnDataSource::FirstLimit() const noexcept
+{
+    switch (BlnDataType()) {
+    case watch::belowFirstLower:
+        return LimitFirstLower;
+    case watch::aboveFirstUpper:
+        return LimitFirstUpper;
+    case watch::aboveSecondUpper:
+        return LimitSecondUpper;
+    default:
+        return LimitSecondLower;
+    }
+}
+
+bool clsBlnDataSource::IsOutside() const noexcept
+{
+    switch (BlnDataType()) {
+    case watch::belowSecondLower:
+        return LastValue < LimitSecondLower;
+    case watch::belowFirstLower:
+        return LastValue < LimitFirstLower;
+    case watch::aboveFirstUpper:
+        return LastValue > LimitFirstUpper;
+    case watch::aboveSecondUpper:
+        return LastValue > LimitSecondUpper;
+    default:
+        return LastValue < LimitSecondLower || LastValue < LimitFirstLower || LastValue > LimitFirstUpper ||
+               LastValue > LimitSecondUpper;
+    }
+}
+
+void clsBlnDataSource::m_Srv_Values(const ValuesEvent& event)
+{
+    if (!IsOf(event.NetName, event.UnitNum)) {
+        return;
+    }
+    const auto bit = [&](std::int16_t mask) { return BitOf(mask, Channel()); };
+    if (WatchesLimits()) {
+        const bool mute = bit(event.MeterMutes);
+        LastValue = event.MeterValues.FromLower(Channel() - 1);
+        return SetValue(FirstLimit() != NoData && IsOutside(), mute);
+    }
+    switch (BlnDataType()) {
+    case watch::commandA:
+        return SetValue(!bit(event.OutPuts), false);
+    case watch::commandB:
+        return SetValue(bit(event.OutPuts), false);
+    case watch::meterMute:
+        return SetValue(bit(event.MeterMutes), false);
+    case watch::statusMute:
+        return SetValue(bit(event.StatMutes), false);
+    case watch::capturesPending:
+        return SetValue(m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).EventsPending(), false);
+    case watch::statusOn:
+        return SetValue(bit(event.Status), bit(event.StatMutes));
+    default:
+        return;
+    }
+}
+
+void clsBlnDataSource::m_Srv_Connected(const std::string& netName, std::int32_t status)
+{
+    if (!IsConnectedStatus(status) || netName != Site()) {
+        return;
+    }
+    const std::int32_t type = BlnDataType();
+    if (type != watch::primaryPath && type != watch::backupPath) {
+        return;
+    }
+    // Never false: a site that moves to its other path leaves the first one's element on until it disconnects.
+    if (m_live.TheServer().Sites().Item(Site()).UsingBackup() == (type == watch::backupPath)) {
+        SetValue(true, false);
+    }
+}
+
+void clsBlnDataSource::m_Srv_Disconnected(const std::string& netName, std::int32_t /*reason*/)
+{
+    if (BlnDataType() == watch::anyAlarms) {
+        SetValue(OtherSiteAlarms(netName), false);
+    } else if (netName == Site()) {
+        SetValue(false, true);
+    }
+}
+
+bool clsBlnDataSource::OtherSiteAlarms(const std::string& netName) const
+{
+    bool found = false;
+    m_live.TheServer().Sites().ForEach(
+        [&](TeskSite& site) { found = found || (site.NetName() != netName && site.SiteAlarms()); });
+    return found;
+}
+
+void clsBlnDataSource::m_Srv_AlarmFlagChange(const std::string& netName, std::uint8_t unit, bool alarmsPending,
+                                             bool siteAlarms)
+{
+    switch (BlnDataType()) {
+    case watch::siteAlarms:
+        return netName == Site() ? SetValue(siteAlarms, false) : void();
+    case watch::unitAlarms:
+        return IsOf(netName, unit) ? SetValue(alarmsPending, false) : void();
+    case watch::anyAlarms:
+        return SetValue(m_live.TheServer().AppAlarms(), false);
+    default:
+        return;
+    }
+}
+
+void clsBlnDataSource::m_Srv_FlagReport(const FlagReportEvent& event)
+{
+    const bool isHere = IsOf(event.NetName, event.UnitNum);
+    switch (BlnDataType()) {
+    case watch::siteAlarms:
+        return event.NetName == Site() ? SetValue(event.SiteAlarms, false) : void();
+    case watch::unitAlarms:
+        return isHere ? SetValue(event.UnitAlarms, false) : void();
+    case watch::anyAlarms:
+        return SetValue(event.AppAlarms, false);
+    case watch::localMode:
+        return isHere ? SetValue(event.LocalMode, false) : void();
+    case watch::capturesPending:
+        return isHere ? SetValue(event.EventsPending, false) : void();
+    default:
+        return;
+    }
+}
+
+void clsBlnDataSource::m_Srv_MacroStatus(const std::string& netName, std::uint8_t unit, std::uint8_t macro,
+                                         bool running)
+{
+    if (BlnDataType() == watch::macroRunning && IsOf(netName, unit) && macro == Channel()) {
+        SetValue(running, false);
+    }
+}
+
+void clsBlnDataSource::m_Srv_RemoteLocalChange(const std::string& netName, std::uint8_t unit, bool localOnly)
+{
+    if (BlnDataType() == watch::localMode && IsOf(netName, unit)) {
+        SetValue(localOnly, false);
+    }
 }
 
 } // namespace quor

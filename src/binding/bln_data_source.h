@@ -3,31 +3,75 @@
 
 #include "base/event.h"
 #include "base/property.h"
+#include "binding/router.h"
 #include "document/format/field_walk.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace quor {
 
-class clsBlnDataSource {
+struct Live;
+
+// A value or limit that isn't known.
+inline constexpr float NoData = -10000.0F;
+
+// What BlnDataType says.
+namespace watch {
+inline constexpr std::int32_t nothing = 0;
+inline constexpr std::int32_t belowSecondLower = 1;
+inline constexpr std::int32_t belowFirstLower = 2;
+inline constexpr std::int32_t aboveFirstUpper = 3;
+inline constexpr std::int32_t aboveSecondUpper = 4;
+inline constexpr std::int32_t outsideLimits = 5;
+inline constexpr std::int32_t primaryPath = 6;
+inline constexpr std::int32_t backupPath = 7;
+inline constexpr std::int32_t siteAlarms = 8;
+inline constexpr std::int32_t unitAlarms = 9;
+inline constexpr std::int32_t anyAlarms = 10;
+inline constexpr std::int32_t commandA = 11;
+inline constexpr std::int32_t commandB = 12;
+inline constexpr std::int32_t meterMute = 13;
+inline constexpr std::int32_t statusMute = 14;
+inline constexpr std::int32_t localMode = 15;
+inline constexpr std::int32_t capturesPending = 16;
+inline constexpr std::int32_t macroRunning = 17;
+inline constexpr std::int32_t statusOn = 18;
+} // namespace watch
+
+// The element that owns a source hears it first, without a subscription.
+class BlnOwner {
+public:
+    virtual void m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute) = 0;
+    virtual void m_BlnDataSource_LabelData(const std::string& /*strCaptionOn*/, const std::string& /*strCaptionOff*/) {}
+
+protected:
+    ~BlnOwner() = default;
+};
+
+class clsBlnDataSource final : public ServerListener {
 public:
     static constexpr std::string_view name = "BlnDataSource";
 
-    // What is watched: 0 nothing, to 18 a status channel.
     Property<"BlnDataType", std::int32_t> BlnDataType;
     Property<"Unit", std::uint8_t> Unit;
-    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for type 17
+    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for macroRunning
     Property<"Site", std::string> Site;
 
     Event<bool, bool> UpdateBlnData;                         // value, and whether it isn't to be trusted
     Event<const std::string&, const std::string&> LabelData; // captions for on and off
 
+    // Hears the server unless the program is in design mode now.
+    clsBlnDataSource(Live& live, BlnOwner& owner);
+    ~clsBlnDataSource();
+
     // Stores, no more: nothing is worked out anew.
     template <class P> void Set(P clsBlnDataSource::*property, typename P::Value value)
     {
         PropertyAccess::Value(this->*property) = std::move(value);
+        Follow();
     }
 
     bool blnValue() const noexcept { return m_value; }
@@ -41,9 +85,42 @@ public:
     void Fields(FieldWalk& record);
 
 private:
-    void SetValue(bool value, bool mute);
+    void m_Srv_ConfigData(const ConfigDataEvent& event) override;
+    void m_Srv_Connected(const std::string& netName, std::int32_t status) override;
+    void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
+    void m_Srv_RemoteLocalChange(const std::string& netName, std::uint8_t unit, bool localOnly) override;
+    void m_Srv_AlarmFlagChange(const std::string& netName, std::uint8_t unit, bool alarmsPending,
+                               bool siteAlarms) override;
+    void m_Srv_FlagReport(const FlagReportEvent& event) override;
+    void m_Srv_MacroStatus(const std::string& netName, std::uint8_t unit, std::uint8_t macro, bool running) override;
+    void m_Srv_Values(const ValuesEvent& event) override;
 
+    void Follow();
+    bool IsOf(const std::string& netName, std::uint8_t unit) const { return netName == Site() && unit == Unit(); }
+    bool WatchesLimits() const noexcept
+    {
+        return BlnDataType() >= watch::belowSecondLower && BlnDataType() <= watch::outsideLimits;
+    }
+    void SetValue(bool value, bool mute);
+    void Refresh();
+    void Label(const ConfigDataEvent& event);
+    void RaiseUpdate(bool value, bool mute);
+    void RaiseLabel(const std::string& on, const std::string& off);
+    void TakeLimits(const ConfigDataEvent& event);
+    float FirstLimit() const noexcept;
+    bool IsOutside() const noexcept;
+    bool OtherSiteAlarms(const std::string& netName) const;
+
+    Live& m_live;
+    BlnOwner& m_owner;
+    float LimitFirstLower = NoData;
+    float LimitSecondLower = NoData;
+    float LimitFirstUpper = NoData;
+    float LimitSecondUpper = NoData;
+    float LastValue = NoData;
     bool m_value = false;
+    bool HasData = false;
+    bool m_hears; // the server
 };
 
 } // namespace quor

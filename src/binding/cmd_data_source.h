@@ -1,8 +1,9 @@
 #pragma once
-// The click action of an element: what a click does, and where.
+// The click action of an element: what a click does and where, whether it may run now, and why not.
 
 #include "base/event.h"
 #include "base/property.h"
+#include "binding/router.h"
 #include "document/format/field_walk.h"
 
 #include <cstdint>
@@ -11,27 +12,85 @@
 
 namespace quor {
 
-class clsCmdDataSource {
+class TeskUnit;
+struct Live;
+
+// What CmdDataType says.
+namespace actions {
+inline constexpr std::int32_t none = 0;
+inline constexpr std::int32_t commandA = 1;
+inline constexpr std::int32_t commandB = 2;
+inline constexpr std::int32_t runMacro = 3;
+inline constexpr std::int32_t stopMacro = 4;
+inline constexpr std::int32_t stopAllMacros = 5;
+inline constexpr std::int32_t clearSiteAlarms = 6;
+inline constexpr std::int32_t clearUnitAlarms = 7;
+inline constexpr std::int32_t clearAllAlarms = 8;
+inline constexpr std::int32_t openView = 9;
+} // namespace actions
+
+class clsCmdDataSource final : public ServerListener {
 public:
     static constexpr std::string_view name = "ClickAction";
+    static constexpr std::uint8_t ctrlKey = 2; // in the modifiers of a click
 
-    // The action: 0 none, to 9 open a view.
     Property<"CmdDataType", std::int32_t> CmdDataType;
     Property<"Unit", std::uint8_t> Unit;
-    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for the actions 3 and 4
+    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for the macro actions
     Property<"CtrlClick", bool> CtrlClick;     // needs the Ctrl key
-    Property<"Site", std::string> Site;        // for action 9 the path of the view
+    Property<"Site", std::string> Site;        // for openView the path of the view
 
     Event<const std::string&> LabelData; // the caption of the action
     Event<bool> ToggleEnable;            // whether it may run was worked out
+
+    // Hears the server and the login unless the program is in design mode now.
+    explicit clsCmdDataSource(Live& live);
+    ~clsCmdDataSource();
 
     // Stores, no more.
     template <class P> void Set(P clsCmdDataSource::*property, typename P::Value value)
     {
         PropertyAccess::Value(this->*property) = std::move(value);
+        Follow();
     }
 
+    // Takes up the state of the server. A failure ends it silently.
+    void RefreshData();
+
+    // Runs the action, or says why not. `shift` holds the modifier keys of the click. Failures of the server pass.
+    void RunCommand(std::uint8_t shift);
+
+    bool CmdEnabled() const noexcept { return m_enabled; }
+    const std::string& LockReason() const noexcept { return m_lockReason; }
+
     void Fields(FieldWalk& record);
+
+private:
+    void m_Srv_ConfigData(const ConfigDataEvent& event) override;
+    void m_Srv_Connected(const std::string& netName, std::int32_t status) override;
+    void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
+    void m_Srv_RemoteLocalChange(const std::string& netName, std::uint8_t unit, bool localOnly) override;
+    void m_Login_LogOff();
+    void m_Login_LogOn(bool blnSuccess);
+
+    void Follow();
+    void UpdateEnable();
+    void UpdatePrivilege();
+    std::string WorkOutLock() const;
+    void Refresh();
+    void Run();
+    TeskUnit& TheUnit() const;
+
+    Live& m_live;
+    bool LabelsKnown = false;
+    bool m_enabled = false;
+    bool SiteConnected = false;
+    bool SiteRemote = false;
+    bool UserAllowed = false;
+    bool m_hears;
+    std::string m_lockReason;
+    Subscription m_logOff;
+    Subscription m_logOn;
 };
 
 } // namespace quor

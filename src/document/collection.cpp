@@ -7,8 +7,8 @@
 
 namespace quor {
 
-Collection::Collection(const Kind& kind, Canvas& canvas)
-    : m_kind(kind), m_canvas(canvas), m_array(canvas.FindArray(kind.array))
+Collection::Collection(const Kind& kind, Canvas& canvas, Live& live)
+    : m_kind(kind), m_canvas(canvas), m_live(live), m_array(canvas.FindArray(kind.array))
 {
 }
 
@@ -20,7 +20,7 @@ Element& Collection::Add(float top, float left, std::string_view name, bool visi
     const std::int32_t index = m_array->UpperBound() + 1;
     Widget& widget = m_array->Load(index);
     // From here on the element ends the widget when something fails.
-    std::unique_ptr<Element> element = m_kind.makeElement(widget);
+    std::unique_ptr<Element> element = m_kind.makeElement(widget, m_live);
     widget.Set(&Widget::Top, ToSingle(double{top} - m_canvas.ScrollOffsetY()));
     widget.Set(&Widget::Left, ToSingle(double{left} - m_canvas.ScrollOffsetX()));
     widget.Set(&Widget::Visible, visible);

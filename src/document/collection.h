@@ -12,6 +12,7 @@
 namespace quor {
 
 struct Kind;
+struct Live;
 class Canvas;
 class WidgetArray;
 
@@ -23,7 +24,7 @@ public:
     using List = KeyedList<std::unique_ptr<Element>>;
 
     // Of one kind, on the canvas's array for it.
-    Collection(const Kind& kind, Canvas& canvas);
+    Collection(const Kind& kind, Canvas& canvas, Live& live);
 
     // The shared order, given by the document right after creation.
     void SetCtlOrder(std::shared_ptr<ElementOrder> order) { m_order = std::move(order); }
@@ -54,6 +55,7 @@ private:
 
     const Kind& m_kind;
     Canvas& m_canvas;
+    Live& m_live;
     WidgetArray* m_array; // null while the kind doesn't exist
     std::shared_ptr<ElementOrder> m_order;
     List m_list;

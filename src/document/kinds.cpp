@@ -19,7 +19,7 @@ template <class E> constexpr Kind KindOf(std::string_view array, std::string_vie
             prefix,
             caption,
             []() -> std::unique_ptr<Widget> { return E::Prototype(); },
-            [](Widget& widget) -> std::unique_ptr<Element> { return std::make_unique<E>(widget); }};
+            [](Widget& widget, Live& live) -> std::unique_ptr<Element> { return std::make_unique<E>(widget, live); }};
 }
 
 constexpr std::array kinds = {

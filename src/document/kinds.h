@@ -19,7 +19,7 @@ struct Kind {
     std::string_view prefix;  // of default names
     std::string_view caption; // tip of the toolbox button, caption of the tab
     std::unique_ptr<Widget> (*makePrototype)() = nullptr;
-    std::unique_ptr<Element> (*makeElement)(Widget& widget) = nullptr;
+    std::unique_ptr<Element> (*makeElement)(Widget& widget, Live& live) = nullptr;
 
     // Whether this version can make it; the rest of the row stands all the same.
     bool Exists() const noexcept { return makeElement != nullptr; }

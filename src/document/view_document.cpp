@@ -52,7 +52,7 @@ void clsCustView::ClearAll()
         m_order->Clear();
     }
     for (const std::uint8_t type : tableOrder) {
-        m_collections[type] = std::make_unique<Collection>(*FindKind(std::int32_t{type}), m_canvas);
+        m_collections[type] = std::make_unique<Collection>(*FindKind(std::int32_t{type}), m_canvas, m_ports.live);
     }
     m_order = std::make_shared<ElementOrder>();
     for (const std::uint8_t type : tableOrder) {

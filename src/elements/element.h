@@ -17,6 +17,10 @@
 
 namespace quor {
 
+class clsBlnDataSource;
+class clsMtrDataSource;
+struct Live;
+
 // Elements keep view coordinates; the widget's place is that minus what is scrolled.
 struct ScrolledX;
 struct ScrolledY;
@@ -32,7 +36,7 @@ public:
     clsCmdDataSource ClickAction;
 
     // Of the widget: member of an array on a canvas. The element unloads it at its own end.
-    explicit Element(Widget& widget) : m_widget(&widget) {}
+    Element(Widget& widget, Live& live) : ClickAction(live), m_widget(&widget) {}
     virtual ~Element();
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;
@@ -68,8 +72,12 @@ public:
     // The record's fields in their order.
     virtual void Fields(FieldWalk& record) = 0;
 
+    // The source of a status element or a meter; null on others.
+    virtual clsBlnDataSource* StatusSource() noexcept { return nullptr; }
+    virtual clsMtrDataSource* MeterSource() noexcept { return nullptr; }
+
     // Asks the sources for current values.
-    virtual void RefreshData() {}
+    virtual void RefreshData() { ClickAction.RefreshData(); }
 
     // Repaints the widget if it shows what lies behind it.
     virtual void RepaintWhatShowsThrough() {}

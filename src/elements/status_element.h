@@ -6,13 +6,19 @@
 
 namespace quor {
 
-class StatusElement : public Element {
+class StatusElement : public Element, private BlnOwner {
 public:
     clsBlnDataSource BlnDataSource;
 
-    explicit StatusElement(Widget& widget);
+    StatusElement(Widget& widget, Live& live) : Element(widget, live), BlnDataSource(live, *this) {}
 
-    void RefreshData() override { BlnDataSource.RefreshData(); }
+    void RefreshData() override
+    {
+        BlnDataSource.RefreshData();
+        ClickAction.RefreshData();
+    }
+
+    clsBlnDataSource* StatusSource() noexcept final { return &BlnDataSource; }
 
     // The last value shown.
     bool IsOn() const noexcept { return m_value; }
@@ -20,9 +26,6 @@ public:
 protected:
     // The parts with which every status record ends.
     void SourceFields(FieldWalk& record) { record(ClickAction, BlnDataSource); }
-
-    // An update of the source. A step that fails does not keep the next one from its turn.
-    virtual void m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute) = 0;
 
     // True, and kept as the last value, if the value is the first one or another than before.
     bool TakeValue(bool value) noexcept;
@@ -35,7 +38,6 @@ private:
     bool m_value = false;
     bool m_valueShown = false;
     bool m_mute = false;
-    Subscription m_updates;
 };
 
 } // namespace quor

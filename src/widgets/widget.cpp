@@ -37,11 +37,9 @@ void Widget::VisitProperties(PropertyVisitor& visitor) const
     VisitEach(visitor, Left, Top, Width, Height, Visible, Enabled, Tag);
 }
 
-void Widget::Invalidate() const
+void Widget::InvalidateShown() const
 {
-    if (m_canvas != nullptr && Visible()) {
-        m_canvas->Invalidate(Bounds());
-    }
+    m_canvas->Invalidate(Bounds());
 }
 
 void Widget::Repaint()

@@ -93,12 +93,18 @@ protected:
     virtual void Stored(const void* /*property*/) {}
 
     // Says that it must be painted again.
-    void Invalidate() const;
+    void Invalidate() const
+    {
+        if (m_canvas != nullptr && Visible()) {
+            InvalidateShown();
+        }
+    }
 
 private:
     friend class Canvas;
     friend class WidgetArray;
 
+    void InvalidateShown() const;
     void Repaint();
     WidgetTrace* Tracer() const noexcept;
 

@@ -1,3 +1,4 @@
+#include "binding/live.h"
 #include "elements/led_round.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
@@ -32,7 +33,8 @@ private:
 struct ALamp : testing::Test {
     Canvas canvas;
     WidgetArray& lamps = canvas.AddArray("ctlLEDRound", clsLEDRound::Prototype());
-    clsLEDRound led{lamps.Load(1)};
+    Live live{true};
+    clsLEDRound led{lamps.Load(1), live};
     const RoundLed& shown = static_cast<const RoundLed&>(*led.MyControl());
     Journal journal;
 

@@ -1,3 +1,4 @@
+#include "binding/live.h"
 #include "document/collection.h"
 #include "document/format/view_file.h"
 #include "document/kinds.h"
@@ -39,19 +40,20 @@ protected:
 
     const Kind& kind = Kinds()[GetParam()];
     Canvas canvas;
+    Live live;
 };
 
 TEST_P(EverySetting, OfARandomRecordComesBackByteForByte)
 {
     for (unsigned seed = 0; seed < rounds; ++seed) {
-        Collection first(kind, canvas);
+        Collection first(kind, canvas, live);
         first.SetCtlOrder(std::make_shared<ElementOrder>());
         Element& original = first.Add(0, 0, "same name", true);
         FieldFiller filler(seed, true);
         original.Fields(filler);
         const Bytes record = RecordOf(original);
 
-        Collection second(kind, canvas);
+        Collection second(kind, canvas, live);
         second.SetCtlOrder(std::make_shared<ElementOrder>());
         Element& copy = second.Add(5, 5, "same name", false);
         copy.ReadFromArray(std::span(record).subspan(view_file::frameSize));
@@ -63,7 +65,7 @@ TEST_P(EverySetting, IsShownByTheWidgetAndTakenFromIt)
 {
     canvas.ScrollTo(150, 300);
     for (unsigned seed = 0; seed < rounds; ++seed) {
-        Collection collection(kind, canvas);
+        Collection collection(kind, canvas, live);
         collection.SetCtlOrder(std::make_shared<ElementOrder>());
         Element& original = collection.Add(0, 0, "same name", true);
         FieldFiller filler(seed, false);
@@ -71,7 +73,7 @@ TEST_P(EverySetting, IsShownByTheWidgetAndTakenFromIt)
         original.WriteControlProps();
 
         WidgetArray likeIt(canvas, std::string(kind.array), original.MyControl()->Clone());
-        const std::unique_ptr<Element> second = kind.makeElement(likeIt.Load(1));
+        const std::unique_ptr<Element> second = kind.makeElement(likeIt.Load(1), live);
         second->Set(&Element::ObjName, "same name");
         second->ReadControlProps();
         EXPECT_EQ(RecordOf(*second), RecordOf(original));

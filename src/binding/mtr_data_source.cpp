@@ -1,0 +1,82 @@
+#include "binding/mtr_data_source.h"
+
+#include "base/guard.h"
+#include "binding/bln_data_source.h"
+#include "binding/live.h"
+#include "binding/masks.h"
+#include "binding/server.h"
+
+namespace quor {
+
+namespace {
+
+// The counts of a 12-bit converter: signed for a meter that reads both ways, else unsigned.
+constexpr std::uint8_t bothWays = 1;
+constexpr float leastSigned = -2048;
+constexpr float mostSigned = 2047;
+constexpr float mostUnsigned = 4095;
+
+} // namespace
+
+clsMtrDataSource::clsMtrDataSource(Live& live) : m_live(live), m_hears(!live.DesignMode && live.Server != nullptr)
+{
+    Follow();
+}
+
+clsMtrDataSource::~clsMtrDataSource() = default;
+
+void clsMtrDataSource::Fields(FieldWalk& record)
+{
+    record(Unit, Channel, DecimalPlaces, Site);
+    Follow();
+}
+
+void clsMtrDataSource::Follow()
+{
+    if (m_hears) {
+        m_live.Routes.FollowUnit(*m_live.Server, *this, Site(), Unit());
+    }
+}
+
+void clsMtrDataSource::RefreshData()
+{
+    if (HasData) {
+        return;
+    }
+    if (!IgnoreFailure([&] { m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig(); })) {
+        IgnoreFailure([&] { UpdateMtrData.Raise(NoData, true); });
+    }
+}
+
+void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
+{
+    if (event.NetName != Site() || event.UnitNum != Unit()) {
+        return;
+    }
+    const std::int32_t index = Channel() - 1;
+    const float count = event.CalibConst.FromLower(index);
+    const bool isSigned = event.MtrTypes.FromLower(index) == bothWays;
+    const auto limit = [&](std::int32_t row) { return event.Limits.FromLower(index, row); };
+    LabelData.Raise({event.MtrLabels.FromLower(index), isSigned ? count * leastSigned : 0,
+                     count * (isSigned ? mostSigned : mostUnsigned), limit(0), limit(1), limit(2), limit(3)});
+}
+
+void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)
+{
+    if (event.NetName != Site() || event.UnitNum != Unit()) {
+        return;
+    }
+    HasData = true;
+    const bool mute = BitOf(event.MeterMutes, Channel());
+    UpdateMtrData.Raise(event.MeterValues.FromLower(Channel() - 1), mute);
+}
+
+void clsMtrDataSource::m_Srv_Disconnected(const std::string& netName, std::int32_t /*reason*/)
+{
+    if (netName == Site()) {
+        HasData = false;
+        UpdateMtrData.Raise(NoData, true);
+    }
+}
+
+} // namespace quor

@@ -1,0 +1,71 @@
+#pragma once
+// What a meter reads, and the number, scale and limits that come of it.
+
+#include "base/event.h"
+#include "base/property.h"
+#include "binding/router.h"
+#include "document/format/field_walk.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quor {
+
+struct Live;
+
+// The configuration of a meter channel.
+struct MeterLabel {
+    std::string strLabel;
+    float sngMin = 0;
+    float sngMax = 0;
+    float sngSecondLower = 0;
+    float sngFirstLower = 0;
+    float sngFirstUpper = 0;
+    float sngSecondUpper = 0;
+};
+
+class clsMtrDataSource final : public ServerListener {
+public:
+    static constexpr std::string_view name = "MtrDataSource";
+
+    Property<"Unit", std::uint8_t> Unit;       // 255 while none is chosen
+    Property<"Channel", std::uint8_t> Channel; // from 1
+    Property<"DecimalPlaces", std::int16_t> DecimalPlaces;
+    Property<"Site", std::string> Site;
+
+    Event<float, bool> UpdateMtrData; // the reading, NoData for none, and whether it isn't to be trusted
+    Event<std::int16_t> DecPlacesChanged;
+    Event<const MeterLabel&> LabelData;
+
+    // Hears the server unless the program is in design mode now.
+    explicit clsMtrDataSource(Live& live);
+    ~clsMtrDataSource();
+
+    // Stores; DecimalPlaces raises its event at each set.
+    template <class P> void Set(P clsMtrDataSource::*property, typename P::Value value)
+    {
+        PropertyAccess::Value(this->*property) = std::move(value);
+        if constexpr (P::name == "DecimalPlaces") {
+            DecPlacesChanged.Raise(DecimalPlaces());
+        } else {
+            Follow();
+        }
+    }
+
+    void RefreshData();
+    void Fields(FieldWalk& record);
+
+private:
+    void m_Srv_ConfigData(const ConfigDataEvent& event) override;
+    void m_Srv_Values(const ValuesEvent& event) override;
+    void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
+
+    void Follow();
+
+    Live& m_live;
+    bool HasData = false; // values have come, and the link hasn't been lost since
+    bool m_hears;
+};
+
+} // namespace quor

@@ -1,0 +1,18 @@
+#pragma once
+// Questions about sites and units of the server.
+
+#include <cstdint>
+#include <string>
+
+namespace quor {
+
+class TeskServer;
+
+// The unit's label; "Voice Interface" for 16 without one, else "Unit " and the number. Null stands for no server.
+std::string UnitCaption(TeskServer* server, const std::string& site, std::uint8_t unit);
+
+// Whether the server holds a site of exactly this name, and such a unit of it.
+bool SiteExists(TeskServer* server, const std::string& site);
+bool UnitExists(TeskServer* server, const std::string& site, std::uint8_t unit);
+
+} // namespace quor
