@@ -131,6 +131,7 @@ public:
     clsCustView& View() const noexcept override { return *m_view; }
     Reporter& PageReporter() override { return m_ports.reporter; }
     CommonDialog& dlgProp() override { return m_ports.dlgProp; }
+    Live& PageLive() override { return m_ports.live; }
 
 private:
     enum class CloseState : std::int16_t { Undecided = 0, Agreed = 1, Refused = 2 };

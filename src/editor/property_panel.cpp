@@ -1,5 +1,8 @@
 #include "editor/property_panel.h"
 
+#include "binding/pages/frm_cv_bln_data_source.h"
+#include "binding/pages/frm_cv_cmd_data_source.h"
+#include "binding/pages/frm_cv_mtr_data_source.h"
 #include "forms/bars.h"
 #include "pages/frm_cv_general.h"
 #include "pages/frm_cv_led_round.h"
@@ -25,9 +28,9 @@ template <class P> std::unique_ptr<Page> MakePage(PageHost& host)
 }
 
 constexpr PanelRow panelRows[] = {
-    {"tlViewProps", MakePage<frmCVViewProps>},
-    {"tlLEDRound", MakePage<frmCVLEDRound>},
-    {"tlGeneral", MakePage<frmCVGeneral>},
+    {"tlViewProps", MakePage<frmCVViewProps>},         {"tlLEDRound", MakePage<frmCVLEDRound>},
+    {"tlBlnDataSource", MakePage<frmCVBlnDataSource>}, {"tlMtrDataSource", MakePage<frmCVMtrDataSource>},
+    {"tlCmdDataSource", MakePage<frmCVCmdDataSource>}, {"tlGeneral", MakePage<frmCVGeneral>},
 };
 
 // What a kind shows beside its own tab, the general one and the action, and the pages that are bound to an element of

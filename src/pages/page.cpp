@@ -9,8 +9,6 @@ namespace quor {
 
 namespace {
 
-constexpr std::string_view words = "An error occurred while setting the property value. Please try again.";
-
 // Pixels.
 constexpr int margin = 12;
 constexpr int controlsAt = 116;
@@ -39,10 +37,10 @@ Page::Page(std::string name, PageHost& host) : Form(std::move(name)), m_host(hos
     Set(&Form::Width, panelWidth * twipsPerPixelX);
 }
 
-void Page::Handle(Event<>& event, std::string_view control, Work work)
+void Page::Handle(Event<>& event, std::string_view control, Work work, std::string_view words)
 {
     const RefNumber ref = FindRef(Name(), control.substr(0, control.find('(')));
-    m_subscriptions.push_back(event.Subscribe([this, ref, work = std::move(work)] {
+    m_subscriptions.push_back(event.Subscribe([this, ref, words, work = std::move(work)] {
         if (ref.number == 0) {
             IgnoreFailure(work);
         } else {
@@ -89,6 +87,17 @@ void Page::Line(std::string_view caption, std::vector<LayoutItem> items)
         line.items.insert(line.items.begin(), {.control = &CaptionOf(caption), .x = margin});
     }
     m_lines.push_back(std::move(line));
+}
+
+void Page::CaptionedLine(Label& caption, Control& control)
+{
+    Line("",
+         {{.control = &caption, .x = margin}, {.control = &control, .x = controlsAt, .width = LayoutItem::filling}});
+}
+
+Label& Page::LastCaption() const
+{
+    return On<Label>("lblViewProps(" + std::to_string(m_captions - 1) + ")");
 }
 
 void Page::BoxLine(CheckBox& box)
@@ -163,6 +172,13 @@ OptionArray& Page::MakeOptions(std::string_view name, std::vector<std::string> c
     m_lines.push_back(
         {.height = boxPitch, .items = {{.control = &options, .x = controlsAt, .width = LayoutItem::filling}}});
     return options;
+}
+
+OptionArray& Page::FramedOptions(std::string frame, std::string caption, std::string_view name,
+                                 std::vector<std::string> captions)
+{
+    FrameLine(std::move(frame), std::move(caption));
+    return MakeOptions(name, std::move(captions));
 }
 
 void Page::BrowseColor(std::string_view swatch, std::string_view button, std::function<void(Color)> write)

@@ -33,8 +33,11 @@ protected:
 
     using Work = std::function<void()>;
 
+    static constexpr std::string_view settingWords =
+        "An error occurred while setting the property value. Please try again.";
+
     // What runs at a control's event: a failure is reported under the control's number, or forgotten if it has none.
-    void Handle(Event<>& event, std::string_view control, Work work);
+    void Handle(Event<>& event, std::string_view control, Work work, std::string_view words = settingWords);
 
     // What SetOwner does for a control, in the order of the rows or in that of ReadOrder, which leaves out what it
     // doesn't name.
@@ -45,6 +48,9 @@ protected:
     // The parts of a line.
     Label& CaptionOf(std::string_view caption);
     void Line(std::string_view caption, std::vector<LayoutItem> items);
+    void CaptionedLine(Label& caption, Control& control);
+    // The caption of the last line that has one.
+    Label& LastCaption() const;
     void BoxLine(CheckBox& box);
     void FrameLine(std::string name, std::string caption);
     // When all lines are there.
@@ -60,6 +66,9 @@ protected:
     Swatch& MakeSwatch(std::string_view name, std::string_view button, std::string_view caption,
                        std::string_view box = {});
     OptionArray& MakeOptions(std::string_view name, std::vector<std::string> captions);
+
+    OptionArray& FramedOptions(std::string frame, std::string caption, std::string_view name,
+                               std::vector<std::string> captions);
 
     // A click on the swatch is one on its button, where that is enabled.
     void BrowseColor(std::string_view swatch, std::string_view button, std::function<void(Color)> write);

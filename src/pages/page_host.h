@@ -9,6 +9,7 @@ class CommonDialog;
 class Reporter;
 class Widget;
 class clsCustView;
+struct Live;
 
 class PageHost {
 public:
@@ -16,6 +17,7 @@ public:
 
     virtual Reporter& PageReporter() = 0;
     virtual CommonDialog& dlgProp() = 0;
+    virtual Live& PageLive() = 0;                   // the server and its catalogue
     virtual clsCustView& View() const noexcept = 0; // the document at this moment
 
     // The selected widget; null for none.

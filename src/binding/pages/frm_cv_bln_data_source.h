@@ -1,0 +1,42 @@
+#pragma once
+// The page "Status Data": what a status element watches, and the status that it shows in the designer.
+
+#include "binding/bln_data_source.h"
+#include "binding/pages/source_page.h"
+
+namespace quor {
+
+class frmCVBlnDataSource final : public SourcePage {
+public:
+    explicit frmCVBlnDataSource(PageHost& host);
+
+    void SetOwner(Element& element, std::string_view array) override;
+    void ClearOwner() override { m_hasOwner = false; }
+
+private:
+    void FillLists();
+    void ShowSource();
+    void ShowChannel(std::int32_t dataType, std::int32_t channelIndex);
+    void cboDataType_Click();
+    void cboSite_Click();
+    void cboUnit_Click();
+    void cboChan_Click();
+    void cboLimitType_Click();
+    void cboMacro_Click();
+    void optTmpStatus_Click();
+    void WriteAlarmUnit();
+    void WritePlace();
+    clsBlnDataSource& Source() const;
+
+    ListBox& cboDataType;
+    ListBox& cboSite;
+    ListBox& cboUnit;
+    ListBox& cboChan;
+    ListBox& cboLimitType;
+    ListBox& cboMacro;
+    OptionArray& optTmpStatus;
+    clsBlnDataSource* m_source = nullptr;
+    bool m_hasOwner = false;
+};
+
+} // namespace quor

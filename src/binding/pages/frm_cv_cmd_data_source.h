@@ -1,0 +1,37 @@
+#pragma once
+// The page "Action": what a click on the element does.
+
+#include "binding/cmd_data_source.h"
+#include "binding/pages/source_page.h"
+
+namespace quor {
+
+class frmCVCmdDataSource final : public SourcePage {
+public:
+    explicit frmCVCmdDataSource(PageHost& host);
+
+    void SetOwner(Element& element, std::string_view array) override;
+    void ClearOwner() override { m_hasOwner = false; }
+
+private:
+    void FillLists();
+    void ShowSource();
+    void cboAction_Click();
+    void cboSite_Click();
+    void cboUnit_Click();
+    void cboChannel_Click();
+    void cmdBrwsViews_Click();
+    clsCmdDataSource& Source() const;
+
+    ListBox& cboAction;
+    ListBox& cboSite;
+    ListBox& cboUnit;
+    ListBox& cboChannel;
+    Label& lblChannel;
+    TextBox& txtCustView;
+    CheckBox& chkCtrlClick;
+    clsCmdDataSource* m_source = nullptr;
+    bool m_hasOwner = false;
+};
+
+} // namespace quor
