@@ -22,18 +22,20 @@ struct ThePanel : EditorFixture {
 
 TEST_F(ThePanel, BindsThePagesOfTheSelectionInTheirOrder)
 {
+    const std::string cleared = "ClearOwner frmCVGeneral\nClearOwner frmCVLEDRound\nClearOwner frmCVCmdDataSource\n"
+                                "ClearOwner frmCVMtrDataSource\nClearOwner frmCVBlnDataSource\n";
     EXPECT_EQ(Tabs(), "Custom View Settings|Custom View Settings");
     calls.clear();
     const auto& led = Insert<clsLEDRound>();
-    EXPECT_EQ(Tabs(), "General|LED (Round)|General");
-    EXPECT_EQ(calls, "ClearOwner frmCVGeneral\nClearOwner frmCVLEDRound\nSetOwner frmCVGeneral *\n"
-                     "SetOwner frmCVLEDRound *\n");
+    EXPECT_EQ(Tabs(), "General|LED (Round)|Status Data|Action|General");
+    EXPECT_EQ(calls, cleared + "SetOwner frmCVGeneral *\nSetOwner frmCVLEDRound *\nSetOwner frmCVCmdDataSource *\n"
+                               "SetOwner frmCVBlnDataSource *\n");
     calls.clear();
     Select(led);
     EXPECT_EQ(calls, "ClearOwner frmCVGeneral\nSetOwner frmCVGeneral *\n") << "the same element refreshes one page";
     calls.clear();
     main.ReleaseControl();
-    EXPECT_EQ(calls, "ClearOwner frmCVGeneral\nClearOwner frmCVLEDRound\nSetProps frmCVViewProps\n");
+    EXPECT_EQ(calls, cleared + "SetProps frmCVViewProps\n");
     EXPECT_EQ(Tabs(), "Custom View Settings|Custom View Settings");
 }
 

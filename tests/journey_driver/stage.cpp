@@ -179,7 +179,7 @@ void Stage::Start(const std::string& tail)
     if (m_application != nullptr || m_liveView != nullptr) {
         throw JourneyError("the program runs already");
     }
-    m_live = {};
+    m_live.DesignMode = false;
     m_endIsTold = false;
     m_selected.clear();
     const EditorPorts ports{files,    boxes, dialog,     forms,      timers, screen, pictures,
@@ -224,7 +224,7 @@ void Stage::OpenLive(const std::string& path)
     if (m_application != nullptr) {
         throw JourneyError("the editor runs already");
     }
-    m_live = {};
+    m_live.DesignMode = false;
     const ViewPorts ports{files, boxes, m_reporter, forms, timers, pictures, m_progress, m_live};
     m_liveView = std::make_unique<LoneView>(ports, m_tracer.get(), path);
 }

@@ -148,7 +148,7 @@ void PrintFile(Stage& stage, const Arguments& arguments)
     FakePictures pictures(files);
     Silence reporter;
     frmViewPBar progress(forms);
-    Live live{.DesignMode = true};
+    Live live{true};
     LoneView lone(ViewPorts{files, boxes, reporter, forms, timers, pictures, progress, live}, nullptr, path);
     if (lone.View().Verdict() == LoadVerdict::Ok) {
         for (const std::string& line : SplitLines(JsonText(ViewToJson(lone.View())))) {

@@ -150,11 +150,11 @@ TEST_F(ThePanel, ShowsTheTabsOfTheSelectionAndKeepsEachPage)
     EXPECT_EQ(shown(), "Custom View Settings* ");
     const auto& first = Insert<clsLEDRound>();
     Settle();
-    EXPECT_EQ(shown(), "General* LED (Round) ");
+    EXPECT_EQ(shown(), "General* LED (Round) Status Data Action ");
     EXPECT_EQ(window->findChild<QWidget*>("frmCVLEDRound"), nullptr); // not before it is first shown
     QTest::mouseClick(&Find("LED (Round)"), Qt::LeftButton);
     Settle();
-    EXPECT_EQ(shown(), "General LED (Round)* ");
+    EXPECT_EQ(shown(), "General LED (Round)* Status Data Action ");
     const QWidget& page = Find("frmCVLEDRound");
     EXPECT_TRUE(page.isVisible());
     main.ReleaseControl();
