@@ -2,14 +2,16 @@
 
 #include "apps/editor/program.h"
 #include "editor/main_form.h"
-#include "qt/canvas/canvas_view.h"
+#include "qt/ports/qt_common_dialog.h"
 #include "qt/window/main_window.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -32,6 +34,38 @@ void SelectAWidget(Program& program)
     }
 }
 
+// The dialog that the action opens, which is given up then.
+void KeepDialog(const QString& path, const std::function<void()>& action)
+{
+    QTimer::singleShot(400, [path] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            dialog->grab().save(path);
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        }
+    });
+    action();
+    QTest::qWait(50);
+}
+
+void KeepAll(Program& program, const QString& path)
+{
+    frmMain& main = *program.MainForm();
+    Keep(program, path + "window.png");
+    KeepDialog(path + "open.png", [&] {
+        QtCommonDialog dialog;
+        dialog.Filter = "Quor Custom Views (*.qvw)|*.qvw";
+        dialog.ShowOpen();
+    });
+    KeepDialog(path + "question.png", [&] { main.QuerySave(); });
+    KeepDialog(path + "error.png", [&] {
+        main.ReleaseControl();
+        main.RequestDelete();
+        QTest::qWait(600);
+    });
+    KeepDialog(path + "color.png", [] { QtCommonDialog().ShowColor(); });
+    KeepDialog(path + "font.png", [] { QtCommonDialog().ShowFont(); });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -51,10 +85,12 @@ int main(int argc, char** argv)
         return 1;
     }
     program.Window()->resize(1366, 768);
+    program.MainForm()->InsertElement(3);
     SelectAWidget(program);
-    Keep(program, folder + "/light.png");
+    KeepAll(program, folder + "/light_");
+    SelectAWidget(program);
     program.Looks().UseColors(DarkColors());
-    Keep(program, folder + "/dark.png");
+    KeepAll(program, folder + "/dark_");
     program.EndSession();
     return 0;
 }

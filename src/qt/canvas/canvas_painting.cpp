@@ -88,10 +88,38 @@ void PaintGrid(QPainter& painter, const Canvas& canvas, const QRectF& dirty)
     PaintGridLines(painter, dirty, Qt::Vertical, grid.stepX, grid.width, grid.height, origin);
 }
 
-void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRegion& region, const CanvasLook& look)
+void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area)
 {
-    const Widget* first = canvas.Back();
-    for (const Widget* widget = first; widget != nullptr; widget = widget->Above()) {
+    const WidgetPainter paint = PainterFor(widget.Name());
+    if (paint != nullptr) {
+        paint(painter, widget, area);
+    }
+    if (paint == nullptr || PaintsNothing(widget)) {
+        DrawGhost(painter, area);
+    }
+}
+
+// As one picture, so that what lies under a part of the widget doesn't show through it.
+void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, const QRect& visible)
+{
+    const QRect part = area.toAlignedRect().adjusted(-1, -1, 1, 1).intersected(visible);
+    const qreal scale = painter.device()->devicePixelRatioF();
+    QImage picture((QSizeF(part.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter inner(&picture);
+    inner.translate(-part.topLeft());
+    PaintWidget(inner, widget, area);
+    inner.end();
+    painter.setOpacity(movedOpacity);
+    painter.drawImage(part.topLeft(), picture);
+    painter.setOpacity(1);
+}
+
+void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& view, const QRegion& region,
+                  const CanvasLook& look)
+{
+    for (const Widget* widget = canvas.Back(); widget != nullptr; widget = widget->Above()) {
         if (!widget->Visible()) {
             continue;
         }
@@ -99,16 +127,12 @@ void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRegion& region
         if (!IsPaintable(area) || !region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
             continue;
         }
-        painter.setOpacity(widget == look.faded ? movedOpacity : 1);
-        const WidgetPainter paint = PainterFor(widget->Name());
-        if (paint != nullptr) {
-            paint(painter, *widget, area);
-        }
-        if (paint == nullptr || PaintsNothing(*widget)) {
-            DrawGhost(painter, area);
+        if (widget == look.faded) {
+            PaintFaded(painter, *widget, area, view);
+        } else {
+            PaintWidget(painter, *widget, area);
         }
     }
-    painter.setOpacity(1);
 }
 
 } // namespace
@@ -119,7 +143,7 @@ void PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, con
     const QRect dirty = region.boundingRect();
     PaintGround(painter, canvas, view, dirty);
     PaintGrid(painter, canvas, dirty);
-    PaintWidgets(painter, canvas, region, look);
+    PaintWidgets(painter, canvas, QRect(QPoint(0, 0), view), region, look);
     DrawSelection(painter, canvas);
 }
 

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace quor {
 
@@ -28,6 +29,12 @@ constexpr std::int16_t deleteKey = 46;
 float Twips(qreal pixels)
 {
     return static_cast<float>(pixels) * twipsPerPixelX;
+}
+
+// The pixel that the pointer is on: places are whole pixels at any scale factor.
+QPointF WholePixel(const QPointF& position)
+{
+    return {std::floor(position.x()), std::floor(position.y())};
 }
 
 MouseButton ButtonOf(Qt::MouseButton button)
@@ -179,7 +186,7 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
         return;
     }
     m_held = event->button();
-    m_pressedAt = m_pointer = event->position();
+    m_pressedAt = m_pointer = WholePixel(event->position());
     m_pressed = TargetAt(m_pressedAt);
     m_main.Press(m_pressed, ButtonOf(m_held), Twips(m_pressedAt.x()) - m_pressed.left,
                  Twips(m_pressedAt.y()) - m_pressed.top);
@@ -187,7 +194,7 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF position = event->position();
+    const QPointF position = WholePixel(event->position());
     if (m_main.IsSizing()) {
         m_pointer = position;
         m_main.SizeBy(Twips(position.x() - m_pressedAt.x()), Twips(position.y() - m_pressedAt.y()));
@@ -205,7 +212,7 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     m_held = Qt::NoButton;
-    const QPointF position = event->position();
+    const QPointF position = WholePixel(event->position());
     const CanvasTarget target = TargetAt(position);
     const float x = Twips(position.x()) - target.left;
     const float y = Twips(position.y()) - target.top;
@@ -229,14 +236,14 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
 
 void CanvasView::TrackDrag(const QPointF& global)
 {
-    const QPointF position = viewport()->mapFromGlobal(global);
+    const QPointF position = WholePixel(viewport()->mapFromGlobal(global));
     const bool isOver = m_main.IsDragging() && IsInside(position);
     ShowOutline(isOver ? m_main.OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt, position);
 }
 
 void CanvasView::EndDrag(const QPointF& global)
 {
-    const QPointF position = viewport()->mapFromGlobal(global);
+    const QPointF position = WholePixel(viewport()->mapFromGlobal(global));
     if (!m_main.IsDragging()) {
         return;
     }

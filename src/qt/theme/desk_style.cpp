@@ -1,5 +1,6 @@
 #include "qt/theme/desk_style.h"
 
+#include "qt/theme/signs.h"
 #include "qt/theme/style_parts.h"
 #include "qt/theme/theme_colors.h"
 
@@ -102,6 +103,7 @@ void DeskStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (qobject_cast<QDialog*>(widget) != nullptr && !widget->testAttribute(Qt::WA_SetPalette)) {
         widget->setBackgroundRole(QPalette::Light);
+        widget->setAutoFillBackground(true);
     }
     if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr ||
         qobject_cast<QScrollBar*>(widget) != nullptr) {
@@ -248,6 +250,8 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return 4;
     case PM_MenuBarVMargin:
         return 2;
+    case PM_MessageBoxIconSize:
+        return 32;
     case PM_ToolBarItemSpacing:
         return 2;
     case PM_ToolBarItemMargin:
@@ -278,6 +282,22 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return 1;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_MessageBoxInformation:
+        return SignIcon(SignKind::Information, m_colors);
+    case SP_MessageBoxQuestion:
+        return SignIcon(SignKind::Question, m_colors);
+    case SP_MessageBoxWarning:
+        return SignIcon(SignKind::Warning, m_colors);
+    case SP_MessageBoxCritical:
+        return SignIcon(SignKind::Error, m_colors);
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
     }
 }
 

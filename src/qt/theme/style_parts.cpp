@@ -24,22 +24,23 @@ QRectF Snapped(const QPainter& painter, const QRectF& area)
     return transform.inverted().mapRect(QRectF(first, last));
 }
 
+// Shapes are filled, never stroked: the corners of a stroke aren't sharp.
 void DrawBox(QPainter& painter, const QRectF& area, qreal radius, const QColor& ground, const QColor& edge)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QRectF box = Snapped(painter, area);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::NoBrush);
+    const QRectF box = Snapped(painter, area);
+    QPainterPath shape;
+    shape.addRoundedRect(box, radius, radius);
+    if (ground.isValid()) {
+        painter.fillPath(shape, ground);
+    }
     if (edge.isValid()) {
         const qreal width = HairWidth(painter);
-        painter.setPen(QPen(edge, width));
-        box.adjust(width / 2, width / 2, -width / 2, -width / 2);
+        const qreal inner = std::max<qreal>(0, radius - width);
+        shape.addRoundedRect(box.adjusted(width, width, -width, -width), inner, inner);
+        painter.fillPath(shape, edge);
     }
-    if (ground.isValid()) {
-        painter.setBrush(ground);
-    }
-    painter.drawRoundedRect(box, radius, radius);
     painter.restore();
 }
 

@@ -99,6 +99,7 @@ void MainWindow::AddToolBar(Band& band)
             bar->addAction(&m_actions.ActionFor(place));
         }
     }
+    bar->setContentsMargins(4, 0, 4, 0);
     addToolBar(bar);
     bar->setVisible(band.Visible());
     m_subscriptions.push_back(band.Changed.Subscribe([bar, &band] { bar->setVisible(band.Visible()); }));
