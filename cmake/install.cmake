@@ -9,6 +9,7 @@ endforeach()
 
 if(TARGET quor-view-editor)
   set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable)
+  install(DIRECTORY data/help DESTINATION ${CMAKE_INSTALL_DATADIR}/quor-view-editor)
   install(FILES data/quor-view-editor.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES data/quor-view.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
   install(FILES data/icons/application.svg DESTINATION ${icons}/apps RENAME quor-view-editor.svg)

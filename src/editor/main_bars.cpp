@@ -3,8 +3,23 @@
 #include "base/guard.h"
 #include "editor/main_form.h"
 #include "editor/tools.h"
+#include "platform/files.h"
+#include "platform/settings.h"
 
 namespace quor {
+
+namespace {
+
+constexpr std::string_view defaultLayoutFile = "td_cvedit_def_2.dat";
+constexpr std::string_view userLayoutFile = "tb_cvedit_user.dat";
+constexpr std::string_view usageFile = "tb_cvedit_usage.dat";
+
+std::string PathIn(const std::string& folder, std::string_view file)
+{
+    return folder + (folder.ends_with('/') ? "" : "/") + std::string(file);
+}
+
+} // namespace
 
 void frmMain::BindBars()
 {
@@ -52,6 +67,43 @@ void frmMain::ToggleBand(std::string_view tool, std::string_view band)
     // The checked state follows from the band's own event.
     m_bars->BandOf(band).Set(&Band::Visible, !m_bars->Tool(tool).Checked());
     m_bars->RecalcLayout();
+}
+
+void frmMain::LoadToolbarLayout()
+{
+    // The bars can do without their files: what can't be read leaves them as they are built in.
+    const auto load = [&](const auto& body) {
+        return GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"),
+                          "Unable to load the layout of the toolbars.", body);
+    };
+    Files& files = m_ports.files;
+    const std::string folder = m_ports.settings.ToolbarDirectory();
+    if (folder.empty()) {
+        return; // nowhere to keep them
+    }
+    load([&] {
+        const std::string standard = PathIn(folder, defaultLayoutFile);
+        const std::string own = PathIn(folder, userLayoutFile);
+        if (!files.FileExists(standard)) {
+            SaveLayout(*m_bars, files, standard);
+        } else if (!files.FileExists(own)) {
+            LoadLayout(*m_bars, files, standard);
+        } else {
+            load([&] { LoadLayout(*m_bars, files, own); });
+            if (files.FileExists(PathIn(folder, usageFile))) {
+                LoadUsage(*m_bars, files, PathIn(folder, usageFile));
+            }
+        }
+    });
+}
+
+void frmMain::SaveToolbarLayout()
+{
+    const std::string folder = m_ports.settings.ToolbarDirectory();
+    if (!folder.empty()) {
+        SaveLayout(*m_bars, m_ports.files, PathIn(folder, userLayoutFile));
+        SaveUsage(*m_bars, m_ports.files, PathIn(folder, usageFile));
+    }
 }
 
 } // namespace quor

@@ -5,6 +5,7 @@
 #include "editor/editor_ports.h"
 #include "editor/frm_view_toolbox.h"
 #include "editor/mouse.h"
+#include "forms/bars_layout.h"
 #include "pages/page_host.h"
 #include "support/grid_host.h"
 #include "widgets/canvas.h"
@@ -120,6 +121,15 @@ public:
 
     // The bars (main_bars.cpp).
     void ToggleBand(std::string_view tool, std::string_view band);
+    // The bars as they were left: the user's file if there is one, else the default, which the first start makes.
+    void LoadToolbarLayout();
+    void SaveToolbarLayout();
+
+    // The dialogs behind the bars (main_dialogs.cpp).
+    void ShowCustomize();
+    void ShowOptions();
+    void ShowContents();
+    void ShowAbout();
 
     // Does nothing: a view can't be loaded into another.
     void LoadCustomView(const std::string& name);
@@ -189,6 +199,7 @@ private:
     EditorPorts m_ports;
     Canvas m_canvas;
     std::unique_ptr<Bars> m_bars;
+    const BarsLayout m_builtInLayout;
     std::unique_ptr<frmViewToolbox> m_toolbox;
     std::unique_ptr<clsCustView> m_view;
     std::unique_ptr<PropertyPanel> m_panel;

@@ -30,8 +30,8 @@ std::string TitleWords(std::string_view before, std::string_view after)
 } // namespace
 
 frmMain::frmMain(const EditorPorts& ports)
-    : m_ports(ports), m_bars(MakeEditorBars()), m_toolbox(std::make_unique<frmViewToolbox>(ports.reporter, *this)),
-      tmrDelControl(ports.timers.Make())
+    : m_ports(ports), m_bars(MakeEditorBars()), m_builtInLayout(LayoutOf(*m_bars)),
+      m_toolbox(std::make_unique<frmViewToolbox>(ports.reporter, *this)), tmrDelControl(ports.timers.Make())
 {
     AddWidgetArrays(m_canvas);
     m_view = MakeView();
@@ -59,7 +59,9 @@ void frmMain::Form_Load(const std::string& tail)
         m_gridSize = Narrow<std::int16_t>(m_ports.settings.GridSize());
         m_ports.live.DesignMode = true;
         LoadGrid();
+        LoadToolbarLayout();
         m_bars->Set(&Bars::ClientArea, "ssScroll");
+        m_panel->BindPanels();
         LoadSettings();
         m_bars->RecalcLayout();
         m_view->Set(&clsCustView::BGColor, m_canvas.BackColor());
@@ -145,8 +147,13 @@ bool frmMain::CloseThroughBar()
 
 void frmMain::Form_Unload()
 {
-    Guard(m_ports.reporter, Ref("frmMain.Form_Unload"), TitleWords("An error occurred while closing ", "."), [&] {
-        m_unloading = true;
+    const auto guarded = [&](const auto& body) {
+        Guard(m_ports.reporter, Ref("frmMain.Form_Unload"), TitleWords("An error occurred while closing ", "."), body);
+    };
+    m_unloading = true;
+    // Bars that can't be kept don't keep the program from ending.
+    guarded([&] { SaveToolbarLayout(); });
+    guarded([&] {
         tmrDelControl->SetEnabled(false);
         CancelDrag();
         m_selected = nullptr;

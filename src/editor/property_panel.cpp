@@ -65,10 +65,12 @@ constexpr std::string_view clearOrder =
 
 } // namespace
 
-PropertyPanel::PropertyPanel(Bars& bars, PageHost& host) : m_bars(bars)
+PropertyPanel::PropertyPanel(Bars& bars, PageHost& host) : m_bars(bars), m_host(host) {}
+
+void PropertyPanel::BindPanels()
 {
     for (const PanelRow& row : panelRows) {
-        m_pages.push_back(row.make(host));
+        m_pages.push_back(row.make(m_host));
         m_pages.back()->Load();
         m_bars.Tool(row.tool).Set(&BarTool::HostedForm, m_pages.back().get());
     }
@@ -113,7 +115,7 @@ void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, b
         if (reload && row != std::end(kindPages)) {
             Bind(row->pages, *element, name);
         }
-    } else if (reload && isView) {
+    } else if (reload && isView && m_viewPage != nullptr) {
         Called.Raise({"SetProps", m_viewPage->Name(), {}});
         m_viewPage->SetProps();
     }

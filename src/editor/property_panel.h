@@ -28,12 +28,14 @@ public:
     static constexpr std::string_view viewBand = "prpViewProps";
     static constexpr std::string_view generalBand = "prpGeneral";
 
-    // Makes the pages and puts each into its tool.
     PropertyPanel(Bars& bars, PageHost& host);
     ~PropertyPanel();
 
     Event<const PageCall&> Called;
     Event<> TabsSet;
+
+    // Makes the pages and puts each into its tool. There is no page before.
+    void BindPanels();
 
     void HidePropertyPages();
 
@@ -51,6 +53,7 @@ private:
     void Bind(std::string_view pages, Element& element, std::string_view array);
 
     Bars& m_bars;
+    PageHost& m_host;
     std::vector<std::unique_ptr<Page>> m_pages;
     frmCVViewProps* m_viewPage = nullptr;
 };

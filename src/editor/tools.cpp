@@ -25,6 +25,8 @@ constexpr EditorTool toolRows[] = {
     {{45, "miEdit", "&Edit", "", "Menus", Enabled, "", "bndEdit"}},
     {{50, "miView", "&View", "", "Menus", Enabled, "", "bndView"}},
     {{56, "miFormat", "F&ormat", "", "Menus", Enabled, "", "bndFormat"}},
+    {{61, "miTools", "&Tools", "", "Menus", Enabled, "", "bndTools"}},
+    {{46, "miHelp", "&Help", "", "Menus", Enabled, "", "bndHelp"}},
     {{2, "tlToolbox", "Toolbox", "", "Panels"}},
     {{3, "lblSelectedControl", "", "", "Panels"}},
     {{20, "tlGeneral", "General", "", pageCategory}},
@@ -81,19 +83,26 @@ constexpr EditorTool toolRows[] = {
     {{43, insertTools[8], "Command Button", "", "Tools"}, Insert<8>},
     {{40, insertTools[9], "Picture", "", "Tools"}, Insert<9>},
     {{39, insertTools[10], "Label", "", "Tools"}, Insert<10>},
+
+    {{60, "miCustomize", "&Customize...", "Customize", "ToolMenu"}, [](frmMain& main) { main.ShowCustomize(); }},
+    {{59, "miOptions", "&Options...", "Options", "ToolMenu"}, [](frmMain& main) { main.ShowOptions(); }},
+    {{27, "miContents", "Custom View &Help", "", "Help", Enabled, "F1"}, [](frmMain& main) { main.ShowContents(); }},
+    {{26, "miAbout", "&About Custom View Editor", "", "Help"}, [](frmMain& main) { main.ShowAbout(); }},
 };
 
 constexpr BandRow bandRows[] = {
-    {"bndMenu", "Main Menu", "miFile miEdit miView miFormat", BandKind::MenuBar},
+    {"bndMenu", "Main Menu", "miFile miEdit miView miFormat miTools miHelp", BandKind::MenuBar},
     {"bndFile", "&File", "miNew miOpen tlSep miSave miSaveAs tlSep miExit"},
     {"bndEdit", "Edit", "miCut miCopy miPaste tlSep miInsert tlSep miDelete miClear"},
     {"bndView", "View", "miToolbox miToolProps tlSep miGrid"},
     {"bndFormat", "Format", "miOrder tlSep miAlignToGrid miSizeToGrid tlSep miSnapToGrid"},
+    {"bndTools", "Tools", "miCustomize miOptions"},
+    {"bndHelp", "Help", "miContents tlSep miAbout"},
     {"bndInsert", "Insert", "miMtrText miMtrAngle miMtrLinear tlSep miLEDRound miLEDRect miStatLabel miStatPic tlSep "
                             "miCmdLED miCommand tlSep miPic miLabel"},
     {"bndOrder", "Order", "miBringFront miSendBack"},
     {"bndToolBar", "Toolbar", "miNew miOpen miSave tlSep miCut miCopy miPaste miDelete tlSep miBringFront miSendBack tlSep "
-                              "miToolbox miToolProps miGrid", BandKind::ToolBar},
+                              "miToolbox miToolProps miGrid tlSep miContents", BandKind::ToolBar},
     {"bndToolPopup", "Tool Popup", "miCut miCopy miPaste tlSep miInsert tlSep miBringFront miSendBack tlSep "
                                    "miAlignToGrid miSizeToGrid tlSep miClear miDelete", BandKind::Popup},
     {"bndToolbox", "Toolbox", "tlToolbox", BandKind::Panel},
@@ -139,7 +148,7 @@ std::unique_ptr<Bars> MakeEditorBars()
 {
     auto bars = std::make_unique<Bars>(tables);
     bars->BandOf("bndToolPopup").Tool("miPaste").SetTip("Pate");
-    for (const char* band : {"bndOrder", "bndToolPopup"}) {
+    for (const char* band : {"bndOrder", "bndToolBar", "bndToolPopup"}) {
         bars->BandOf(band).Tool("miBringFront").SetCategory("Edit");
         bars->BandOf(band).Tool("miSendBack").SetCategory("Edit");
     }

@@ -30,6 +30,36 @@ void Band::Set(Property<"Visible", bool> Band::*property, bool visible)
     }
 }
 
+void Band::SetExtent(std::int32_t extent)
+{
+    if (extent < 0 || extent > mostExtent) {
+        throw Failure(failures::invalidPropertyValue);
+    }
+    Write(Extent, extent);
+}
+
+void Band::SetTools(std::span<const std::string> names)
+{
+    std::vector<BarTool*> wanted;
+    for (const std::string& name : names) {
+        wanted.push_back(&m_bars->Tool(name));
+    }
+    std::vector<BandTool> known = std::move(m_removed);
+    known.insert(known.end(), m_tools.begin(), m_tools.end());
+    m_tools.clear();
+    for (BarTool* tool : wanted) {
+        const auto place =
+            std::find_if(known.begin(), known.end(), [&](const BandTool& old) { return &old.Tool() == tool; });
+        m_tools.push_back(place == known.end() ? BandTool(*tool) : *place);
+        if (place != known.end()) {
+            known.erase(place);
+        }
+    }
+    std::erase_if(known, [](const BandTool& old) { return old.Tool().IsSeparator(); });
+    m_removed = std::move(known);
+    Changed.Raise();
+}
+
 BandTool& Band::Tool(std::string_view name)
 {
     const auto found = std::find_if(m_tools.begin(), m_tools.end(),
@@ -55,10 +85,29 @@ void Band::SetCurrentChild(std::string_view name)
     Write(m_current, &Child(name));
 }
 
+std::vector<BarTool*> Bars::Commands() const
+{
+    std::vector<BarTool*> commands;
+    for (const std::unique_ptr<Band>& band : m_bands) {
+        if (band->Kind != BandKind::Menu) {
+            continue;
+        }
+        for (const BandTool& place : band->Tools()) {
+            BarTool* tool = &place.Tool();
+            const bool isNew = std::find(commands.begin(), commands.end(), tool) == commands.end();
+            if (isNew && !tool->IsSeparator() && tool->Opens.empty()) {
+                commands.push_back(tool);
+            }
+        }
+    }
+    return commands;
+}
+
 void Bars::Click(std::string_view name)
 {
-    const BarTool& tool = Tool(name);
+    BarTool& tool = Tool(name);
     if (tool.Enabled() && tool.Visible()) {
+        tool.SetUses(std::max(tool.Uses() + 1, tool.Uses()));
         ToolClick.Raise(tool.Name);
     }
 }

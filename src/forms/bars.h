@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,12 @@ public:
     Property<"HostedForm", Form*> HostedForm{nullptr}; // shown in the tool's place; stays its owner's
 
     bool IsSeparator() const noexcept { return Name == separatorTool; }
+
+    std::uint32_t Uses() const noexcept { return m_uses; } // clicks of the user, over all runs
+    void SetUses(std::uint32_t uses) noexcept { m_uses = uses; }
+
+private:
+    std::uint32_t m_uses = 0;
 };
 
 // A tool's place in a band; it may have words of its own.
@@ -73,8 +80,16 @@ public:
     // But for child bands, Bars::BandOpen or Bars::BandClose follows a change.
     void Set(Property<"Visible", bool> Band::*property, bool visible);
 
+    // Where the user gave it another one: the width of a panel, in pixels; else 0.
+    Property<"Extent", std::int32_t> Extent;
+    static constexpr std::int32_t mostExtent = 16'383;
+    void SetExtent(std::int32_t extent); // 380 out of 0 to mostExtent
+
     const std::vector<BandTool>& Tools() const noexcept { return m_tools; }
     BandTool& Tool(std::string_view name); // 5 if it isn't in this band
+
+    // These in this order instead. A place that goes and comes again keeps its own words. 5 for an unknown name.
+    void SetTools(std::span<const std::string> names);
 
     const std::vector<Band*>& Children() const noexcept { return m_children; }
     Band& Child(std::string_view name) const; // 5 if it isn't a child of this band
@@ -90,6 +105,7 @@ private:
     friend class Bars;
     Bars* m_bars;
     std::vector<BandTool> m_tools;
+    std::vector<BandTool> m_removed;
     std::vector<Band*> m_children;
     Property<"CurrentChild", Band*> m_current{nullptr};
 };
@@ -125,11 +141,14 @@ public:
     BarTool& Tool(std::string_view name) const { return *m_tools.Item(name); }
     Band& BandOf(std::string_view name) const { return *m_bands.Item(name); }
 
+    // What can stand on a toolbar: the tools of the menus that open no menu of their own, in the order of the menus.
+    std::vector<BarTool*> Commands() const;
+
     void RecalcLayout() { Changed.Raise(); }
     void Focus() { Focused.Raise(); }
     void PopupBand(std::string_view name) { Popup.Raise(BandOf(name)); }
 
-    // As the user does: nothing on a tool that is disabled or hidden.
+    // As the user does, which counts as a use: nothing on a tool that is disabled or hidden.
     void Click(std::string_view name);
 
     // True unless a handler of QueryClose cancels.

@@ -4,6 +4,13 @@
 
 namespace quor {
 
+void RequireIndex(std::int32_t index, std::size_t count)
+{
+    if (index < -1 || (index >= 0 && static_cast<std::size_t>(index) >= count)) {
+        throw Failure(failures::invalidPropertyValue);
+    }
+}
+
 void Button::Push()
 {
     if (AcceptsUser()) {

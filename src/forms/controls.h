@@ -10,6 +10,9 @@
 
 namespace quor {
 
+// Fails with 380 unless the index is one of `count` positions from 0, or -1 for none.
+void RequireIndex(std::int32_t index, std::size_t count);
+
 // A control of a form. Forms make and own their controls (Form::Make).
 class Control : public Looks<Control> {
 public:
@@ -35,8 +38,8 @@ public:
     using Looks<Self, Control>::Looks;
 };
 
-// What a label is for decides its type and colour.
-enum class LabelRole { Text, Caption, Message, Heading, Title };
+// What a label is for decides its type and colour. Of a headed one the first line is a heading.
+enum class LabelRole { Text, Caption, Message, Heading, Title, Headed };
 
 class Label final : public ControlOn<Label> {
 public:

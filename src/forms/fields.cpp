@@ -11,13 +11,6 @@ namespace quor {
 
 namespace {
 
-void RequireIndex(std::int32_t index, std::size_t count)
-{
-    if (index < -1 || (index >= 0 && static_cast<std::size_t>(index) >= count)) {
-        throw Failure(failures::invalidPropertyValue);
-    }
-}
-
 bool HoldsDigits(std::string_view text)
 {
     return text.find_first_not_of("0123456789") == std::string_view::npos;

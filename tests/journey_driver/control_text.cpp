@@ -1,6 +1,7 @@
 #include "tests/journey_driver/control_text.h"
 
 #include "forms/fields.h"
+#include "forms/panes.h"
 #include "tests/journey_driver/format.h"
 
 namespace quor {
@@ -22,6 +23,15 @@ std::string ItemsOf(const ListBox& list)
     return text;
 }
 
+std::string ItemsOf(const RowList& list)
+{
+    std::string text = " items";
+    for (const RowList::Row& row : list.Rows()) {
+        text += ' ' + Quoted(row.text);
+    }
+    return text;
+}
+
 // The value of a control of that class, if it is one.
 template <class C, class Value> bool Tell(const Control& control, std::string& text, Value value)
 {
@@ -39,6 +49,7 @@ std::string ValueOf(const Control& control)
     const auto numberOf = [](const auto& told) { return ValueText(told.Value()); };
     (void)(Tell<ListBox>(control, text, [](const ListBox& list) { return ValueText(list.ListIndex()); }) ||
            Tell<CheckBox>(control, text, [](const CheckBox& box) { return std::string(box.Value() ? "1" : "0"); }) ||
+           Tell<RowList>(control, text, [](const RowList& list) { return ValueText(list.Index()); }) ||
            Tell<TextBox>(control, text, [](const TextBox& box) { return Quoted(box.Text()); }) ||
            Tell<NumberField>(control, text, numberOf) || Tell<ProgressBar>(control, text, numberOf) ||
            Tell<Swatch>(
@@ -64,6 +75,8 @@ std::vector<std::string> ControlLines(const Control& control)
     lines.push_back(Line(control, control.Name(), ValueOf(control)));
     if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
         lines.back() += ItemsOf(*list);
+    } else if (const auto* rows = dynamic_cast<const RowList*>(&control)) {
+        lines.back() += ItemsOf(*rows);
     } else if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
         lines.back() += " back " + ValueText(box->BackColor());
     }

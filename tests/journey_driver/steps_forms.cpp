@@ -2,6 +2,7 @@
 
 #include "forms/fields.h"
 #include "forms/form.h"
+#include "forms/panes.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
@@ -43,6 +44,15 @@ void SetList(ListBox& list, const std::string& value)
     list.Choose(index);
 }
 
+void SetRow(RowList& list, const std::string& value)
+{
+    const std::int32_t index = ToInteger(value);
+    if (index < 0 || index >= std::ssize(list.Rows())) {
+        throw JourneyError("the list has no row " + value);
+    }
+    list.Choose(index);
+}
+
 void SetBox(CheckBox& box, const std::string& value)
 {
     if (value != "0" && value != "1") {
@@ -67,6 +77,8 @@ void Set(Stage& stage, const Arguments& arguments)
     const std::string& value = arguments[1];
     if (auto* list = dynamic_cast<ListBox*>(target.control)) {
         SetList(*list, value);
+    } else if (auto* rows = dynamic_cast<RowList*>(target.control)) {
+        SetRow(*rows, value);
     } else if (auto* box = dynamic_cast<CheckBox*>(target.control)) {
         SetBox(*box, value);
     } else if (auto* options = dynamic_cast<OptionArray*>(target.control)) {

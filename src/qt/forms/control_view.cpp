@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "forms/caption.h"
+#include "qt/forms/headed_text.h"
 #include "qt/forms/sign.h"
 #include "qt/forms/view_of.h"
 #include "qt/theme/theme.h"
@@ -37,6 +38,8 @@ public:
         case LabelRole::Title:
             Shown().setFont(theme.HeadingFont());
             break;
+        case LabelRole::Headed:
+            break; // a view of its own
         }
     }
 
@@ -48,6 +51,15 @@ private:
         Shown().setWordWrap(Model().WordWrap());
         Shown().setText(ToQt(Model().Caption()));
     }
+};
+
+// The first line as a heading, the others below it in the colour of captions.
+class HeadedView final : public ViewOf<Label, HeadedText> {
+public:
+    HeadedView(Label& label, const Theme& theme, QWidget& parent) : ViewOf(label, new HeadedText(theme, &parent)) {}
+
+private:
+    void ReadLook() override { Shown().SetText(ToQt(Model().Caption())); }
 };
 
 class ButtonView final : public ViewOf<Button, QPushButton> {
@@ -121,6 +133,9 @@ public:
 std::unique_ptr<ControlView> MakeControlView(Control& control, const Theme& theme, QWidget& parent)
 {
     if (auto* label = dynamic_cast<Label*>(&control)) {
+        if (label->Role() == LabelRole::Headed) {
+            return std::make_unique<HeadedView>(*label, theme, parent);
+        }
         return std::make_unique<LabelView>(*label, theme, parent);
     }
     if (auto* button = dynamic_cast<Button*>(&control)) {
@@ -137,6 +152,9 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const Theme& them
     }
     if (auto field = MakeFieldView(control, theme, parent)) {
         return field;
+    }
+    if (auto pane = MakePaneView(control, theme, parent)) {
+        return pane;
     }
     throw Failure(failures::typeMismatch);
 }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 
 namespace quor {
 
@@ -51,7 +52,11 @@ FormView::FormView(Form& form, const Theme& theme, QWidget* parent) : QWidget(pa
     m_following = form.Changed.Subscribe([this] { FollowForm(); });
 }
 
-FormView::~FormView() = default;
+FormView::~FormView()
+{
+    Detach();
+    hide(); // a field that has the keyboard gives it up while its view is there
+}
 
 void FormView::AddControl(Control& control, const Theme& theme)
 {
@@ -109,22 +114,25 @@ void FormView::ShowUse(const LayoutLine& line)
     }
 }
 
-// A field's name for assistive tools is the caption beside it, that of options the title above them.
+// A field's name for assistive tools is the caption beside it or right above it, that of options the title above them.
 void FormView::NameFields()
 {
     QString title;
+    std::map<int, QString> above; // by the place of the caption
     for (const LayoutLine& line : m_form->Layout()) {
         QString caption = title;
         for (const LayoutItem& item : line.items) {
             QWidget& widget = ViewOfItem(item).Widget();
             if (const auto* label = dynamic_cast<const Label*>(item.control)) {
                 caption = ToQt(label->Caption());
+                above[item.x] = caption;
             } else if (const auto* frame = dynamic_cast<const Frame*>(item.control)) {
                 title = ToQt(frame->Caption());
             } else if (const auto* box = dynamic_cast<const CheckBox*>(item.control)) {
                 widget.setAccessibleName(ToQt(PlainCaption(box->Caption())));
             } else if (widget.accessibleName().isEmpty()) {
-                widget.setAccessibleName(caption);
+                const auto over = item.x == LayoutItem::behind ? above.end() : above.find(item.x);
+                widget.setAccessibleName(over == above.end() ? caption : over->second);
             }
         }
     }

@@ -53,4 +53,7 @@ std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme,
 std::unique_ptr<ControlView> MakeTypedView(Control& control, QWidget& parent);
 std::unique_ptr<ControlView> MakeOptionsView(OptionArray& options, QWidget& parent);
 
+// The views of what divides a form or holds many rows; null for other controls.
+std::unique_ptr<ControlView> MakePaneView(Control& control, const Theme& theme, QWidget& parent);
+
 } // namespace quor

@@ -1,13 +1,19 @@
 #include "qt/ports/qt_help.h"
 
 #include "base/failure.h"
+#include "qt/ports/help_window.h"
 #include "qt/ports/qt_text.h"
 
-#include <QDesktopServices>
 #include <QFileInfo>
-#include <QUrl>
 
 namespace quor {
+
+QtHelp::QtHelp() = default;
+
+QtHelp::~QtHelp()
+{
+    delete m_window;
+}
 
 void QtHelp::ShowContents(const std::string& path)
 {
@@ -15,9 +21,10 @@ void QtHelp::ShowContents(const std::string& path)
     if (!QFileInfo(file).isFile()) {
         throw Failure(failures::fileNotFound);
     }
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {
-        throw Failure(failures::invalidCall, "No program opens " + path);
+    if (m_window == nullptr) {
+        m_window = new HelpWindow;
     }
+    m_window->ShowFile(file);
 }
 
 } // namespace quor

@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QFocusFrame>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainterPath>
@@ -63,7 +64,7 @@ int RingDistance(const QWidget* control)
 bool WantsRing(const QWidget* widget)
 {
     return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-           qobject_cast<const QComboBox*>(widget) != nullptr ||
+           qobject_cast<const QComboBox*>(widget) != nullptr || qobject_cast<const QListWidget*>(widget) != nullptr ||
            (qobject_cast<const QLineEdit*>(widget) != nullptr && qobject_cast<const QLineEdit*>(widget)->hasFrame());
 }
 

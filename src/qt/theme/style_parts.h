@@ -8,6 +8,8 @@ class QPainter;
 
 namespace quor {
 
+struct ThemeColors;
+
 // Radii in device-independent pixels.
 namespace radii {
 inline constexpr qreal control = 3;
@@ -29,6 +31,10 @@ void DrawRule(QPainter& painter, const QRectF& area, Qt::Orientation orientation
 
 enum class Chevron { Down, Right };
 void DrawChevron(QPainter& painter, const QPointF& middle, Chevron direction, const QColor& color);
+
+// A tab's ground and caption; the one in front is underlined.
+enum class TabState { InFront, Hovered, Pressed, Behind };
+void DrawTab(QPainter& painter, const QRect& area, const QString& caption, TabState state, const ThemeColors& colors);
 
 QColor WithAlpha(QColor color, qreal opacity);
 

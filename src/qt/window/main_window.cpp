@@ -92,17 +92,26 @@ void MainWindow::AddToolBar(Band& band)
     bar->setObjectName(ToQt(band.Name));
     bar->setMovable(false);
     bar->setIconSize({20, 20});
-    for (const BandTool& place : band.Tools()) {
-        if (place.Tool().IsSeparator()) {
-            bar->addSeparator();
-        } else {
-            bar->addAction(&m_actions.ActionFor(place));
+    const auto follow = [this, bar, &band] {
+        bar->setVisible(band.Visible());
+        for (QAction* action : bar->actions()) {
+            bar->removeAction(action);
+            if (action->isSeparator()) {
+                delete action; // the others are shared
+            }
         }
-    }
+        for (const BandTool& place : band.Tools()) {
+            if (place.Tool().IsSeparator()) {
+                bar->addSeparator();
+            } else {
+                bar->addAction(&m_actions.ActionFor(place));
+            }
+        }
+    };
     bar->setContentsMargins(4, 0, 4, 0);
     addToolBar(bar);
-    bar->setVisible(band.Visible());
-    m_subscriptions.push_back(band.Changed.Subscribe([bar, &band] { bar->setVisible(band.Visible()); }));
+    follow();
+    m_subscriptions.push_back(band.Changed.Subscribe(follow));
 }
 
 void MainWindow::AddCenter()

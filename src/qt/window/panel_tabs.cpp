@@ -64,16 +64,8 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        const ThemeColors& colors = m_theme.Colors();
-        if (isChecked()) {
-            const QRectF underline(padding, height() - 4, width() - 2 * padding, 2);
-            DrawBox(painter, rect(), radii::button, colors.selectedGround);
-            DrawBox(painter, underline, 1, colors.accent);
-        } else if (underMouse()) {
-            DrawBox(painter, rect(), radii::button, isDown() ? colors.pressed : colors.hover);
-        }
-        painter.setPen(isChecked() ? colors.selectedText : colors.labelText);
-        painter.drawText(rect().adjusted(0, 0, 0, -2), Qt::AlignCenter | Qt::TextSingleLine, text());
+        const TabState behind = !underMouse() ? TabState::Behind : isDown() ? TabState::Pressed : TabState::Hovered;
+        DrawTab(painter, rect(), text(), isChecked() ? TabState::InFront : behind, m_theme.Colors());
     }
 
 private:

@@ -1,0 +1,122 @@
+#include "editor/frm_customize.h"
+#include "editor/tools.h"
+#include "qt/forms/form_view.h"
+#include "qt/forms/row_list_widget.h"
+#include "qt/ports/help_window.h"
+#include "qt/ports/qt_help.h"
+#include "qt/ports/qt_system_info.h"
+#include "qt/theme/theme.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+void Press(QWidget& widget, int key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+HelpWindow* ShownHelp()
+{
+    for (QWidget* window : QApplication::allWidgets()) {
+        if (auto* help = dynamic_cast<HelpWindow*>(window); help != nullptr && help->isVisible()) {
+            return help;
+        }
+    }
+    return nullptr;
+}
+
+TEST(TheCustomizeDialog, IsWorkedByTheKeysOfItsLists)
+{
+    const Theme theme;
+    const std::unique_ptr<Bars> bars = MakeEditorBars();
+    frmCustomize form(*bars, LayoutOf(*bars));
+    FormView view(form, theme);
+    view.resize(view.sizeHint());
+    auto* tools = view.findChild<RowListWidget*>("lstTools");
+    auto* toolbar = view.findChild<RowListWidget*>("lstToolbar");
+    ASSERT_TRUE(tools != nullptr && toolbar != nullptr);
+    EXPECT_EQ(view.FirstFocus(), tools);
+    EXPECT_EQ(tools->accessibleName(), "Available tools:");
+    EXPECT_EQ(toolbar->accessibleName(), "On the toolbar:");
+    const int before = toolbar->count();
+
+    Press(*tools, Qt::Key_Down);
+    Press(*tools, Qt::Key_Down);
+    EXPECT_EQ(form.lstTools.Index(), tools->currentRow());
+    const QString taken = tools->currentItem()->text();
+    Press(*tools, Qt::Key_Return);
+    EXPECT_EQ(toolbar->count(), before + 1);
+    EXPECT_EQ(toolbar->currentItem()->text(), taken);
+    Press(*toolbar, Qt::Key_Up);
+    Press(*toolbar, Qt::Key_Return);
+    EXPECT_EQ(toolbar->count(), before);
+    EXPECT_EQ(form.lstToolbar.Index(), toolbar->currentRow());
+}
+
+TEST(ABoxWithALongCaption, BeginsWhereItHasRoom)
+{
+    struct Boxes final : Form {
+        Boxes() : Form("frmBoxes")
+        {
+            auto& narrow = Make<CheckBox>("narrow", "Short");
+            auto& wide = Make<CheckBox>("wide", "Automatically determine the color of the lamp when it is off");
+            Arrange(12, {{.height = 26, .items = {{.control = &narrow, .x = 116, .orX = 14}}},
+                         {.height = 26, .items = {{.control = &wide, .x = 116, .orX = 14}}}});
+        }
+    } form;
+    const Theme theme;
+    FormView view(form, theme);
+    view.resize(320, 60);
+    view.show();
+    EXPECT_EQ(view.findChild<QCheckBox*>("narrow")->x(), 116);
+    EXPECT_EQ(view.findChild<QCheckBox*>("wide")->x(), 14);
+}
+
+TEST(TheHelpWindow, StandsAboveADialogAndOutlivesIt)
+{
+    const QTemporaryDir folder;
+    QFile page(folder.filePath("index.html"));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.write("<h1>Contents</h1>");
+    page.close();
+    QtHelp help;
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        help.ShowContents(page.fileName().toStdString());
+        HelpWindow* window = ShownHelp();
+        ASSERT_NE(window, nullptr);
+        EXPECT_EQ(window->parentWidget(), &dialog);
+        EXPECT_TRUE(window->findChild<QTextBrowser*>()->toPlainText().contains("Contents"));
+        dialog.hide();
+    }
+    HelpWindow* window = ShownHelp();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->parentWidget(), nullptr);
+    Press(*window, Qt::Key_Escape);
+    EXPECT_EQ(ShownHelp(), nullptr);
+}
+
+TEST(TheSystemInformation, HasAWordForEachFact)
+{
+    const std::vector<SystemFact> facts = QtSystemInfo().Facts();
+    EXPECT_GE(facts.size(), 7U);
+    for (const SystemFact& fact : facts) {
+        EXPECT_FALSE(fact.label.empty() || fact.value.empty()) << fact.label;
+    }
+}
+
+} // namespace
+} // namespace quor
