@@ -62,6 +62,9 @@ public:
     void FollowAll(TeskServer& server, ServerListener& listener);
     void Leave(ServerListener& listener) noexcept;
 
+    // How many sites are known, those lately deserted too.
+    std::size_t SiteCount() const noexcept { return m_sites.size(); }
+
 private:
     // The followers of one site, by unit; the last ring follows the site as a whole.
     struct Site;

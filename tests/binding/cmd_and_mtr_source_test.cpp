@@ -1,0 +1,144 @@
+#include "binding/bln_data_source.h"
+#include "binding/cmd_data_source.h"
+#include "binding/live.h"
+#include "binding/mtr_data_source.h"
+#include "tests/support/fake_boxes.h"
+#include "tests/support/fake_login.h"
+#include "tests/support/fake_server.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+struct ASource : testing::Test {
+    FakeServer server;
+    FakeLogin login;
+    FakeBoxes boxes;
+    Live live;
+
+    ASource()
+    {
+        live.Server = &server;
+        live.Login = &login;
+        live.Boxes = &boxes;
+        server.Add("Ridge").Add(2);
+    }
+};
+
+constexpr std::string_view offLine = "The site/unit is not connected.";
+constexpr std::string_view local = "The site is in local control mode.";
+constexpr std::string_view forbidden = "You do not have sufficient user privileges to run this command.";
+
+struct Action {
+    std::int32_t type;
+    std::int16_t right; // 0: none
+    bool needsSite;
+    bool needsRemote;
+    const char* call;
+};
+
+const Action everyAction[] = {
+    {actions::commandA, 1, true, true, "Commands.Item(3).IssueA"},
+    {actions::commandB, 1, true, true, "Commands.Item(3).IssueB"},
+    {actions::runMacro, 2, true, true, "RunMacro(4)"},
+    {actions::stopMacro, 2, true, true, "StopMacro(4)"},
+    {actions::stopAllMacros, 2, true, true, "StopAllMacros"},
+    {actions::clearSiteAlarms, 3, true, false, "ClearAlarms"},
+    {actions::clearUnitAlarms, 3, true, false, "ClearAlarms"},
+    {actions::clearAllAlarms, 3, true, false, "ClearAlarms"},
+};
+
+TEST_F(ASource, LocksAnActionForTheFirstConditionThatFailsAndRunsItOtherwise)
+{
+    for (const Action& action : everyAction) {
+        clsCmdDataSource source(live);
+        source.Set(&clsCmdDataSource::CmdDataType, action.type);
+        source.Set(&clsCmdDataSource::Site, "Ridge");
+        source.Set(&clsCmdDataSource::Unit, 2);
+        source.Set(&clsCmdDataSource::Channel, 4);
+        source.RefreshData();
+        EXPECT_TRUE(source.CmdEnabled()) << action.type;
+        server.calls.clear();
+        source.RunCommand(0);
+        EXPECT_EQ(server.calls.back(), std::string("Sites.Item(\"Ridge\").Units.Item(2).") + action.call);
+
+        login.rightsHeld.erase(action.right);
+        server.RemoteLocalChange.Raise("Ridge", 9, true);
+        server.Disconnected.Raise("Ridge", 0);
+        login.EndLogOn(true);
+        EXPECT_EQ(source.LockReason(), offLine) << action.type;
+        server.Connected.Raise("Ridge", 4);
+        EXPECT_EQ(source.LockReason(), offLine) << "4 is no connection";
+        server.Connected.Raise("Ridge", 6);
+        EXPECT_EQ(source.LockReason(), action.needsRemote ? local : forbidden) << action.type;
+        server.RemoteLocalChange.Raise("Ridge", 9, false);
+        EXPECT_EQ(source.LockReason(), forbidden) << action.type;
+        source.RunCommand(0);
+        EXPECT_EQ(boxes.shown.back(),
+                  (ShownBox{"This command is locked. " + std::string(forbidden), "", BoxButtons::Ok}));
+        login.rightsHeld.insert(action.right);
+        login.EndLogOn(true);
+        EXPECT_TRUE(source.CmdEnabled());
+        login.EndSession();
+        EXPECT_EQ(source.LockReason(), forbidden);
+        login.isLoggedOn = true;
+    }
+}
+
+TEST_F(ASource, AsksForTheCtrlKeyBeforeItSpeaksOfALock)
+{
+    clsCmdDataSource source(live);
+    source.Set(&clsCmdDataSource::CmdDataType, actions::runMacro);
+    source.Set(&clsCmdDataSource::CtrlClick, true);
+    source.RunCommand(0);
+    EXPECT_EQ(boxes.shown.back().text,
+              "Press and hold the CTRL key and click the left mouse button to unlock this command.");
+    source.RunCommand(clsCmdDataSource::ctrlKey);
+    EXPECT_EQ(boxes.shown.back().text, "This command is locked. ") << "never refreshed, it has no reason yet";
+    source.Set(&clsCmdDataSource::CmdDataType, actions::none);
+    source.Set(&clsCmdDataSource::CtrlClick, false);
+    source.RunCommand(0);
+    EXPECT_EQ(boxes.shown.size(), 2U);
+}
+
+TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
+{
+    clsMtrDataSource source(live);
+    source.Set(&clsMtrDataSource::Site, "Ridge");
+    source.Set(&clsMtrDataSource::Unit, 2);
+    source.Set(&clsMtrDataSource::Channel, 1);
+    std::vector<MeterLabel> labels;
+    std::vector<std::pair<float, bool>> values;
+    const Subscription label = source.LabelData.Subscribe([&](const MeterLabel& each) { labels.push_back(each); });
+    const Subscription value =
+        source.UpdateMtrData.Subscribe([&](float reading, bool mute) { values.emplace_back(reading, mute); });
+    for (const std::uint8_t type : {std::uint8_t{1}, std::uint8_t{2}}) {
+        ConfigDataEvent config{"Ridge", 2, {}, {}, {}, {}, {}, {}, {}};
+        config.Limits = {{10, 20, 80, 90}, 4};
+        config.MtrLabels = ServerArray<std::string>({"Power"});
+        config.CalibConst = ServerArray<float>({0.5F});
+        config.MtrTypes = ServerArray<std::uint8_t>({type});
+        server.ConfigData.Raise(config);
+    }
+    ASSERT_EQ(labels.size(), 2U);
+    EXPECT_EQ(labels[0].sngMin, -1024);
+    EXPECT_EQ(labels[0].sngMax, 1023.5F);
+    EXPECT_EQ(labels[1].sngMin, 0);
+    EXPECT_EQ(labels[1].sngMax, 2047.5F);
+    EXPECT_EQ(labels[1].sngSecondUpper, 90);
+
+    server.Values.Raise({"Ridge", 2, 0, 0, 0, 0, 1, ServerArray<float>({42})});
+    source.RefreshData();
+    EXPECT_TRUE(server.calls.empty()) << "it has data";
+    server.Disconnected.Raise("Ridge", 0);
+    source.RefreshData();
+    EXPECT_EQ(server.calls.size(), 1U);
+    EXPECT_EQ(values, (std::vector<std::pair<float, bool>>{{42, true}, {NoData, true}}));
+    source.Set(&clsMtrDataSource::Site, "Nowhere");
+    source.RefreshData();
+    EXPECT_EQ(values.size(), 3U);
+}
+
+} // namespace
+} // namespace quor
