@@ -33,7 +33,7 @@ struct LayoutLine {
     static constexpr int below = -1; // as y: where the line before it ends
 
     int y = below;
-    int height = 0; // grows where options don't fit side by side
+    int height = 0; // grows where options don't fit side by side; none where no item is visible
     std::vector<LayoutItem> items;
 };
 

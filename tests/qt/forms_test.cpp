@@ -217,6 +217,13 @@ TEST_F(TheFormRuntime, LaysOutALineByTheRoomThatItHas)
     EXPECT_EQ(Part<QWidget>(&view, "cmdBrwsOnColor").geometry(), QRect(176, 41, 28, 24));
     EXPECT_EQ(Part<QWidget>(&view, "lblRest").geometry(), QRect(212, 38, 96, 30));
     EXPECT_EQ(Part<QWidget>(&view, "chkLong").x(), 12);
+    const int height = view.sizeHint().height();
+    const int top = Part<QWidget>(&view, "chkLong").y();
+    form.txtWidth.Set(&Control::Visible, false);
+    EXPECT_EQ(Part<QWidget>(&view, "chkLong").y(), top); // a part of the line above still shows
+    form.lblWidth.Set(&Control::Visible, false);
+    EXPECT_EQ(Part<QWidget>(&view, "chkLong").y(), top - 30);
+    EXPECT_EQ(view.sizeHint().height(), height - 30);
     view.resize(200, 200);
     EXPECT_EQ(Part<QWidget>(&view, "clrOn").width(), 40);
     EXPECT_EQ(Part<QWidget>(&view, "cmdBrwsOnColor").x(), 160);

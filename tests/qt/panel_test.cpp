@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -36,6 +37,20 @@ std::vector<QWidget*> PartsOf(QWidget& page)
         }
     }
     return parts;
+}
+
+// What the part looks like, and what of it is on the screen.
+QImage PictureOf(QWidget& part)
+{
+    return part.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QImage OnScreen(const QWidget& part)
+{
+    const QWidget& window = *part.window();
+    const QRect place(part.mapTo(&window, QPoint()), part.size());
+    const QPixmap shown = window.screen()->grabWindow(window.winId());
+    return shown.copy(place).toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 struct ThePanel : EditorFixture {
@@ -405,6 +420,7 @@ TEST_F(ThePanel, IsWidenedByItsEdgeAndFillsItsWidth)
     EXPECT_EQ(Find("txtViewName").geometry(), QRect(116, 12, 392, 24));
     EXPECT_EQ(Find("cmdBrwsBGFile").geometry().right(), 507);
     EXPECT_EQ(view.heightForWidth(520), height - 3 * 26); // the options stand side by side
+    EXPECT_TRUE(QTest::qWaitFor([&] { return OnScreen(Panel()) == PictureOf(Panel()); })); // all of it was repainted
     drag(-500);
     EXPECT_EQ(Panel().width(), 320);
 }

@@ -64,6 +64,7 @@ void FormView::AddControl(Control& control, const Theme& theme)
     part.view = MakeControlView(control, theme, *this);
     part.view->Read();
     part.natural = part.view->NaturalWidth();
+    part.isVisible = control.Visible();
     part.following = control.Changed.Subscribe([this, &control, &part] { FollowControl(control, part); });
 }
 
@@ -88,9 +89,12 @@ void FormView::FollowControl(const Control& control, Part& part)
             ShowUse(line);
         }
     }
-    if (const int natural = part.view->NaturalWidth(); natural != part.natural) {
+    const int natural = part.view->NaturalWidth();
+    if (natural != part.natural || control.Visible() != part.isVisible) {
         part.natural = natural;
+        part.isVisible = control.Visible();
         Place();
+        updateGeometry();
     }
 }
 
@@ -195,8 +199,13 @@ template <class Visit> void FormView::VisitLines(int width, Visit visit) const
     }
 }
 
+// A line of which nothing shows takes no room.
 int FormView::HeightOf(const LayoutLine& line, int width) const
 {
+    const auto isHidden = [](const LayoutItem& item) { return !item.control->Visible(); };
+    if (!line.items.empty() && std::all_of(line.items.begin(), line.items.end(), isHidden)) {
+        return 0;
+    }
     int height = line.height;
     for (const LayoutItem& item : line.items) {
         const int room = width - m_form->Margin() - std::max(item.x, m_form->Margin());

@@ -36,6 +36,7 @@ private:
     struct Part {
         std::unique_ptr<ControlView> view;
         int natural = 0; // its width as the lines were laid out
+        bool isVisible = true;
         Subscription following;
     };
 

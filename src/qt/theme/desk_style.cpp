@@ -33,7 +33,9 @@ template <class Option> const Option& As(const QStyleOption* option)
     return *qstyleoption_cast<const Option*>(option);
 }
 
-constexpr int scrollBarExtent = 12; // pixels
+// Pixels.
+constexpr int scrollBarExtent = 12;
+constexpr int itemMargin = 7; // beside an item's text, so that it stands below the list's own
 
 // Menus mark the letters for the keyboard once it is in use.
 bool UnderlinesLetters(const QWidget* widget)
@@ -51,6 +53,12 @@ bool LiesOverContent(const QWidget* widget)
         parent = parent->parentWidget();
     }
     return qobject_cast<const QScrollArea*>(parent) != nullptr;
+}
+
+// What a drop-down list opens.
+bool IsListPopup(const QWidget* widget)
+{
+    return widget != nullptr && widget->inherits("QComboBoxPrivateContainer");
 }
 
 // How far the ring around a control reaches beyond it. A box has no edge that the ring may cover.
@@ -125,6 +133,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_FrameMenu:
         DrawBox(*painter, option->rect, radii::menu, {}, m_colors.rule);
         return;
+    case PE_PanelItemViewItem:
+        if ((option->state & State_Selected) != 0) {
+            painter->fillRect(option->rect, m_colors.selectedGround);
+        }
+        return;
     case PE_PanelMenuBar:
     case PE_FrameStatusBarItem:
     case PE_FrameFocusRect:
@@ -189,6 +202,19 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
     case CE_ProgressBar:
         DrawProgressBar(As<QStyleOptionProgressBar>(option), *painter);
         return;
+    case CE_ItemViewItem: {
+        QStyleOptionViewItem item = As<QStyleOptionViewItem>(option);
+        item.palette.setColor(QPalette::HighlightedText, m_colors.selectedText);
+        QProxyStyle::drawControl(element, &item, painter, widget);
+        return;
+    }
+    case CE_ShapedFrame:
+        if (IsListPopup(widget)) {
+            DrawBox(*painter, option->rect, 0, m_colors.menu, m_colors.rule);
+        } else {
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+        return;
     case CE_FocusFrame:
         DrawFocusRing(option->rect, *painter);
         return;
@@ -220,6 +246,9 @@ QRect DeskStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     }
     if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
         return visualRect(option->direction, option->rect, option->rect.adjusted(7, 1, -24, -1));
+    }
+    if (control == CC_ComboBox && part == SC_ComboBoxListBoxPopup) {
+        return option->rect.adjusted(0, 0, 0, 3); // the list opens just below
     }
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
@@ -278,6 +307,9 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return 8;
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
+        if (widget != nullptr && qobject_cast<const QFocusFrame*>(widget) == nullptr) {
+            return itemMargin - 1; // of the text in a list
+        }
         return RingDistance(m_ring == nullptr ? nullptr : m_ring->widget());
     case PM_SplitterWidth:
         return 1;

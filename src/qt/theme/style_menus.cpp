@@ -66,6 +66,10 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     case CT_LineEdit:
     case CT_ComboBox:
         return {contents.width() + 32, 24};
+    case CT_ItemViewItem: {
+        const QSize usual = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        return {usual.width(), std::max(usual.height(), 24)};
+    }
     default:
         return QProxyStyle::sizeFromContents(type, option, contents, widget);
     }

@@ -137,7 +137,8 @@ void MainWindow::AddCenter()
 // A panel and the rule between it and the canvas, which come and go with the band.
 void MainWindow::AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int width, Qt::Edge edge)
 {
-    auto* panel = new QWidget;
+    // Not for a moment a window of its own: it would never be repainted well again.
+    auto* panel = new QWidget(m_canvas->parentWidget());
     auto* parts = Tight(new QHBoxLayout(panel));
     auto* dock = new DockPanel(band, m_theme, content);
     dock->setFixedWidth(width);
