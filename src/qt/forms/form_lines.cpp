@@ -161,9 +161,14 @@ void FormView::Put(const LayoutItem& item, const QRect& place)
 {
     const ControlView& view = ViewOfItem(item);
     const int natural = view.NaturalHeight() > 0 ? view.NaturalHeight() : place.height();
-    const int height = item.height > 0 ? item.height : natural;
-    view.Widget().setGeometry(place.x(), place.y() + (place.height() - height) / 2, place.width(), height);
-    if (auto* label = qobject_cast<QLabel*>(&view.Widget())) {
+    int height = item.height > 0 ? item.height : natural;
+    const int top = place.y() + (place.height() - height) / 2;
+    auto* label = qobject_cast<QLabel*>(&view.Widget());
+    if (label != nullptr && !label->wordWrap()) {
+        height -= (height - label->fontMetrics().height()) % 2; // text in fields stands on whole pixels, too
+    }
+    view.Widget().setGeometry(place.x(), top, place.width(), height);
+    if (label != nullptr) {
         TipWhatIsCut(*label);
     }
 }

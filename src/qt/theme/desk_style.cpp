@@ -245,7 +245,8 @@ QRect DeskStyle::subControlRect(ComplexControl control, const QStyleOptionComple
         return visualRect(option->direction, option->rect, ScrollBarPart(As<QStyleOptionSlider>(option), part));
     }
     if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
-        return visualRect(option->direction, option->rect, option->rect.adjusted(7, 1, -24, -1));
+        const int odd = (option->rect.height() - option->fontMetrics.height()) % 2; // level with text in fields
+        return visualRect(option->direction, option->rect, option->rect.adjusted(7, 1, -24, -1 - odd));
     }
     if (control == CC_ComboBox && part == SC_ComboBoxListBoxPopup) {
         return option->rect.adjusted(0, 0, 0, 3); // the list opens just below
