@@ -288,7 +288,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ToolBarItemMargin:
         return 4;
     case PM_ToolBarSeparatorExtent:
-        return 11;
+        return 9; // 11 with the gap
     case PM_ToolBarIconSize:
     case PM_SmallIconSize:
         return 20;

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QTimer>
 
 #include <string>
@@ -49,11 +50,16 @@ bool IsDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-QFont DesktopFont(int pixels, QFont::Weight weight = QFont::Normal)
+// The desktop's font; where it names none of its own, the one that the surroundings are drawn for, if it is there.
+QFont DesktopFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setPixelSize(pixels);
-    font.setWeight(weight);
+    if (font.family().startsWith(QStringLiteral("Sans"))) {
+        const QFont drawnFor(QStringLiteral("Inter"));
+        if (QFontInfo(drawnFor).family() == drawnFor.family()) {
+            font.setFamily(drawnFor.family());
+        }
+    }
     return font;
 }
 
@@ -91,6 +97,7 @@ void Theme::UseColors(const ThemeColors& colors)
 
 void Theme::AdoptDesktop()
 {
+    m_font = DesktopFont();
     const QPalette desktop = QApplication::palette();
     const std::unique_ptr<QStyle> fallback(DeskStyle::MakeBase());
     if (IsOwnPalette(desktop, fallback->standardPalette())) {
@@ -118,22 +125,30 @@ QIcon Theme::Icon(std::string_view name) const
 
 QFont Theme::TextFont() const
 {
-    return DesktopFont(12);
+    return FontOf(12, QFont::Normal);
 }
 
 QFont Theme::MenuFont() const
 {
-    return DesktopFont(13);
+    return FontOf(13, QFont::Normal);
 }
 
 QFont Theme::TitleFont() const
 {
-    return DesktopFont(12, QFont::DemiBold);
+    return FontOf(12, QFont::DemiBold);
 }
 
 QFont Theme::HeadingFont() const
 {
-    return DesktopFont(18, QFont::DemiBold);
+    return FontOf(18, QFont::DemiBold);
+}
+
+QFont Theme::FontOf(int pixels, QFont::Weight weight) const
+{
+    QFont font = m_font;
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
 }
 
 } // namespace quor

@@ -44,8 +44,10 @@ private:
 
     void AdoptDesktop();
     void Spread() const;
+    QFont FontOf(int pixels, QFont::Weight weight) const;
 
     ThemeColors m_colors = LightColors();
+    QFont m_font;
     QApplication* m_application = nullptr;
     std::unique_ptr<Follower> m_follower;
 };

@@ -67,7 +67,7 @@ void DockPanel::paintEvent(QPaintEvent* /*event*/)
 
 void DockPanel::resizeEvent(QResizeEvent* /*event*/)
 {
-    m_closeButton->setGeometry(width() - 21, 4, 20, 20);
+    m_closeButton->setGeometry(width() - 20, 4, 20, 20);
     m_content.setGeometry(0, titleHeight, width(), height() - titleHeight);
 }
 

@@ -92,9 +92,15 @@ void MainWindow::AddToolBar(Band& band)
     bar->setObjectName(ToQt(band.Name));
     bar->setMovable(false);
     bar->setIconSize({20, 20});
-    const auto follow = [this, bar, &band] {
+    auto* margin = new QWidget; // with the gap behind it, beyond the bar's own
+    margin->setFixedWidth(2);
+    const QAction* marginPlace = bar->addWidget(margin);
+    const auto follow = [this, bar, marginPlace, &band] {
         bar->setVisible(band.Visible());
         for (QAction* action : bar->actions()) {
+            if (action == marginPlace) {
+                continue;
+            }
             bar->removeAction(action);
             if (action->isSeparator()) {
                 delete action; // the others are shared
@@ -108,7 +114,6 @@ void MainWindow::AddToolBar(Band& band)
             }
         }
     };
-    bar->setContentsMargins(4, 0, 4, 0);
     addToolBar(bar);
     follow();
     m_subscriptions.push_back(band.Changed.Subscribe(follow));
