@@ -5,10 +5,18 @@
 #include "forms/bars.h"
 #include "qt/canvas/canvas_view.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStandardPaths>
+#include <QTest>
+#include <QTextBrowser>
+#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -149,6 +157,84 @@ TEST(Window, ThePanelsComeAndGoWithTheirTools)
     EXPECT_FALSE(desk.Main().abViewEdit().Tool("miToolbox").Checked());
     desk.Choose("miToolbox");
     EXPECT_TRUE(toolbox->isVisible());
+}
+
+QStringList ToolbarOf(Desk& desk)
+{
+    QStringList tools;
+    for (const QAction* action : desk.Window().findChild<QToolBar*>("bndToolBar")->actions()) {
+        if (action->isSeparator() || !action->objectName().isEmpty()) {
+            tools.append(action->isSeparator() ? QStringLiteral("|") : action->objectName());
+        }
+    }
+    return tools;
+}
+
+TEST(Window, TheToolbarStandsAsItWasLeft)
+{
+    const QString layout = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quor";
+    QStringList arranged;
+    {
+        Desk desk;
+        arranged = ToolbarOf(desk);
+        desk.Meet([](QWidget& dialog) {
+            auto* tools = dialog.findChild<QListWidget*>("lstTools");
+            auto* toolbar = dialog.findChild<QListWidget*>("lstToolbar");
+            tools->setCurrentRow(1); // Save As
+            toolbar->setCurrentRow(2);
+            dialog.findChild<QAbstractButton*>("cmdAdd")->click();
+            toolbar->setCurrentRow(0);
+            QTest::keyClick(toolbar, Qt::Key_Return);
+            dialog.findChild<QAbstractButton*>("cmdDown")->click();
+            dialog.findChild<QAbstractButton*>("chkBar(2)")->click();
+            dialog.findChild<QAbstractButton*>("cmdOK")->click();
+        });
+        desk.Choose("miCustomize");
+        EXPECT_EQ(desk.Met().size(), 1);
+        arranged.insert(3, "miSaveAs");
+        arranged.removeFirst();
+        arranged.swapItemsAt(0, 1);
+        EXPECT_EQ(ToolbarOf(desk), arranged);
+        EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
+        EXPECT_TRUE(desk.Window().close());
+    }
+    {
+        Desk desk;
+        EXPECT_EQ(ToolbarOf(desk), arranged);
+        EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
+    }
+    EXPECT_TRUE(QDir(layout).removeRecursively());
+}
+
+TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
+{
+    Desk desk;
+    desk.Meet([&desk](QWidget& dialog) {
+        auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
+        EXPECT_EQ(dialog.focusWidget(), size);
+        size->selectAll();
+        QTest::keyClicks(size, "25");
+        dialog.findChild<QAbstractButton*>("cmdApply")->click();
+        EXPECT_EQ(desk.Main().ssScroll().Grid().stepX, 375);
+        dialog.findChild<QAbstractButton*>("cmdHelp")->click();
+        EXPECT_TRUE(dialog.findChild<QTextBrowser*>()->toPlainText().contains("Customize...")) << "above the dialog";
+        QTest::keyClick(size, Qt::Key_Escape);
+    });
+    desk.Choose("miOptions");
+    EXPECT_EQ(desk.Met().size(), 1);
+    EXPECT_EQ(desk.Main().GridSize(), 25);
+    desk.MeetAndCancel();
+    desk.Choose("miAbout");
+    EXPECT_EQ(desk.Met().size(), 1);
+    desk.Meet([](QWidget& dialog) { // the settings outlive the test
+        auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
+        size->selectAll();
+        QTest::keyClicks(size, "10");
+        dialog.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    desk.Choose("miOptions");
+    EXPECT_EQ(desk.Met().size(), 1);
+    EXPECT_EQ(desk.Main().GridSize(), 10);
 }
 
 TEST(Window, TheEndOfTheSessionAsksNothing)
