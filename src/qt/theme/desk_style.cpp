@@ -83,7 +83,8 @@ QStyle* DeskStyle::MakeBase()
     return QStyleFactory::create(QStringLiteral("Fusion"));
 }
 
-DeskStyle::DeskStyle(const ThemeColors& colors) : QProxyStyle(MakeBase()), m_colors(colors)
+DeskStyle::DeskStyle(std::shared_ptr<const ThemeColors> colors)
+    : QProxyStyle(MakeBase()), m_shared(std::move(colors)), m_colors(*m_shared)
 {
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FollowFocus(now); });
 }
@@ -131,7 +132,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         painter->fillRect(option->rect, m_colors.menu);
         return;
     case PE_FrameMenu:
-        DrawBox(*painter, option->rect, radii::menu, {}, m_colors.rule);
+        DrawBox(*painter, option->rect, radii::menu, QColor(), m_colors.rule);
         return;
     case PE_PanelItemViewItem:
         if ((option->state & State_Selected) != 0) {

@@ -16,8 +16,8 @@ public:
     // What draws whatever this style leaves alone. The caller owns it.
     static QStyle* MakeBase();
 
-    // The colours belong to the theme, which outlives the style.
-    explicit DeskStyle(const ThemeColors& colors);
+    // The colours are those of the moment, whenever it draws.
+    explicit DeskStyle(std::shared_ptr<const ThemeColors> colors);
     ~DeskStyle() override;
 
     using QProxyStyle::polish;
@@ -58,6 +58,7 @@ private:
     QRect ScrollBarPart(const QStyleOptionSlider& bar, SubControl part) const;
     void FollowFocus(QWidget* focused);
 
+    std::shared_ptr<const ThemeColors> m_shared;
     const ThemeColors& m_colors;
     std::unique_ptr<QFocusFrame> m_ring; // around the control that has the focus
 };

@@ -27,7 +27,7 @@ QRectF Snapped(const QPainter& painter, const QRectF& area)
 }
 
 // Shapes are filled, never stroked: the corners of a stroke aren't sharp.
-void DrawBox(QPainter& painter, const QRectF& area, qreal radius, const QColor& ground, const QColor& edge)
+void DrawBox(QPainter& painter, const QRectF& area, qreal radius, QColor ground, QColor edge)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

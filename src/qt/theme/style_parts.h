@@ -24,7 +24,7 @@ qreal HairWidth(const QPainter& painter);
 QRectF Snapped(const QPainter& painter, const QRectF& area);
 
 // A rounded box with a ground and a hairline at its inner edge; an invalid colour leaves its part out.
-void DrawBox(QPainter& painter, const QRectF& area, qreal radius, const QColor& ground, const QColor& edge = {});
+void DrawBox(QPainter& painter, const QRectF& area, qreal radius, QColor ground, QColor edge = QColor());
 
 // A horizontal or vertical hairline: the box's upper or left edge.
 void DrawRule(QPainter& painter, const QRectF& area, Qt::Orientation orientation, const QColor& color);

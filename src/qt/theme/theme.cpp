@@ -76,7 +76,7 @@ void Theme::Apply(QApplication& application)
 {
     m_application = &application;
     AdoptDesktop();
-    QApplication::setStyle(new DeskStyle(m_colors));
+    QApplication::setStyle(new DeskStyle(m_shared));
     Spread();
     m_follower = std::make_unique<Follower>([this] {
         QApplication::setPalette(QPalette());

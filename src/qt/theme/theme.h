@@ -46,7 +46,9 @@ private:
     void Spread() const;
     QFont FontOf(int pixels, QFont::Weight weight) const;
 
-    ThemeColors m_colors = LightColors();
+    // Shared with the style, which belongs to the application and may outlive the theme.
+    std::shared_ptr<ThemeColors> m_shared = std::make_shared<ThemeColors>(LightColors());
+    ThemeColors& m_colors = *m_shared;
     QFont m_font;
     QApplication* m_application = nullptr;
     std::unique_ptr<Follower> m_follower;
