@@ -84,16 +84,25 @@ void clsBlnDataSource::SetValue(bool value, bool mute)
     RaiseUpdate(value, mute);
 }
 
+std::weak_ptr<char> clsBlnDataSource::Life()
+{
+    if (m_life == nullptr) {
+        m_life = std::make_shared<char>();
+    }
+    return m_life;
+}
+
 void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
 {
-    IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
     UpdateBlnData.Raise(value, mute);
+    // The owner is last: it may end the source.
+    IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
 }
 
 void clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
 {
-    IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
     LabelData.Raise(on, off);
+    IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
 }
 
 void clsBlnDataSource::RefreshData()
@@ -138,7 +147,11 @@ void clsBlnDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     if (WatchesLimits()) {
         TakeLimits(event);
     }
+    const std::weak_ptr<char> life = Life();
     Label(event);
+    if (life.expired()) {
+        return; // the captions' handler has ended this source
+    }
     if (WatchesLimits() && LastValue > NoData) {
         SetValue(IsOutside(), false);
     } else if (BlnDataType() == watch::macroRunning) {

@@ -7,6 +7,7 @@
 #include "document/format/field_walk.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -41,7 +42,8 @@ inline constexpr std::int32_t macroRunning = 17;
 inline constexpr std::int32_t statusOn = 18;
 } // namespace watch
 
-// The element that owns a source hears it first, without a subscription.
+// The element that owns a source hears it without a subscription, behind those that have one. It may end the source;
+// they don't.
 class BlnOwner {
 public:
     virtual void m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute) = 0;
@@ -104,6 +106,7 @@ private:
     void SetValue(bool value, bool mute);
     void Refresh();
     void Label(const ConfigDataEvent& event);
+    std::weak_ptr<char> Life(); // expires with the source
     void RaiseUpdate(bool value, bool mute);
     void RaiseLabel(const std::string& on, const std::string& off);
     void TakeLimits(const ConfigDataEvent& event);
@@ -120,7 +123,8 @@ private:
     float LastValue = NoData;
     bool m_value = false;
     bool HasData = false;
-    bool m_hears; // the server
+    bool m_hears;                 // the server
+    std::shared_ptr<char> m_life; // made when it is first asked for
 };
 
 } // namespace quor

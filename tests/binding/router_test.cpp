@@ -55,6 +55,27 @@ TEST_F(TheRouter, BearsThatAListenerEndsItselfOrOthersDuringAnEvent)
     EXPECT_EQ(watchers[3]->owner.updates, 2);
 }
 
+TEST_F(TheRouter, BearsThatTheCaptionsEndTheirSource)
+{
+    struct Ender final : BlnOwner {
+        std::unique_ptr<clsBlnDataSource> source;
+        void m_BlnDataSource_UpdateBlnData(bool /*value*/, bool /*mute*/) override {}
+        void m_BlnDataSource_LabelData(const std::string& /*on*/, const std::string& /*off*/) override
+        {
+            source.reset();
+        }
+    };
+    Ender ender;
+    ender.source = std::make_unique<clsBlnDataSource>(live, ender);
+    ender.source->Set(&clsBlnDataSource::BlnDataType, watch::macroRunning);
+    ender.source->Set(&clsBlnDataSource::Channel, 1);
+    ender.source->Set(&clsBlnDataSource::Site, "Ridge");
+    ConfigDataEvent config{"Ridge", 0, {}, {}, {}, {}, {}, {}, {}};
+    config.MacroNames = {{"Warm up", "True"}, 2};
+    server.ConfigData.Raise(config);
+    EXPECT_EQ(ender.source, nullptr);
+}
+
 TEST_F(TheRouter, LetsAListenerMoveAndMakeOthersDuringAnEvent)
 {
     Watcher mover(live);
