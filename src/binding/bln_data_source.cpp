@@ -11,12 +11,6 @@ namespace quor {
 
 namespace {
 
-// The values of Connected that mean that a link is up.
-bool IsConnectedStatus(std::int32_t status)
-{
-    return status == 5 || status == 6;
-}
-
 bool ToBoolean(const std::string& text)
 {
     if (SameText(text, "True")) {

@@ -13,11 +13,6 @@ namespace quor {
 
 namespace {
 
-bool IsConnectedStatus(std::int32_t status)
-{
-    return status == 5 || status == 6;
-}
-
 // The right that an action needs, 0 for none.
 std::int16_t RightOf(std::int32_t action)
 {

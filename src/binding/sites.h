@@ -15,4 +15,10 @@ std::string UnitCaption(TeskServer* server, const std::string& site, std::uint8_
 bool SiteExists(TeskServer* server, const std::string& site);
 bool UnitExists(TeskServer* server, const std::string& site, std::uint8_t unit);
 
+// Whether a status of the event Connected means that the link is up.
+constexpr bool IsConnectedStatus(std::int32_t status)
+{
+    return status == 5 || status == 6;
+}
+
 } // namespace quor
