@@ -10,6 +10,7 @@ namespace quor {
 
 class Files;
 class MessageBoxes;
+class Pictures;
 class QuorLogin;
 class TeskServer;
 class TeskSiteCatalog;
@@ -25,7 +26,8 @@ struct Live {
     TeskSiteCatalog* Catalog = nullptr;
     QuorLogin* Login = nullptr;
     MessageBoxes* Boxes = nullptr;
-    Files* ViewFiles = nullptr; // for the titles of views that a click would open
+    Pictures* PictureFiles = nullptr; // for elements that show a file
+    Files* ViewFiles = nullptr;       // for the titles of views that a click would open
     std::function<void(const std::string&)> LoadCustomView;
 
     // Brings the server's events to the sources.

@@ -10,6 +10,7 @@ namespace quor {
 class Picture {
 public:
     virtual ~Picture() = default;
+    virtual const std::string& Path() const = 0; // where it was loaded from
     virtual int PixelWidth() const = 0;
     virtual int PixelHeight() const = 0;
 };

@@ -2,6 +2,7 @@
 // Reads properties by name: for traces, journeys and assistive tools.
 
 #include "base/values.h"
+#include "platform/pictures.h"
 
 #include <cstdint>
 #include <string>
@@ -15,9 +16,11 @@ public:
     virtual void Visit(std::string_view name, bool value) = 0;
     virtual void Visit(std::string_view name, std::int32_t value) = 0;
     virtual void Visit(std::string_view name, float value) = 0;
+    virtual void Visit(std::string_view name, double value) = 0;
     virtual void Visit(std::string_view name, Color value) = 0;
     virtual void Visit(std::string_view name, const Font& value) = 0;
     virtual void Visit(std::string_view name, const std::string& value) = 0;
+    virtual void Visit(std::string_view name, const PictureRef& value) = 0;
 };
 
 } // namespace quor

@@ -57,7 +57,11 @@ struct EditorFixture : testing::Test {
                              .help = help,
                              .systemInfo = systemInfo}};
 
-    void SetUp() override { main.Form_Load(""); }
+    void SetUp() override
+    {
+        live.PictureFiles = &pictures;
+        main.Form_Load("");
+    }
 
     // A new element of that kind, selected.
     template <class E> E& Insert()

@@ -20,6 +20,11 @@ public:
     void Visit(std::string_view name, bool value) override { Add(name, value ? "true" : "false"); }
     void Visit(std::string_view name, std::int32_t value) override { Add(name, std::to_string(value)); }
     void Visit(std::string_view name, float value) override { Add(name, std::to_string(static_cast<int>(value))); }
+    void Visit(std::string_view name, double value) override { Add(name, std::to_string(static_cast<int>(value))); }
+    void Visit(std::string_view name, const PictureRef& value) override
+    {
+        Add(name, value == nullptr ? "none" : value->Path());
+    }
     void Visit(std::string_view name, Color value) override { Add(name, std::to_string(value.value)); }
     void Visit(std::string_view name, const Font& value) override { Add(name, value.Name); }
     void Visit(std::string_view name, const std::string& value) override { Add(name, value); }

@@ -42,6 +42,11 @@ public:
     void Visit(std::string_view name, float value) override { Say(name, ValueText(value)); }
     void Visit(std::string_view name, Color value) override { Say(name, ValueText(value)); }
     void Visit(std::string_view name, const std::string& value) override { Say(name, ValueText(value)); }
+    void Visit(std::string_view name, double value) override { Say(name, ValueText(value)); }
+    void Visit(std::string_view name, const PictureRef& value) override
+    {
+        Say(name, ValueText(value == nullptr ? std::string{} : value->Path()));
+    }
     void Visit(std::string_view name, const Font& value) override
     {
         VisitFont(value, [&](std::string_view attribute, const std::string& text) {

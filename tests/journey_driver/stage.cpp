@@ -63,6 +63,7 @@ Stage::Stage(Output& output, std::string folder)
       m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock}, programFolder, "user"),
       m_tracer(std::make_unique<WidgetTracer>(*this))
 {
+    m_live.PictureFiles = &pictures;
     ListenToPorts();
 }
 

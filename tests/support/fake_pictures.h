@@ -19,6 +19,7 @@ public:
     int width;
     int height;
 
+    const std::string& Path() const override { return path; }
     int PixelWidth() const override { return width; }
     int PixelHeight() const override { return height; }
 };

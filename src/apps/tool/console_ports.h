@@ -56,8 +56,11 @@ public:
 
 private:
     class Empty final : public Picture {
+        const std::string& Path() const override { return m_path; }
         int PixelWidth() const override { return 0; }
         int PixelHeight() const override { return 0; }
+
+        std::string m_path;
     };
 };
 

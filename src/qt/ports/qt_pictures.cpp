@@ -12,11 +12,15 @@ namespace {
 
 class QtPicture final : public Picture {
 public:
-    explicit QtPicture(QImage imageOf) : image(std::move(imageOf)) {}
+    QtPicture(std::string path, QImage imageOf) : image(std::move(imageOf)), m_path(std::move(path)) {}
+    const std::string& Path() const override { return m_path; }
     int PixelWidth() const override { return image.width(); }
     int PixelHeight() const override { return image.height(); }
 
     const QImage image;
+
+private:
+    std::string m_path;
 };
 
 void CheckExists(const QString& path)
@@ -49,7 +53,7 @@ PictureRef QtPictures::LoadPicture(const std::string& path)
     if (image.isNull()) {
         throw Failure(failures::invalidPicture);
     }
-    return std::make_shared<QtPicture>(std::move(image));
+    return std::make_shared<QtPicture>(path, std::move(image));
 }
 
 const QImage& ImageOf(const Picture& picture)
