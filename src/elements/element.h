@@ -79,6 +79,9 @@ public:
     // Asks the sources for current values.
     virtual void RefreshData() { ClickAction.RefreshData(); }
 
+    // What a click of the user makes of the widget by itself; ClickAction is run apart from it.
+    virtual void ClickControl() {}
+
     // Repaints the widget if it shows what lies behind it.
     virtual void RepaintWhatShowsThrough() {}
 
