@@ -44,12 +44,12 @@ public:
     // The record type and number of the kind.
     virtual std::uint8_t ElementType() const noexcept = 0;
 
-    // Stores the value and writes it to the widget at once.
+    // Stores the value and writes it to the widget at once, unless it is a font.
     template <class E, class S> void Set(S E::*setting, typename S::Value value)
     {
         auto& self = static_cast<E&>(*this);
         PropertyAccess::Value(self.*setting) = std::move(value);
-        if constexpr (requires { (self.*setting).Show(self); }) {
+        if constexpr (requires { requires S::showsAtOnce; }) {
             (self.*setting).Show(self);
         }
     }

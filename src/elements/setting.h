@@ -5,6 +5,7 @@
 //     Setting<"ColorActive", Color, &RoundLed::ActiveColor> ColorActive;
 
 #include "base/property.h"
+#include "base/values.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -36,6 +37,9 @@ template <FixedString Name, class T, auto WidgetProperty = nullptr, class Rule =
 class Setting : public Property<Name, T> {
 public:
     static constexpr bool isShown = !std::is_same_v<decltype(WidgetProperty), std::nullptr_t>;
+
+    // A font is the element's own: what is set reaches the widget with UpdateFont or WriteControlProps.
+    static constexpr bool showsAtOnce = isShown && !std::is_same_v<T, Font>;
 
     using Property<Name, T>::Property;
 

@@ -1,5 +1,6 @@
 #include "pages/page.h"
 
+#include "pages/font_dialog.h"
 #include "platform/common_dialog.h"
 
 #include <algorithm>
@@ -25,6 +26,8 @@ constexpr int frameHeight = 31; // rule, title and the room around it
 constexpr int panelWidth = 320;
 
 constexpr std::int32_t pictureFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
+constexpr std::int32_t fontFlags = dialog_flags::screenFonts;
+constexpr std::int32_t fontAndColorFlags = dialog_flags::screenFonts | dialog_flags::fontEffects;
 constexpr const char* pictureFilter =
     "All Picture Files|*.bmp;*.dib;*.gif;*.jpg;*.wmf;*.emf;*.ico;*.cur|Bitmaps (*.bmp, *.dib)|*.bmp;*.dib|"
     "GIF Images (*.gif)|*.gif|JPEG Images (*.jpg)|*.jpg|Metafiles (*.wmf, *.emf)|*.wmf;*.emf|"
@@ -193,6 +196,23 @@ void Page::BrowseColor(std::string_view swatch, std::string_view button, std::fu
         write(dialog.Color);
     });
     Handle(shown.Click, swatch, [&browse] { browse.Push(); });
+}
+
+void Page::AskForFont(Font& font, const Swatch* color)
+{
+    CommonDialog& dialog = m_host.dlgProp();
+    FontToDialog(font, dialog);
+    dialog.Flags = color == nullptr ? fontFlags : fontAndColorFlags;
+    if (color != nullptr) {
+        dialog.Color = color->BackColor();
+    }
+    dialog.ShowFont();
+    FontFromDialog(dialog, font);
+}
+
+Color Page::DialogColor()
+{
+    return m_host.dlgProp().Color;
 }
 
 void Page::BrowsePicture(std::string_view field, std::string_view button)

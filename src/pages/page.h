@@ -72,6 +72,9 @@ protected:
 
     // A click on the swatch is one on its button, where that is enabled.
     void BrowseColor(std::string_view swatch, std::string_view button, std::function<void(Color)> write);
+    // The font dialog, which takes the font over, with the swatch's colour where there is a swatch.
+    void AskForFont(Font& font, const Swatch* color);
+    Color DialogColor();
     // The open dialog for pictures; what is chosen is set in the field, whose handler writes it.
     void BrowsePicture(std::string_view field, std::string_view button);
 
@@ -173,6 +176,29 @@ protected:
                  });
     }
 
+    template <class S>
+    void NumberRow(std::string_view name, std::string_view caption, std::string_view unit, double least, double most,
+                   S Owner::*setting, int decimals = 0)
+    {
+        NumberField& field = MakeNumber(name, caption, unit, least, most, decimals);
+        Handle(field.Change, name, [=, this, &field] { Write(setting, Narrow<typename S::Value>(field.Value())); });
+        Read(name, [=, this, &field] { field.Value(Value(setting)); });
+    }
+
+    // The field shows the font's name. Owner::UpdateFont gives the font to the widget.
+    template <class F> void FontRow(std::string_view name, std::string_view button, F Owner::*font)
+    {
+        FontOn(name, button, font, {}, nullptr);
+    }
+
+    // With the colour of the text, which has its own swatch on a row below.
+    template <class F, class C>
+    void FontRow(std::string_view name, std::string_view button, F Owner::*font, std::string_view swatch,
+                 C Owner::*color)
+    {
+        FontOn(name, button, font, swatch, color);
+    }
+
     template <class S> void TextRow(std::string_view name, std::string_view caption, S Owner::*setting)
     {
         TextOn(MakeText(name, caption), name, setting);
@@ -205,6 +231,25 @@ private:
             }
         });
         Read(name, [=, this, &swatch] { swatch.Set(&Swatch::BackColor, Value(setting)); });
+    }
+
+    template <class F, class C>
+    void FontOn(std::string_view name, std::string_view button, F Owner::*font, std::string_view swatch, C color)
+    {
+        TextBox& text = MakeBrowsed(name, button, "Font:", true);
+        Handle(On<Button>(button).Click, button, [=, this, &text, swatch = std::string(swatch)] {
+            Font chosen = Value(font);
+            Swatch* shown = swatch.empty() ? nullptr : &On<Swatch>(swatch);
+            AskForFont(chosen, shown);
+            Write(font, chosen);
+            text.Text(chosen.Name);
+            if constexpr (!std::is_null_pointer_v<C>) {
+                shown->Set(&Swatch::BackColor, DialogColor());
+                Write(color, DialogColor());
+            }
+            TheOwner().UpdateFont();
+        });
+        Read(name, [=, this, &text] { text.Text(Value(font).Name); });
     }
 
     template <class S> void TextOn(TextBox& text, std::string_view name, S Owner::*setting)

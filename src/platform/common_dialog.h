@@ -33,13 +33,15 @@ public:
     virtual void ShowFont() = 0;
 };
 
-// What `Flags` asks of the file dialogs.
+// What `Flags` asks of the file dialogs, and of the font dialog.
 namespace dialog_flags {
 inline constexpr std::int32_t overwritePrompt = 0x2;
 inline constexpr std::int32_t hideReadOnly = 0x4;
 inline constexpr std::int32_t pathMustExist = 0x800;
 inline constexpr std::int32_t fileMustExist = 0x1000;
 inline constexpr std::int32_t noReadOnlyReturn = 0x8000;
+inline constexpr std::int32_t screenFonts = 0x1;
+inline constexpr std::int32_t fontEffects = 0x100; // underline, strikethrough and colour
 } // namespace dialog_flags
 
 } // namespace quor

@@ -1,16 +1,10 @@
 #pragma once
 // A round lamp: lit in one colour, unlit in another that it can work out by itself.
 
+#include "widgets/bevels.h"
 #include "widgets/widget.h"
 
 namespace quor {
-
-// How an edge looks; the numbers are those of the files.
-namespace bevels {
-inline constexpr std::int32_t none = 0;
-inline constexpr std::int32_t raised = 1;
-inline constexpr std::int32_t lowered = 2;
-} // namespace bevels
 
 class RoundLed final : public WidgetOf<RoundLed> {
 public:
