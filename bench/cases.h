@@ -19,6 +19,7 @@ extern const Family loading;
 extern const Family saving;
 extern const Family editing;
 extern const Family panel;
+extern const Family frames;
 extern const Family starting;
 
 } // namespace quor::bench

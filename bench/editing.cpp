@@ -5,7 +5,6 @@
 #include "bench/world.h"
 
 #include <algorithm>
-#include <ctime>
 #include <random>
 
 namespace quor::bench {
@@ -13,14 +12,6 @@ namespace quor::bench {
 namespace {
 
 constexpr std::int64_t sampleSize = 500;
-
-// Of the processor's time, so that a busy machine doesn't show.
-double Now()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-}
 
 // So many names, evenly spread over the view and in a mixed order.
 std::vector<std::string> SomeNames(std::int64_t count)
@@ -56,11 +47,11 @@ void Insert(benchmark::State& state)
     Collection& leds = LedsOf(world.View());
     std::vector<std::string> names(sampleSize);
     for (auto _ : state) {
-        const double start = Now();
+        const double start = ProcessorTime();
         for (std::string& name : names) {
             name = leds.Add(0, 0, "", true).ObjName();
         }
-        state.SetIterationTime(Now() - start);
+        state.SetIterationTime(ProcessorTime() - start);
         for (const std::string& name : names) {
             leds.Remove(name);
         }
@@ -76,11 +67,11 @@ void Delete(benchmark::State& state)
     Collection& leds = LedsOf(world.View());
     const std::vector<std::string> names = SomeNames(state.range(0));
     for (auto _ : state) {
-        const double start = Now();
+        const double start = ProcessorTime();
         for (const std::string& name : names) {
             leds.Remove(name);
         }
-        state.SetIterationTime(Now() - start);
+        state.SetIterationTime(ProcessorTime() - start);
         for (const std::string& name : names) {
             leds.Add(0, 0, name, true);
         }

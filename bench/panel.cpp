@@ -59,16 +59,10 @@ void Measure(Results& results)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion"))); // of the cases that follow
 }
 
-Row Within(const Results& results, const char* name, double allowed)
-{
-    const double seconds = results.Seconds(Sized(name, elements));
-    return {name, std::to_string(elements), Duration(seconds), Duration(allowed) + " allowed", seconds / allowed, 1};
-}
-
 void AddRows(const Results& results, std::vector<Row>& rows)
 {
-    rows.push_back(Within(results, inModels, 1e-3));
-    rows.push_back(Within(results, onPanel, 16e-3));
+    rows.push_back(Within(results, inModels, elements, 1e-3));
+    rows.push_back(Within(results, onPanel, elements, 16e-3));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 
 namespace quor::bench {
 
@@ -27,6 +28,13 @@ double Results::Seconds(const std::string& name) const
     const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
     std::nth_element(seconds.begin(), middle, seconds.end());
     return *middle;
+}
+
+double ProcessorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
 std::string Duration(double seconds)

@@ -41,6 +41,9 @@ struct Row {
 
 void PrintRows(const std::vector<Row>& rows);
 
+// Seconds that this thread has had of a processor: a busy machine shows less than on a clock.
+double ProcessorTime();
+
 // "0.41 us", "1.2 ms": three digits and the unit that fits.
 std::string Duration(double seconds);
 

@@ -38,6 +38,12 @@ Row NotOver(const Results& results, const std::string& name, std::int64_t size, 
     return row;
 }
 
+Row Within(const Results& results, const std::string& name, std::int64_t size, double allowed)
+{
+    const double seconds = results.Seconds(Sized(name, size));
+    return {name, std::to_string(size), Duration(seconds), Duration(allowed) + " allowed", seconds / allowed, 1};
+}
+
 Row Grown(const Results& results, const std::string& name, double steps, double limit)
 {
     const auto [few, many] = std::pair(memorySizes[0], memorySizes[1]);

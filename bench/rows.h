@@ -24,6 +24,9 @@ Row FasterThan(const Results& results, const std::string& name, std::int64_t siz
 // How many times the floor's time the case takes.
 Row NotOver(const Results& results, const std::string& name, std::int64_t size, const std::string& floor, double limit);
 
+// The time against the time allowed, in seconds.
+Row Within(const Results& results, const std::string& name, std::int64_t size, double allowed);
+
 // How the cost among many stands to the cost among few; the benchmark's run has so many steps.
 Row Grown(const Results& results, const std::string& name, double steps, double limit);
 

@@ -46,6 +46,7 @@ public:
     // A fresh document; the old one and its widgets are gone.
     void Renew();
     EditorPorts PortsOfEditor();
+    FakeTimers& Timers() noexcept { return m_timers; }
 
 private:
     Files& m_files;

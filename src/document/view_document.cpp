@@ -136,7 +136,9 @@ void clsCustView::RefreshAll()
 
 void clsCustView::RepaintAll()
 {
-    const CanvasHold hold(m_canvas);
+    if (m_canvas.Tracer() == nullptr) {
+        return; // nobody would hear: the canvas knows already what has changed
+    }
     for (const std::uint8_t type : repaintOrder) {
         for (const std::unique_ptr<Element>& element : *m_collections[type]) {
             element->RepaintWhatShowsThrough();

@@ -4,12 +4,17 @@
 #include "widgets/widget_array.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace quor {
 
 namespace {
 // Far beyond any canvas: stands for all of it.
 constexpr Area everywhere{-1e9F, -1e9F, 2e9F, 2e9F};
+
+// As many as the handles of two widgets; with more, the parts become one.
+constexpr std::size_t mostParts = 2 * Canvas::handleCount;
 
 // Places of a file can be any numbers, or none. Beyond this, what lies elsewhere would get lost in the rounding.
 bool IsPlain(const Area& area) noexcept
@@ -100,29 +105,38 @@ void Canvas::ShiftBy(float x, float y)
 
 void Canvas::SetBackColor(Color color)
 {
-    m_backColor = color;
-    InvalidateAll();
+    if (std::exchange(m_backColor, color) != color) {
+        InvalidateAll();
+    }
 }
 
 void Canvas::SetPicture(PictureRef picture, std::int32_t mode)
 {
+    const bool isOther = picture != m_picture || (picture != nullptr && mode != m_pictureMode);
     m_picture = std::move(picture);
     m_pictureMode = mode;
-    InvalidateAll();
+    if (isOther) {
+        InvalidateAll();
+    }
 }
 
 void Canvas::SetBackground(PictureRef picture, bool visible)
 {
+    const bool isOther = picture != m_background.picture || (picture != nullptr && visible != m_background.visible);
     m_background.picture = std::move(picture);
     m_background.visible = visible;
-    InvalidateAll();
+    if (isOther) {
+        InvalidateAll();
+    }
 }
 
 void Canvas::PlaceBackground(float left, float top)
 {
     m_background.left = left;
     m_background.top = top;
-    InvalidateAll();
+    if (m_background.picture != nullptr) {
+        InvalidateAll();
+    }
 }
 
 void Canvas::Attach(Widget& widget) noexcept
@@ -204,8 +218,10 @@ void Canvas::SetFrame(const SizingFrame& frame)
 
 void Canvas::SetGrid(const GridLines& grid)
 {
-    m_grid = grid;
-    InvalidateAll();
+    if (grid != m_grid) {
+        m_grid = grid;
+        InvalidateAll();
+    }
 }
 
 void Canvas::Invalidate(const Area& area)
@@ -215,8 +231,12 @@ void Canvas::Invalidate(const Area& area)
         Changed.Raise(stale);
         return;
     }
-    m_stale = m_isStale ? United(m_stale, stale) : stale;
-    m_isStale = true;
+    if (m_stale.size() < mostParts) {
+        m_stale.push_back(stale);
+    } else {
+        m_stale.front() = std::accumulate(m_stale.begin(), m_stale.end(), stale, United);
+        m_stale.resize(1);
+    }
 }
 
 void Canvas::InvalidateAll()
@@ -226,9 +246,11 @@ void Canvas::InvalidateAll()
 
 void Canvas::Release()
 {
-    if (--m_holds == 0 && m_isStale) {
-        m_isStale = false;
-        Changed.Raise(m_stale);
+    if (--m_holds > 0) {
+        return;
+    }
+    for (const Area& part : std::exchange(m_stale, {})) {
+        Changed.Raise(part);
     }
 }
 

@@ -3,7 +3,8 @@
 // frame in which a widget is sized.
 //
 // All places are in twips within the visible part. Scrolling moves what lies on the canvas. `Changed` says which part
-// must be painted again; while a hold is on, it waits and comes once.
+// must be painted again; while a hold is on, it waits and comes at the end: once for each of a few parts, or once for
+// all of them.
 
 #include "base/event.h"
 #include "base/values.h"
@@ -60,6 +61,7 @@ struct GridLines {
     float width = 0;
     float height = 0;
     bool visible = false;
+    friend bool operator==(const GridLines&, const GridLines&) = default;
 };
 
 class Canvas {
@@ -147,11 +149,10 @@ private:
     std::int32_t m_scrollMaxY = 0;
     WidgetTrace* m_tracer = nullptr;
     int m_holds = 0;
-    bool m_isStale = false; // something changed during the hold
-    Area m_stale;
+    std::vector<Area> m_stale; // what changed during the hold
 };
 
-// Keeps `Changed` back while it lives; then it comes once for all.
+// Keeps `Changed` back while it lives.
 class CanvasHold {
 public:
     explicit CanvasHold(Canvas& canvas) noexcept : m_canvas(canvas) { ++m_canvas.m_holds; }

@@ -42,12 +42,11 @@ void Widget::InvalidateShown() const
     m_canvas->Invalidate(Bounds());
 }
 
-void Widget::Repaint()
+void Widget::Repaint() const
 {
     if (WidgetTrace* trace = Tracer()) {
         trace->Repaints(*this);
     }
-    Invalidate();
 }
 
 WidgetTrace* Widget::Tracer() const noexcept

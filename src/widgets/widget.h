@@ -72,9 +72,10 @@ public:
     Widget* Above() const noexcept { return m_above; }
     Widget* Below() const noexcept { return m_below; }
 
-    // Repaint at once, and with what lies behind.
-    void RepaintNow() { Repaint(); }
-    void RepaintAll() { Repaint(); }
+    // Asks for it to be painted, and with what lies behind. Only a tracer hears: whatever changes how a widget or what
+    // lies behind it looks has told the canvas by itself, so nothing is painted twice or in vain.
+    void RepaintNow() const { Repaint(); }
+    void RepaintAll() const { Repaint(); }
 
     // Whether the user may move it among the others, to the front or to the back.
     virtual bool MayBeReordered() const { return true; }
@@ -105,7 +106,7 @@ private:
     friend class WidgetArray;
 
     void InvalidateShown() const;
-    void Repaint();
+    void Repaint() const;
     WidgetTrace* Tracer() const noexcept;
 
     template <class T> void Trace(std::string_view name, const T& value) const

@@ -116,35 +116,46 @@ void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, con
     painter.setOpacity(1);
 }
 
-void PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& view, const QRegion& region,
-                  const CanvasLook& look)
+Area TwipsOf(const QRect& pixels)
 {
+    return {static_cast<float>(pixels.x()) * twipsPerPixelX, static_cast<float>(pixels.y()) * twipsPerPixelY,
+            static_cast<float>(pixels.width()) * twipsPerPixelX, static_cast<float>(pixels.height()) * twipsPerPixelY};
+}
+
+std::size_t PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& view, const QRegion& region,
+                         const CanvasLook& look)
+{
+    std::size_t painted = 0;
+    const Area dirty = TwipsOf(region.boundingRect().adjusted(-2, -2, 2, 2));
     for (const Widget* widget = canvas.Back(); widget != nullptr; widget = widget->Above()) {
-        if (!widget->Visible()) {
+        if (!widget->Visible() || !Overlap(widget->Bounds(), dirty)) {
             continue;
         }
         const QRectF area = PixelsOf(widget->Bounds());
         if (!IsPaintable(area) || !region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
             continue;
         }
+        ++painted;
         if (widget == look.faded) {
             PaintFaded(painter, *widget, area, view);
         } else {
             PaintWidget(painter, *widget, area);
         }
     }
+    return painted;
 }
 
 } // namespace
 
-void PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
-                 const CanvasLook& look)
+std::size_t PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
+                        const CanvasLook& look)
 {
     const QRect dirty = region.boundingRect();
     PaintGround(painter, canvas, view, dirty);
     PaintGrid(painter, canvas, dirty);
-    PaintWidgets(painter, canvas, QRect(QPoint(0, 0), view), region, look);
+    const std::size_t painted = PaintWidgets(painter, canvas, QRect(QPoint(0, 0), view), region, look);
     DrawSelection(painter, canvas);
+    return painted;
 }
 
 } // namespace quor

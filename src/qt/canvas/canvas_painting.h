@@ -1,6 +1,8 @@
 #pragma once
 // Draws the canvas: ground, pictures, grid, the widgets from back to front, and the marks of the selection.
 
+#include <cstddef>
+
 class QPainter;
 class QRegion;
 class QSize;
@@ -15,8 +17,8 @@ struct CanvasLook {
     const Widget* faded = nullptr; // the one that is being moved
 };
 
-// Only what lies in the region, which is in pixels of the view.
-void PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
-                 const CanvasLook& look);
+// Only what lies in the region, which is in pixels of the view. Says how many widgets were drawn.
+std::size_t PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
+                        const CanvasLook& look);
 
 } // namespace quor

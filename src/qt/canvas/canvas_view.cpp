@@ -102,8 +102,8 @@ void CanvasView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     const bool isMoving = m_outline && m_outline->what == DragOutline::What::Move;
-    PaintCanvas(painter, m_canvas, viewport()->size(), event->region(),
-                {.faded = isMoving ? m_main.SelectedWidget() : nullptr});
+    m_painted += PaintCanvas(painter, m_canvas, viewport()->size(), event->region(),
+                             {.faded = isMoving ? m_main.SelectedWidget() : nullptr});
     if (m_outline) {
         DrawOutline(painter, *m_outline);
         const QFont font = m_theme.TextFont();

@@ -26,6 +26,9 @@ public:
     void TrackDrag(const QPointF& global);
     void EndDrag(const QPointF& global);
 
+    // How many widgets have been drawn since the view was made: tells what a change costs.
+    std::uint64_t PaintedWidgets() const noexcept { return m_painted; }
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -61,6 +64,7 @@ private:
     QPointF m_pointer;
     std::optional<DragOutline> m_outline;
     QRectF m_shownFrame;
+    std::uint64_t m_painted = 0;
     std::vector<Subscription> m_subscriptions;
 };
 

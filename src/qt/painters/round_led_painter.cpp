@@ -1,6 +1,7 @@
 #include "qt/painters/round_led_painter.h"
 
 #include "qt/painters/device_space.h"
+#include "qt/painters/kept_picture.h"
 #include "qt/painters/mixing.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/round_led.h"
@@ -28,6 +29,17 @@ struct Lamp {
     bool isLit;
     bool isMuted;
     bool reflects;
+
+    QRect Place() const
+    {
+        return QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius).toAlignedRect();
+    }
+
+    PictureKey Key() const
+    {
+        PictureKey key(QLatin1StringView("lamp"));
+        return key << radius << lens << rim << color << bevel << isLit << isMuted << reflects;
+    }
 };
 
 // In device-independent pixels.
@@ -178,10 +190,12 @@ void PaintRoundLed(QPainter& painter, const RoundLed& led, const QRectF& area)
         return;
     }
     const Lamp lamp = LampOf(led, space, area);
-    painter.setRenderHint(QPainter::Antialiasing);
-    PaintBezel(painter, lamp);
-    PaintLens(painter, lamp);
-    PaintReflection(painter, lamp);
+    DrawKept(painter, lamp.Place(), lamp.Key(), [&](QPainter& onPicture) {
+        onPicture.setRenderHint(QPainter::Antialiasing);
+        PaintBezel(onPicture, lamp);
+        PaintLens(onPicture, lamp);
+        PaintReflection(onPicture, lamp);
+    });
 }
 
 } // namespace quor
