@@ -6,6 +6,7 @@
 #include "binding/masks.h"
 #include "binding/server.h"
 #include "binding/sites.h"
+#include "binding/source_trace.h"
 
 namespace quor {
 
@@ -88,6 +89,9 @@ std::weak_ptr<char> clsBlnDataSource::Life()
 
 void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
 {
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->UpdateBlnData(*this, value, mute);
+    }
     UpdateBlnData.Raise(value, mute);
     // The owner is last: it may end the source.
     IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
@@ -95,6 +99,9 @@ void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
 
 void clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
 {
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->LabelData(*this, on, off);
+    }
     LabelData.Raise(on, off);
     IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
 }

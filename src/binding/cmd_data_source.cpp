@@ -5,6 +5,7 @@
 #include "binding/live.h"
 #include "binding/server.h"
 #include "binding/sites.h"
+#include "binding/source_trace.h"
 #include "document/format/view_title.h"
 #include "platform/boxes.h"
 #include "platform/login.h"
@@ -69,7 +70,18 @@ void clsCmdDataSource::UpdateEnable()
 {
     m_lockReason = WorkOutLock();
     m_enabled = CmdDataType() != actions::none && m_lockReason.empty();
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->ToggleEnable(*this, m_enabled);
+    }
     ToggleEnable.Raise(m_enabled);
+}
+
+void clsCmdDataSource::RaiseLabel(const std::string& caption)
+{
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->LabelData(*this, caption);
+    }
+    LabelData.Raise(caption);
 }
 
 std::string clsCmdDataSource::WorkOutLock() const
@@ -119,20 +131,20 @@ void clsCmdDataSource::Refresh()
         break;
     case actions::stopAllMacros:
         SiteRemote = !TheUnit().LocalMode();
-        LabelData.Raise("Stop Macros on " + UnitCaption(m_live.Server, Site(), Unit()));
+        RaiseLabel("Stop Macros on " + UnitCaption(m_live.Server, Site(), Unit()));
         break;
     case actions::clearSiteAlarms:
-        LabelData.Raise("Clear Alarms on " + Site());
+        RaiseLabel("Clear Alarms on " + Site());
         break;
     case actions::clearUnitAlarms:
-        LabelData.Raise("Clear Alarms on " + UnitCaption(m_live.Server, Site(), Unit()));
+        RaiseLabel("Clear Alarms on " + UnitCaption(m_live.Server, Site(), Unit()));
         break;
     case actions::clearAllAlarms:
-        LabelData.Raise("Clear All Alarms");
+        RaiseLabel("Clear All Alarms");
         break;
     case actions::openView: {
         const std::string title = m_live.ViewFiles == nullptr ? "" : ReadViewTitle(*m_live.ViewFiles, Site()).name;
-        LabelData.Raise(title.empty() ? "ERROR - Invalid File" : "Open " + title);
+        RaiseLabel(title.empty() ? "ERROR - Invalid File" : "Open " + title);
         break;
     }
     default:
@@ -149,7 +161,7 @@ void clsCmdDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     const std::int32_t index = Channel() - 1;
     const auto label = [&](const std::string& before, const std::string& text) {
         LabelsKnown = true;
-        LabelData.Raise(before + text);
+        RaiseLabel(before + text);
     };
     switch (CmdDataType()) {
     case actions::commandA:

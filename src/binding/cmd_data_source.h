@@ -74,6 +74,7 @@ private:
     void m_Login_LogOn(bool blnSuccess);
 
     void Follow();
+    void RaiseLabel(const std::string& caption);
     void UpdateEnable();
     void UpdatePrivilege();
     std::string WorkOutLock() const;

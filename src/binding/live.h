@@ -12,6 +12,8 @@ class Files;
 class MessageBoxes;
 class Pictures;
 class QuorLogin;
+class SourceTrace;
+class TeskCatalogHost;
 class TeskServer;
 class TeskSiteCatalog;
 
@@ -23,12 +25,14 @@ struct Live {
 
     // Not owned; null where there is none.
     TeskServer* Server = nullptr;
-    TeskSiteCatalog* Catalog = nullptr;
+    TeskCatalogHost* CatalogHost = nullptr;
+    TeskSiteCatalog* Catalog = nullptr; // once the host was asked for it
     QuorLogin* Login = nullptr;
     MessageBoxes* Boxes = nullptr;
     Pictures* PictureFiles = nullptr; // for elements that show a file
     Files* ViewFiles = nullptr;       // for the titles of views that a click would open
     std::function<void(const std::string&)> LoadCustomView;
+    SourceTrace* Trace = nullptr;
 
     // Brings the server's events to the sources.
     Router Routes;

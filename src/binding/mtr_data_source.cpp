@@ -5,6 +5,7 @@
 #include "binding/live.h"
 #include "binding/masks.h"
 #include "binding/server.h"
+#include "binding/source_trace.h"
 
 namespace quor {
 
@@ -38,13 +39,29 @@ void clsMtrDataSource::Follow()
     }
 }
 
+void clsMtrDataSource::RaiseUpdate(float value, bool mute)
+{
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->UpdateMtrData(*this, value, mute);
+    }
+    UpdateMtrData.Raise(value, mute);
+}
+
+void clsMtrDataSource::RaiseDecimalPlaces()
+{
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->DecPlacesChanged(*this, DecimalPlaces());
+    }
+    DecPlacesChanged.Raise(DecimalPlaces());
+}
+
 void clsMtrDataSource::RefreshData()
 {
     if (HasData) {
         return;
     }
     if (!IgnoreFailure([&] { m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig(); })) {
-        IgnoreFailure([&] { UpdateMtrData.Raise(NoData, true); });
+        IgnoreFailure([&] { RaiseUpdate(NoData, true); });
     }
 }
 
@@ -57,8 +74,17 @@ void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     const float count = event.CalibConst.FromLower(index);
     const bool isSigned = event.MtrTypes.FromLower(index) == bothWays;
     const auto limit = [&](std::int32_t row) { return event.Limits.FromLower(index, row); };
-    LabelData.Raise({event.MtrLabels.FromLower(index), isSigned ? count * leastSigned : 0,
-                     count * (isSigned ? mostSigned : mostUnsigned), limit(0), limit(1), limit(2), limit(3)});
+    const MeterLabel label{event.MtrLabels.FromLower(index),
+                           isSigned ? count * leastSigned : 0,
+                           count * (isSigned ? mostSigned : mostUnsigned),
+                           limit(0),
+                           limit(1),
+                           limit(2),
+                           limit(3)};
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->LabelData(*this, label);
+    }
+    LabelData.Raise(label);
 }
 
 void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)
@@ -68,14 +94,14 @@ void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)
     }
     HasData = true;
     const bool mute = BitOf(event.MeterMutes, Channel());
-    UpdateMtrData.Raise(event.MeterValues.FromLower(Channel() - 1), mute);
+    RaiseUpdate(event.MeterValues.FromLower(Channel() - 1), mute);
 }
 
 void clsMtrDataSource::m_Srv_Disconnected(const std::string& netName, std::int32_t /*reason*/)
 {
     if (netName == Site()) {
         HasData = false;
-        UpdateMtrData.Raise(NoData, true);
+        RaiseUpdate(NoData, true);
     }
 }
 

@@ -47,7 +47,7 @@ public:
     {
         PropertyAccess::Value(this->*property) = std::move(value);
         if constexpr (P::name == "DecimalPlaces") {
-            DecPlacesChanged.Raise(DecimalPlaces());
+            RaiseDecimalPlaces();
         } else {
             Follow();
         }
@@ -62,6 +62,8 @@ private:
     void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
 
     void Follow();
+    void RaiseUpdate(float value, bool mute);
+    void RaiseDecimalPlaces();
 
     Live& m_live;
     bool HasData = false; // values have come, and the link hasn't been lost since

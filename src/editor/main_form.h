@@ -158,6 +158,7 @@ private:
     using DragSource = std::variant<std::monostate, Widget*, std::size_t>;
 
     void LoadSettings();
+    void ObtainCatalog();
     void BindBars();
     void ReadCommandLine(const std::string& tail);
     std::unique_ptr<clsCustView> MakeView();

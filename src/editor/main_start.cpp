@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "base/narrow.h"
 #include "base/text.h"
+#include "binding/catalog.h"
 #include "binding/live.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
@@ -46,6 +47,7 @@ frmMain::frmMain(const EditorPorts& ports)
 frmMain::~frmMain()
 {
     IgnoreFailure([&] { m_view.reset(); });
+    m_ports.live.LoadCustomView = nullptr;
 }
 
 void frmMain::Form_Load(const std::string& tail)
@@ -67,8 +69,22 @@ void frmMain::Form_Load(const std::string& tail)
         m_view->Set(&clsCustView::BGColor, m_canvas.BackColor());
         m_view->Set(&clsCustView::ViewName, "My View");
         ReleaseControl();
+        ObtainCatalog();
         ReadCommandLine(tail);
     });
+}
+
+void frmMain::ObtainCatalog()
+{
+    Live& live = m_ports.live;
+    live.LoadCustomView = [this](const std::string& name) { LoadCustomView(name); };
+    if (live.CatalogHost == nullptr) {
+        return;
+    }
+    live.Catalog = &live.CatalogHost->GetCatalog();
+    live.Catalog->ReloadSites();
+    TeskSiteList sites;
+    live.Catalog->GetSites(sites);
 }
 
 void frmMain::LoadSettings()

@@ -31,9 +31,39 @@ private:
         return !m_rest.empty();
     }
 
+    // The length of a JSON array at the front, 0 if there is none.
+    std::size_t ArrayLength() const
+    {
+        int depth = 0;
+        bool isInText = false;
+        for (std::size_t at = 0; at < m_rest.size(); ++at) {
+            const char letter = m_rest[at];
+            if (isInText) {
+                at += letter == '\\' ? 1 : 0;
+                isInText = letter != '"';
+            } else if (letter == '"') {
+                isInText = true;
+            } else if (letter == '[') {
+                ++depth;
+            } else if (letter == ']') {
+                --depth;
+            }
+            if (depth == 0) {
+                return at == 0 ? 0 : at + 1;
+            }
+        }
+        return 0;
+    }
+
     Word Plain()
     {
-        const std::string_view word = m_rest.substr(0, m_rest.find_first_of(blanks));
+        const std::size_t array = ArrayLength();
+        const std::size_t end = m_rest.find_first_of(blanks, array);
+        const std::string_view word = m_rest.substr(0, end);
+        if (array == word.size()) {
+            m_rest.remove_prefix(array);
+            return {std::string(word), false};
+        }
         if (word.find('"') != std::string_view::npos) {
             throw JourneyError("a quote within a word");
         }

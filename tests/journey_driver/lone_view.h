@@ -13,7 +13,7 @@ namespace quor {
 class LoneView {
 public:
     // The trace may be null.
-    LoneView(const ViewPorts& ports, WidgetTrace* trace, const std::string& path)
+    LoneView(const ViewPorts& ports, WidgetTrace* trace)
     {
         constexpr std::int32_t width = 30'000; // twips
         constexpr std::int32_t height = 22'500;
@@ -21,8 +21,9 @@ public:
         m_canvas.SetScrollMaxima(width, height);
         m_canvas.SetTracer(trace);
         m_view = std::make_unique<clsCustView>(ports, m_canvas);
-        m_view->LoadFile(path);
     }
+
+    void Load(const std::string& path) { m_view->LoadFile(path); }
 
     Canvas& OwnCanvas() noexcept { return m_canvas; }
     clsCustView& View() noexcept { return *m_view; }

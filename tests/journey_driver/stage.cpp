@@ -1,5 +1,6 @@
 #include "tests/journey_driver/stage.h"
 
+#include "base/guard.h"
 #include "document/view_document.h"
 #include "editor/application.h"
 #include "editor/main_form.h"
@@ -9,6 +10,8 @@
 #include "support/frm_view_pbar.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/lone_view.h"
+#include "tests/journey_driver/raised_lines.h"
+#include "tests/journey_driver/source_tracer.h"
 #include "tests/journey_driver/widget_tracer.h"
 
 #include <algorithm>
@@ -61,9 +64,15 @@ std::string TabsText(const Band& panel)
 Stage::Stage(Output& output, std::string folder)
     : out(output), m_folder(std::move(folder)),
       m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock}, programFolder, "user"),
-      m_tracer(std::make_unique<WidgetTracer>(*this))
+      m_tracer(std::make_unique<WidgetTracer>(*this)), m_sourceTracer(std::make_unique<SourceTracer>(*this))
 {
+    m_live.Server = &server;
+    m_live.CatalogHost = &server;
+    m_live.Login = &login;
+    m_live.Boxes = &boxes;
     m_live.PictureFiles = &pictures;
+    m_live.ViewFiles = &files;
+    m_live.Trace = m_sourceTracer.get();
     ListenToPorts();
 }
 
@@ -99,6 +108,11 @@ void Stage::ListenToPorts()
     keep(login.LogOnShown.Subscribe([this] {
         if (IsTraced("screen")) {
             out.Line("logon dialog");
+        }
+    }));
+    keep(server.Called.Subscribe([this](const std::string& call) {
+        if (IsTraced("server")) {
+            out.Line("call " + call);
         }
     }));
     keep(boxes.Shown.Subscribe([this](const ShownBox& box) {
@@ -181,6 +195,7 @@ void Stage::Start(const std::string& tail)
         throw JourneyError("the program runs already");
     }
     m_live.DesignMode = false;
+    m_live.Catalog = nullptr;
     m_endIsTold = false;
     m_selected.clear();
     const EditorPorts ports{files,    boxes, dialog,     forms,      timers, screen, pictures,
@@ -227,7 +242,67 @@ void Stage::OpenLive(const std::string& path)
     }
     m_live.DesignMode = false;
     const ViewPorts ports{files, boxes, m_reporter, forms, timers, pictures, m_progress, m_live};
-    m_liveView = std::make_unique<LoneView>(ports, m_tracer.get(), path);
+    m_liveView = std::make_unique<LoneView>(ports, m_tracer.get());
+    m_liveView->Load(path);
+}
+
+void Stage::Raise(const std::function<void()>& raise)
+{
+    if (!IsLive()) { // no source hears it, and what it may load is told as it happens
+        IgnoreFailure(raise);
+        return;
+    }
+    RaisedLines lines;
+    RaisedLines* outer = std::exchange(m_raised, &lines);
+    IgnoreFailure(raise);
+    m_raised = outer;
+    lines.Print(out);
+}
+
+// The position of an element that one of the two recognises; none while it is being made or when it is gone.
+template <class IsIt> const Element* Stage::Find(std::size_t& position, IsIt isIt) const
+{
+    const bool hasView = m_liveView != nullptr || (m_application != nullptr && m_application->MainForm() != nullptr);
+    position = 0;
+    if (hasView) {
+        for (const Element* element : View().CtlOrder()) {
+            if (isIt(*element)) {
+                return element;
+            }
+            ++position;
+        }
+    }
+    return nullptr;
+}
+
+void Stage::Tell(const std::string& name, std::string line)
+{
+    if (m_raised == nullptr) {
+        out.Line(std::move(line));
+        return;
+    }
+    std::size_t position = 0;
+    Find(position, [&](const Element& element) { return element.ObjName() == name; });
+    m_raised->Add(position, std::move(line));
+}
+
+void Stage::Tell(const ServerListener& source, const std::string& words)
+{
+    const auto isOf = [&](const Element& element) {
+        auto& owner = const_cast<Element&>(element);
+        return &source == &element.ClickAction || &source == owner.StatusSource() || &source == owner.MeterSource();
+    };
+    std::size_t position = 0;
+    const Element* element = Find(position, isOf);
+    if (element == nullptr) {
+        return;
+    }
+    if (m_raised != nullptr) {
+        m_raised->Begin(position, &source == &element->ClickAction);
+    }
+    if (IsTraced("sources")) {
+        Tell(element->ObjName(), Quoted(element->ObjName()) + ' ' + words);
+    }
 }
 
 frmMain& Stage::Main() const

@@ -14,10 +14,12 @@
 #include "tests/support/fake_login.h"
 #include "tests/support/fake_pictures.h"
 #include "tests/support/fake_screen.h"
+#include "tests/support/fake_server.h"
 #include "tests/support/fake_settings.h"
 #include "tests/support/fake_system_info.h"
 #include "tests/support/fake_timers.h"
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <span>
@@ -31,6 +33,8 @@ class Canvas;
 class Element;
 class Form;
 class LoneView;
+class RaisedLines;
+class SourceTracer;
 class WidgetTracer;
 class clsCustView;
 class frmMain;
@@ -57,9 +61,10 @@ public:
     FakeClock clock;
     FakeHelp help;
     FakeSystemInfo systemInfo;
-    std::string server;                     // its sites, as JSON
-    std::vector<std::string> reportButtons; // that the user pushes in the next error report
-    std::set<std::string> traced;           // what is traced
+    FakeServer server;
+    std::set<std::int16_t> loginRights = login.rightsHeld; // of whom logs on next
+    std::vector<std::string> reportButtons;                // that the user pushes in the next error report
+    std::set<std::string> traced;                          // what is traced
 
     // A file of the journey's folder; fails with JourneyError.
     bool HasHostFile(const std::string& path) const;
@@ -82,10 +87,19 @@ public:
     Form& FormOf(const std::string& name) const;
 
     bool IsTraced(const std::string& what) const { return traced.contains(what); }
+
+    // A line about an element, by its widget's tag or its source.
+    void Tell(const std::string& element, std::string line);
+    void Tell(const ServerListener& source, const std::string& words);
+
+    // Runs what raises an event: the lines about elements come in the order of the elements.
+    void Raise(const std::function<void()>& raise);
+
     std::vector<std::string> LogLines() const;
     std::vector<std::string> FilePaths() const; // without the log
 
 private:
+    template <class IsIt> const Element* Find(std::size_t& position, IsIt isIt) const;
     void ListenToPorts();
     void ListenTo(frmMain& main);
     void OnForm(Form& form);
@@ -98,6 +112,8 @@ private:
     frmViewPBar m_progress{forms};
     ErrorReporter m_reporter;
     std::unique_ptr<WidgetTracer> m_tracer;
+    std::unique_ptr<SourceTracer> m_sourceTracer;
+    RaisedLines* m_raised = nullptr; // of the event under way
     std::unique_ptr<Application> m_application;
     std::unique_ptr<LoneView> m_liveView;
     std::string m_selected; // the name of the selected element

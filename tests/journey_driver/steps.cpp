@@ -8,7 +8,7 @@ const StepRow& FindStep(std::span<const Word> words)
 {
     const Word& word = words.front();
     for (const auto rows :
-         {PreparingSteps(), RunningSteps(), MouseSteps(), FormSteps(), ShowingSteps(), SettingSteps()}) {
+         {PreparingSteps(), RunningSteps(), LiveSteps(), MouseSteps(), FormSteps(), ShowingSteps(), SettingSteps()}) {
         const auto row = std::ranges::find(rows, word.text, &StepRow::word);
         if (row != rows.end() && !word.isQuoted) {
             const Arguments arguments(words.subspan(1));

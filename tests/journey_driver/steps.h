@@ -21,8 +21,9 @@ struct StepRow {
 const StepRow& FindStep(std::span<const Word> words);
 
 // The rows by what they are about.
-std::span<const StepRow> PreparingSteps(); // settings, login, files, failures, answers
+std::span<const StepRow> PreparingSteps(); // settings, files, failures, answers
 std::span<const StepRow> RunningSteps();   // start, time, tools, close
+std::span<const StepRow> LiveSteps();      // the server, the login, views that run
 std::span<const StepRow> MouseSteps();     // the canvas, the toolbox, keys
 std::span<const StepRow> FormSteps();      // controls of forms
 std::span<const StepRow> ShowingSteps();   // print, trace

@@ -32,36 +32,6 @@ void SetSetting(Stage& stage, const Arguments& arguments)
     }
 }
 
-std::set<std::int16_t> Rights(const Arguments& arguments)
-{
-    std::set<std::int16_t> rights;
-    for (std::size_t index = 1; arguments.Has(index); ++index) {
-        std::int16_t right = 0;
-        ReadValue(arguments[index], right);
-        rights.insert(right);
-    }
-    return rights;
-}
-
-void PrepareLogin(Stage& stage, const Arguments& arguments)
-{
-    stage.login.isLoggedOn = arguments[0] == "on";
-    stage.login.rightsHeld = Rights(arguments);
-}
-
-void LogOn(Stage& stage, const Arguments& arguments)
-{
-    if (arguments.Has(1)) {
-        stage.login.rightsHeld = Rights(arguments);
-    }
-    stage.login.EndLogOn(arguments[0] == "true");
-}
-
-void LogOff(Stage& stage, const Arguments&)
-{
-    stage.login.EndSession();
-}
-
 FakeFiles::Bytes FromHex(std::string_view digits)
 {
     FakeFiles::Bytes bytes;
@@ -103,12 +73,6 @@ void DeleteFile(Stage& stage, const Arguments& arguments)
 void MakeReadOnly(Stage& stage, const Arguments& arguments)
 {
     stage.files.SetReadOnly(arguments[0]);
-}
-
-void HoldServer(Stage& stage, const Arguments& arguments)
-{
-    const FakeFiles::Bytes bytes = stage.HostBytes(arguments[0]);
-    stage.server.assign(bytes.begin(), bytes.end());
 }
 
 struct FailingCall {
@@ -219,10 +183,6 @@ void ScriptDialog(Stage& stage, const Arguments& arguments)
 
 constexpr StepRow rows[] = {
     {"setting", "GridSize|ShowGrid|SnapToGrid|ViewsDirectory|ToolbarDirectory|HelpFile VALUE", SetSetting},
-    {"login", "on|off [RIGHT...]", PrepareLogin},
-    {"logon", "true|false [RIGHT...]", LogOn},
-    {"logoff", "", LogOff},
-    {"server", "FILE", HoldServer},
     {"file", "PATH from|hex TEXT...", MakeFile},
     {"delete", "PATH", DeleteFile},
     {"readonly", "PATH", MakeReadOnly},

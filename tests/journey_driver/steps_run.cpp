@@ -1,6 +1,5 @@
 // Steps that run the program: its start and end, time, tools, live views.
 
-#include "document/view_document.h"
 #include "editor/main_form.h"
 #include "forms/bars.h"
 #include "tests/journey_driver/stage.h"
@@ -60,11 +59,6 @@ void OpenLive(Stage& stage, const Arguments& arguments)
     stage.OpenLive(arguments[0]);
 }
 
-void Refresh(Stage& stage, const Arguments&)
-{
-    stage.View().RefreshAll();
-}
-
 constexpr StepRow rows[] = {
     {"start", "[TAIL...]", Start},
     {"wait", "MS", Wait},
@@ -72,7 +66,6 @@ constexpr StepRow rows[] = {
     {"tab", "NAME", ShowTab},
     {"close", "[user|system|taskmanager|bar]", Close},
     {"live", "PATH", OpenLive},
-    {"refresh", "", Refresh},
 };
 
 } // namespace

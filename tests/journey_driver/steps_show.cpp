@@ -149,7 +149,8 @@ void PrintFile(Stage& stage, const Arguments& arguments)
     Silence reporter;
     frmViewPBar progress(forms);
     Live live{true};
-    LoneView lone(ViewPorts{files, boxes, reporter, forms, timers, pictures, progress, live}, nullptr, path);
+    LoneView lone(ViewPorts{files, boxes, reporter, forms, timers, pictures, progress, live}, nullptr);
+    lone.Load(path);
     if (lone.View().Verdict() == LoadVerdict::Ok) {
         for (const std::string& line : SplitLines(JsonText(ViewToJson(lone.View())))) {
             stage.out.Line(line);

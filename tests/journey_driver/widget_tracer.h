@@ -13,19 +13,23 @@ class WidgetTracer final : public SayingVisitor<WidgetTrace> {
 public:
     explicit WidgetTracer(Stage& stage) : m_stage(stage) {}
 
-    void Writes(const Widget& widget) override { m_name = Quoted(widget.Tag()); }
-    void Repaints(const Widget& widget) override { Line("repaint " + Quoted(widget.Tag())); }
+    void Writes(const Widget& widget) override { m_name = widget.Tag(); }
+    void Repaints(const Widget& widget) override
+    {
+        m_name = widget.Tag();
+        Line("repaint " + Quoted(m_name));
+    }
 
 private:
     void Say(std::string_view name, const std::string& value) override
     {
-        Line("write " + m_name + ' ' + std::string(name) + ' ' + value);
+        Line("write " + Quoted(m_name) + ' ' + std::string(name) + ' ' + value);
     }
 
     void Line(const std::string& line)
     {
         if (m_stage.IsTraced("widgets")) {
-            m_stage.out.Line(line);
+            m_stage.Tell(m_name, line);
         }
     }
 

@@ -1,5 +1,7 @@
 #include "tests/support/fake_server.h"
 
+#include "tests/support/quoted.h"
+
 namespace quor {
 
 FakeUnit::FakeUnit(FakeServer& server, std::string site, std::uint8_t number)
@@ -15,8 +17,7 @@ TeskCommand& FakeUnit::Item(std::uint8_t index)
 
 void FakeUnit::Call(const std::string& operation)
 {
-    m_server.calls.push_back("Sites.Item(\"" + m_site + "\").Units.Item(" + std::to_string(m_number) + ")." +
-                             operation);
+    m_server.Call("Sites.Item(" + Quoted(m_site) + ").Units.Item(" + std::to_string(m_number) + ")." + operation);
 }
 
 TeskUnit& FakeSite::Item(std::uint8_t unitNum)
@@ -40,6 +41,18 @@ FakeSite& FakeServer::Add(const std::string& name)
 {
     catalog.push_back(name);
     return m_sites.emplace_back(*this, name);
+}
+
+void FakeServer::Clear()
+{
+    catalog.clear();
+    m_sites.clear();
+}
+
+void FakeServer::Call(std::string operation)
+{
+    calls.push_back(std::move(operation));
+    Called.Raise(calls.back());
 }
 
 void FakeServer::GetSites(TeskSiteList& list)

@@ -82,18 +82,22 @@ private:
     std::deque<FakeUnit> m_units;
 };
 
-class FakeServer final : public TeskServer, public TeskSiteCatalog, private TeskSites {
+class FakeServer final : public TeskServer, public TeskSiteCatalog, public TeskCatalogHost, private TeskSites {
 public:
     bool appAlarms = false;
     std::vector<std::string> calls;   // Sites.Item("A").Units.Item(1).RequestConfig
     std::vector<std::string> catalog; // the configured sites
     int reloads = 0;
+    Event<const std::string&> Called; // an operation, as calls has it
 
     // Also in the catalogue.
     FakeSite& Add(const std::string& name);
+    void Clear();
+    void Call(std::string operation);
 
     TeskSites& Sites() override { return *this; }
     bool AppAlarms() const override { return appAlarms; }
+    TeskSiteCatalog& GetCatalog() override { return *this; }
     void GetSites(TeskSiteList& list) override;
     void ReloadSites() override { ++reloads; }
 

@@ -48,6 +48,9 @@ EditorPorts Program::Ports()
 {
     m_theme.Apply(*qApp);
     QApplication::setWindowIcon(m_theme.Icon("application"));
+    m_live.Login = &m_login;
+    m_live.Boxes = &m_boxes;
+    m_live.ViewFiles = &m_files;
     m_live.PictureFiles = &m_pictures;
     return {m_files,    m_boxes, m_dialog,   m_forms,    m_timers, m_screen, m_pictures,
             m_settings, m_login, m_reporter, m_progress, m_live,   m_help,   m_systemInfo};
