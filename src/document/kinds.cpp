@@ -1,6 +1,13 @@
 #include "document/kinds.h"
 
+#include "elements/bool_pic.h"
+#include "elements/cmd_led.h"
+#include "elements/command.h"
+#include "elements/label.h"
+#include "elements/led_rect.h"
 #include "elements/led_round.h"
+#include "elements/picture.h"
+#include "elements/status_label.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
@@ -27,13 +34,14 @@ constexpr std::array kinds = {
     Kind{1, "ctlMeterAngle", "Meter (Angle) ", "Meter (Angular)"},
     Kind{2, "ctlMeterLinear", "Meter (Linear) ", "Meter (Linear)"},
     KindOf<clsLEDRound>("ctlLEDRound", "LED (Round) ", "LED (Round)"),
-    Kind{4, "ctlLEDRect", "LED (Rectangular) ", "LED (Rectangular)"},
-    Kind{5, "ctlStatusLabel", "Status Label ", "Status Label"},
-    Kind{6, "ctlBlnPic", "Round LED ", "Status Picture"}, // the prefix is on purpose: names in files are kept
-    Kind{7, "ctlCmdLED", "Command and LED ", "Command and LED"},
-    Kind{8, "ctlCommand", "Command ", "Command"},
-    Kind{9, "ctlPicture", "Picture ", "Picture"},
-    Kind{10, "ctlLabel", "Label ", "Label"},
+    KindOf<clsLEDRect>("ctlLEDRect", "LED (Rectangular) ", "LED (Rectangular)"),
+    KindOf<clsStatusLabel>("ctlStatusLabel", "Status Label ", "Status Label"),
+    KindOf<clsBoolPic>("ctlBlnPic", "Round LED ",
+                       "Status Picture"), // the prefix is on purpose: names in files are kept
+    KindOf<clsCmdLED>("ctlCmdLED", "Command and LED ", "Command and LED"),
+    KindOf<clsCommand>("ctlCommand", "Command ", "Command"),
+    KindOf<clsPicture>("ctlPicture", "Picture ", "Picture"),
+    KindOf<clsLabel>("ctlLabel", "Label ", "Label"),
 };
 
 constexpr bool TypesArePositions()

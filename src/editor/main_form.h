@@ -141,6 +141,7 @@ public:
     clsCustView& View() const noexcept override { return *m_view; }
     Reporter& PageReporter() override { return m_ports.reporter; }
     CommonDialog& dlgProp() override { return m_ports.dlgProp; }
+    MessageBoxes& PageBoxes() override { return m_ports.boxes; }
     Live& PageLive() override { return m_ports.live; }
 
 private:

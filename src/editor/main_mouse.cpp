@@ -134,8 +134,12 @@ void frmMain::Drop(const CanvasTarget& target, float x, float y)
     const auto scrollY = static_cast<float>(m_canvas.ScrollOffsetY());
     switch (target.what) {
     case CanvasTarget::What::Element:
-        Guard(m_ports.reporter, Ref("frmMain.Widget_DragDrop"), editWords,
-              [&] { DropControl(source, x, y, GetCanvasTop(*target.widget), GetCanvasLeft(*target.widget)); });
+        Guard(m_ports.reporter, Ref("frmMain.Widget_DragDrop"), editWords, [&] {
+            DropControl(source, x, y, GetCanvasTop(*target.widget), GetCanvasLeft(*target.widget));
+            if (source == DragSource(target.widget)) { // a click
+                GetSelectedElement()->ClickControl();
+            }
+        });
         break;
     case CanvasTarget::What::Handle:
         Guard(m_ports.reporter, Ref("frmMain.Handle_DragDrop"), editWords, [&] {

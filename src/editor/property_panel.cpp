@@ -4,8 +4,15 @@
 #include "binding/pages/frm_cv_cmd_data_source.h"
 #include "binding/pages/frm_cv_mtr_data_source.h"
 #include "forms/bars.h"
+#include "pages/frm_cv_bln_pic.h"
+#include "pages/frm_cv_cmd_led.h"
+#include "pages/frm_cv_command.h"
 #include "pages/frm_cv_general.h"
+#include "pages/frm_cv_label.h"
+#include "pages/frm_cv_led_rect.h"
 #include "pages/frm_cv_led_round.h"
+#include "pages/frm_cv_picture.h"
+#include "pages/frm_cv_status_label.h"
 #include "pages/frm_cv_view_props.h"
 
 #include <algorithm>
@@ -28,9 +35,19 @@ template <class P> std::unique_ptr<Page> MakePage(PageHost& host)
 }
 
 constexpr PanelRow panelRows[] = {
-    {"tlViewProps", MakePage<frmCVViewProps>},         {"tlLEDRound", MakePage<frmCVLEDRound>},
-    {"tlBlnDataSource", MakePage<frmCVBlnDataSource>}, {"tlMtrDataSource", MakePage<frmCVMtrDataSource>},
-    {"tlCmdDataSource", MakePage<frmCVCmdDataSource>}, {"tlGeneral", MakePage<frmCVGeneral>},
+    {"tlViewProps", MakePage<frmCVViewProps>},
+    {"tlLEDRound", MakePage<frmCVLEDRound>},
+    {"tlLEDRect", MakePage<frmCVLEDRect>},
+    {"tlStatusLabel", MakePage<frmCVStatusLabel>},
+    {"tlBlnPic", MakePage<frmCVBlnPic>},
+    {"tlCmdLED", MakePage<frmCVCmdLED>},
+    {"tlCommand", MakePage<frmCVCommand>},
+    {"tlPicture", MakePage<frmCVPicture>},
+    {"tlLabel", MakePage<frmCVLabel>},
+    {"tlBlnDataSource", MakePage<frmCVBlnDataSource>},
+    {"tlMtrDataSource", MakePage<frmCVMtrDataSource>},
+    {"tlCmdDataSource", MakePage<frmCVCmdDataSource>},
+    {"tlGeneral", MakePage<frmCVGeneral>},
 };
 
 // What a kind shows beside its own tab, the general one and the action, and the pages that are bound to an element of

@@ -28,15 +28,7 @@ void clsLEDRound::m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute)
     if (TakeValue(blnValue)) {
         Shown().Set(&RoundLed::Active, blnValue);
     }
-    if (MuteChanges(blnMute)) {
-        if (blnMute) {
-            Shown().Set(&RoundLed::ActiveColor, colors::buttonFace);
-            Shown().Set(&RoundLed::InactiveColor, colors::buttonFace);
-            Shown().Set(&RoundLed::AutoInactiveColor, false);
-        } else {
-            Show(*this, ColorActive, ColorInactive, AutoInactive);
-        }
-    }
+    MuteLamp(blnMute);
     Shown().RepaintNow();
     SetMute(blnMute);
 }

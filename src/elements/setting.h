@@ -8,6 +8,7 @@
 #include "base/values.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -60,6 +61,18 @@ public:
         using W = typename detail::OwnerOf<decltype(WidgetProperty)>::Type;
         const auto& shown = static_cast<const W&>(*element.MyControl()).*WidgetProperty;
         PropertyAccess::Value(*this) = Rule::FromWidget(element, shown());
+    }
+};
+
+// A flag that the widget has as the number 1 or 0.
+struct FlagAsNumber : AsItIs {
+    template <class Element> static std::int16_t ToWidget(const Element& /*element*/, bool flag)
+    {
+        return flag ? 1 : 0;
+    }
+    template <class Element> static bool FromWidget(const Element& /*element*/, std::int32_t shown)
+    {
+        return shown == 1;
     }
 };
 

@@ -30,14 +30,14 @@ private:
 };
 
 // The ground of the controls that stand on it, which are made and laid out behind it.
-class Panel final : public ControlOn<Panel> {
+class FormPanel final : public ControlOn<FormPanel> {
 public:
     enum class Look {
         Plain, // between a rule above and a rule below
         Box,   // a field with a border
     };
 
-    Panel(std::string name, Look look) : ControlOn(std::move(name)), m_look(look) {}
+    FormPanel(std::string name, Look look) : ControlOn(std::move(name)), m_look(look) {}
 
     Look Style() const noexcept { return m_look; }
 

@@ -2,15 +2,9 @@
 
 namespace quor {
 
-frmCVLEDRound::frmCVLEDRound(PageHost& host) : ElementPage("frmCVLEDRound", host)
+frmCVLEDRound::frmCVLEDRound(PageHost& host) : LampPage("frmCVLEDRound", host)
 {
-    using E = clsLEDRound;
-    ListRow("cboBevelStyle", "Bevel Style:", {"None", "Raised", "Lowered"}, &E::BevelStyle);
-    ColorRow("clrOn", "cmdBrwsOnColor", "On Color:", &E::ColorActive);
-    ColorRow("clrOff", "cmdBrwsOffColor", "Off Color:", &E::ColorInactive);
-    CheckRow("chkReflection", "Show Reflection", &E::Reflection);
-    AutoColorBox("chkAutoOffColor", "Automatically determine Off Color", &E::AutoInactive, "clrOff", "cmdBrwsOffColor",
-                 &E::ColorInactive);
+    LampRows();
     ArrangeLines();
 }
 

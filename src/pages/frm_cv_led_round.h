@@ -2,11 +2,11 @@
 // The page of the round LED.
 
 #include "elements/led_round.h"
-#include "pages/page.h"
+#include "pages/lamp_page.h"
 
 namespace quor {
 
-class frmCVLEDRound final : public ElementPage<clsLEDRound> {
+class frmCVLEDRound final : public LampPage<clsLEDRound> {
 public:
     explicit frmCVLEDRound(PageHost& host);
 };

@@ -1,6 +1,7 @@
 #include "pages/page.h"
 
 #include "pages/font_dialog.h"
+#include "platform/boxes.h"
 #include "platform/common_dialog.h"
 
 #include <algorithm>
@@ -228,6 +229,20 @@ void Page::BrowsePicture(std::string_view field, std::string_view button)
             text.Text(dialog.FileName);
         }
     });
+}
+
+void Page::TryPicture(TextBox& field, const std::function<void(const std::string&)>& write)
+{
+    try {
+        write(field.Text());
+    } catch (const Failure& failure) {
+        if (failure.Number() != failures::fileNotFound && failure.Number() != failures::pathNotFound) {
+            throw;
+        }
+        m_host.PageBoxes().Show("The image file could not be found:\n" + field.Text(), "", BoxButtons::Ok);
+        write({});
+        field.Text({});
+    }
 }
 
 void Page::Enable(std::string_view control, bool enabled) const

@@ -78,6 +78,9 @@ protected:
     // The open dialog for pictures; what is chosen is set in the field, whose handler writes it.
     void BrowsePicture(std::string_view field, std::string_view button);
 
+    // Writes the text of a field for a picture file. Where there is no such file: says so, and empties both.
+    void TryPicture(TextBox& field, const std::function<void(const std::string&)>& write);
+
     template <class C = Control> C& On(std::string_view name) const { return Item<C>(name); }
     void Enable(std::string_view control, bool enabled) const;
 
@@ -103,31 +106,32 @@ protected:
     // Fails with 91 while the page has none.
     virtual Owner& TheOwner() const = 0;
 
-    template <class S> void Write(S Owner::*setting, typename S::Value value)
+    // The settings may be those of a base of the owner.
+    template <class B, class S> void Write(S B::*setting, typename S::Value value)
     {
         TheOwner().Set(setting, std::move(value));
     }
-    template <class S> const typename S::Value& Value(S Owner::*setting) const { return (TheOwner().*setting)(); }
+    template <class B, class S> const typename S::Value& Value(S B::*setting) const { return (TheOwner().*setting)(); }
 
-    template <class S>
-    void ListRow(std::string_view name, std::string_view caption, std::vector<std::string> items, S Owner::*setting)
+    template <class B, class S>
+    void ListRow(std::string_view name, std::string_view caption, std::vector<std::string> items, S B::*setting)
     {
         ListBox& list = MakeList(name, caption, std::move(items));
         Handle(list.Click, name, [=, this, &list] { Write(setting, Narrow<typename S::Value>(list.ListIndex())); });
         Read(name, [=, this, &list] { list.ListIndex(Value(setting)); });
     }
 
-    template <class S>
-    void ColorRow(std::string_view name, std::string_view button, std::string_view caption, S Owner::*setting,
+    template <class B, class S>
+    void ColorRow(std::string_view name, std::string_view button, std::string_view caption, S B::*setting,
                   Work after = {})
     {
         ColorOn(MakeSwatch(name, button, caption), name, button, setting, std::move(after));
     }
 
     // With "Use Default": on, the button is off, and swatch and setting are the button face.
-    template <class S>
+    template <class B, class S>
     void DefaultColorRow(std::string_view name, std::string_view button, std::string_view box, std::string_view caption,
-                         S Owner::*setting, Work after = {}, Work whenDefault = {})
+                         S B::*setting, Work after = {}, Work whenDefault = {})
     {
         Swatch& swatch = MakeSwatch(name, button, caption, box);
         ColorOn(swatch, name, button, setting, after);
@@ -148,25 +152,18 @@ protected:
         Read(box, [=, this, &check] { check.Value(Value(setting) == colors::buttonFace); });
     }
 
-    template <class S>
-    void CheckRow(std::string_view name, std::string_view caption, S Owner::*setting,
-                  std::function<void(bool)> rule = {})
+    template <class B, class S>
+    void CheckRow(std::string_view name, std::string_view caption, S B::*setting, std::function<void(bool)> rule = {})
     {
         auto& box = Make<CheckBox>(std::string(name), std::string(caption));
         BoxLine(box);
-        Handle(box.Click, name, [=, this, &box] {
-            Write(setting, typename S::Value{box.Value()});
-            if (rule) {
-                rule(box.Value());
-            }
-        });
-        Read(name, [=, this, &box] { box.Value(bool{Value(setting) == typename S::Value{true}}); });
+        CheckOn(box, name, setting, std::move(rule));
     }
 
     // On, the element works the colour out by itself: the swatch says so, and its button is off.
-    template <class S, class C>
-    void AutoColorBox(std::string_view name, std::string_view caption, S Owner::*setting, std::string_view swatch,
-                      std::string_view button, C Owner::*color)
+    template <class B, class S, class D, class C>
+    void AutoColorBox(std::string_view name, std::string_view caption, S B::*setting, std::string_view swatch,
+                      std::string_view button, C D::*color)
     {
         CheckRow(name, caption, setting,
                  [=, this, swatch = std::string(swatch), button = std::string(button)](bool isAutomatic) {
@@ -176,9 +173,36 @@ protected:
                  });
     }
 
-    template <class S>
+    // On, the source gives the captions: their fields take no text, and their ground says so.
+    template <class B, class S>
+    void AutoCaptionBox(std::string_view name, std::string_view caption, S B::*setting, std::vector<std::string> fields)
+    {
+        CheckRow(name, caption, setting, [this, fields = std::move(fields)](bool isAutomatic) {
+            for (const std::string& field : fields) {
+                Enable(field, !isAutomatic);
+                On<TextBox>(field).Set(&TextBox::BackColor, isAutomatic ? colors::buttonFace : colors::window);
+            }
+        });
+    }
+
+    // A box and the colour that is left out of a picture. Off, the swatch is the button face and its button is off.
+    template <class B, class S, class D, class C>
+    void MaskRows(std::string_view name, S B::*setting, std::string_view swatch, std::string_view button, C D::*color)
+    {
+        auto& box = Make<CheckBox>(std::string(name), "Use Transparency Mask");
+        BoxLine(box);
+        ColorRow(swatch, button, "Mask Color:", color);
+        Enable(button, false);
+        CheckOn(box, name, setting,
+                [=, this, swatch = std::string(swatch), button = std::string(button)](bool isMasked) {
+                    On<Swatch>(swatch).Set(&Swatch::BackColor, isMasked ? Value(color) : colors::buttonFace);
+                    Enable(button, isMasked);
+                });
+    }
+
+    template <class B, class S>
     void NumberRow(std::string_view name, std::string_view caption, std::string_view unit, double least, double most,
-                   S Owner::*setting, int decimals = 0)
+                   S B::*setting, int decimals = 0)
     {
         NumberField& field = MakeNumber(name, caption, unit, least, most, decimals);
         Handle(field.Change, name, [=, this, &field] { Write(setting, Narrow<typename S::Value>(field.Value())); });
@@ -186,33 +210,43 @@ protected:
     }
 
     // The field shows the font's name. Owner::UpdateFont gives the font to the widget.
-    template <class F> void FontRow(std::string_view name, std::string_view button, F Owner::*font)
+    template <class B, class F> void FontRow(std::string_view name, std::string_view button, F B::*font)
     {
         FontOn(name, button, font, {}, nullptr);
     }
 
     // With the colour of the text, which has its own swatch on a row below.
-    template <class F, class C>
-    void FontRow(std::string_view name, std::string_view button, F Owner::*font, std::string_view swatch,
-                 C Owner::*color)
+    template <class B, class F, class D, class C>
+    void FontRow(std::string_view name, std::string_view button, F B::*font, std::string_view swatch, C D::*color)
     {
         FontOn(name, button, font, swatch, color);
     }
 
-    template <class S> void TextRow(std::string_view name, std::string_view caption, S Owner::*setting)
+    template <class B, class S> void TextRow(std::string_view name, std::string_view caption, S B::*setting)
     {
         TextOn(MakeText(name, caption), name, setting);
     }
 
     // A picture file: typed, or browsed for.
-    template <class S>
-    void PictureRow(std::string_view name, std::string_view button, std::string_view caption, S Owner::*setting)
+    template <class B, class S>
+    void PictureRow(std::string_view name, std::string_view button, std::string_view caption, S B::*setting)
     {
         TextOn(MakeBrowsed(name, button, caption, false), name, setting);
         BrowsePicture(name, button);
     }
 
-    template <class S> void OptionRow(std::string_view name, std::vector<std::string> captions, S Owner::*setting)
+    // The same; a file that isn't there is told of, and the field is emptied.
+    template <class B, class S>
+    void CheckedPictureRow(std::string_view name, std::string_view button, std::string_view caption, S B::*setting)
+    {
+        TextBox& text = MakeBrowsed(name, button, caption, false);
+        Handle(text.Change, name,
+               [=, this, &text] { TryPicture(text, [=, this](const std::string& path) { Write(setting, path); }); });
+        Read(name, [=, this, &text] { text.Text(Value(setting)); });
+        BrowsePicture(name, button);
+    }
+
+    template <class B, class S> void OptionRow(std::string_view name, std::vector<std::string> captions, S B::*setting)
     {
         OptionArray& options = MakeOptions(name, std::move(captions));
         Handle(options.Click, name,
@@ -221,8 +255,20 @@ protected:
     }
 
 private:
-    template <class S>
-    void ColorOn(Swatch& swatch, std::string_view name, std::string_view button, S Owner::*setting, Work after)
+    template <class B, class S>
+    void CheckOn(CheckBox& box, std::string_view name, S B::*setting, std::function<void(bool)> rule)
+    {
+        Handle(box.Click, name, [=, this, &box] {
+            Write(setting, typename S::Value{box.Value()});
+            if (rule) {
+                rule(box.Value());
+            }
+        });
+        Read(name, [=, this, &box] { box.Value(bool{Value(setting) == typename S::Value{true}}); });
+    }
+
+    template <class B, class S>
+    void ColorOn(Swatch& swatch, std::string_view name, std::string_view button, S B::*setting, Work after)
     {
         BrowseColor(name, button, [=, this](Color color) {
             Write(setting, color);
@@ -233,8 +279,8 @@ private:
         Read(name, [=, this, &swatch] { swatch.Set(&Swatch::BackColor, Value(setting)); });
     }
 
-    template <class F, class C>
-    void FontOn(std::string_view name, std::string_view button, F Owner::*font, std::string_view swatch, C color)
+    template <class B, class F, class C>
+    void FontOn(std::string_view name, std::string_view button, F B::*font, std::string_view swatch, C color)
     {
         TextBox& text = MakeBrowsed(name, button, "Font:", true);
         Handle(On<Button>(button).Click, button, [=, this, &text, swatch = std::string(swatch)] {
@@ -252,7 +298,7 @@ private:
         Read(name, [=, this, &text] { text.Text(Value(font).Name); });
     }
 
-    template <class S> void TextOn(TextBox& text, std::string_view name, S Owner::*setting)
+    template <class B, class S> void TextOn(TextBox& text, std::string_view name, S B::*setting)
     {
         Handle(text.Change, name, [=, this, &text] { Write(setting, text.Text()); });
         Read(name, [=, this, &text] { text.Text(Value(setting)); });

@@ -6,6 +6,7 @@
 namespace quor {
 
 class CommonDialog;
+class MessageBoxes;
 class Reporter;
 class Widget;
 class clsCustView;
@@ -17,6 +18,7 @@ public:
 
     virtual Reporter& PageReporter() = 0;
     virtual CommonDialog& dlgProp() = 0;
+    virtual MessageBoxes& PageBoxes() = 0;
     virtual Live& PageLive() = 0;                   // the server and its catalogue
     virtual clsCustView& View() const noexcept = 0; // the document at this moment
 

@@ -24,7 +24,7 @@ public:
     Label& lblTitle = Make<Label>("lblTitle", "", LabelRole::Title);
     Label& lblVersion = Make<Label>("lblVersion", "", LabelRole::Caption);
     Label& lblDescription = Make<Label>("lblDescription", "Draws live instrument panels for remote sites.");
-    Panel& SSPanel1 = Make<Panel>("SSPanel1", Panel::Look::Box);
+    FormPanel& SSPanel1 = Make<FormPanel>("SSPanel1", FormPanel::Look::Box);
     Label& lblSupport = Make<Label>("lblSupport", "", LabelRole::Headed);
     Button& cmdSysInfo = Make<Button>("cmdSysInfo", "&System Info...");
     Button& cmdFiles = Make<Button>("cmdFiles", "Components"); // does nothing

@@ -29,7 +29,7 @@ public:
     explicit frmOptions(const Ports& ports);
 
     TabStrip& tabOptions = Make<TabStrip>("tabOptions", std::vector<std::string>{"General"});
-    Panel& panOptions = Make<Panel>("panOptions", Panel::Look::Plain);
+    FormPanel& panOptions = Make<FormPanel>("panOptions", FormPanel::Look::Plain);
     Label& lblOptions = Make<Label>("lblOptions", "Grid Size:", LabelRole::Caption);
     NumberField& txtGridSize = Make<NumberField>("txtGridSize", leastGridSize, mostGridSize);
     Button& cmdHelp = Make<Button>("cmdHelp", "Help");

@@ -1,7 +1,8 @@
 #pragma once
 // A rectangular lamp with a text on its face.
 
-#include "widgets/round_led.h"
+#include "widgets/bevels.h"
+#include "widgets/widget.h"
 
 namespace quor {
 

@@ -13,7 +13,7 @@ void SwitchLed::Click()
 void SwitchLed::VisitProperties(PropertyVisitor& visitor) const
 {
     Widget::VisitProperties(visitor);
-    VisitEach(visitor, Active, LEDColor, LEDAlignment, Caption, CaptionColor, CaptionFont);
+    VisitEach(visitor, Active, LEDColor, LEDAlignment, Caption, CaptionColor, CaptionFont, CaptionMargin, BorderSize);
 }
 
 } // namespace quor

@@ -21,6 +21,8 @@ public:
     Property<"Caption", std::string> Caption;
     Property<"CaptionColor", Color> CaptionColor{colors::buttonText};
     Property<"CaptionFont", Font> CaptionFont;
+    Property<"CaptionMargin", std::int32_t> CaptionMargin{2}; // pixels
+    Property<"BorderSize", std::int32_t> BorderSize{2};       // pixels
 
     // As the user does. It turns the lamp over, unless the button is disabled.
     void Click();

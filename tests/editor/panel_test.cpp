@@ -22,8 +22,12 @@ struct ThePanel : EditorFixture {
 
 TEST_F(ThePanel, BindsThePagesOfTheSelectionInTheirOrder)
 {
-    const std::string cleared = "ClearOwner frmCVGeneral\nClearOwner frmCVLEDRound\nClearOwner frmCVCmdDataSource\n"
-                                "ClearOwner frmCVMtrDataSource\nClearOwner frmCVBlnDataSource\n";
+    std::string cleared;
+    for (const char* page : {"frmCVGeneral", "frmCVLEDRound", "frmCVLEDRect", "frmCVStatusLabel", "frmCVBlnPic",
+                             "frmCVCmdLED", "frmCVCommand", "frmCVPicture", "frmCVLabel", "frmCVCmdDataSource",
+                             "frmCVMtrDataSource", "frmCVBlnDataSource"}) {
+        cleared += std::string("ClearOwner ") + page + "\n";
+    }
     EXPECT_EQ(Tabs(), "Custom View Settings|Custom View Settings");
     calls.clear();
     const auto& led = Insert<clsLEDRound>();

@@ -1,5 +1,4 @@
 #include "document/kinds.h"
-#include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
 #include "widgets/canvas.h"
 
@@ -48,12 +47,34 @@ struct AnyEdit : EditorFixture {
         }
     }
 
+    std::uint8_t AnyKind()
+    {
+        const Kind* kind = nullptr;
+        do {
+            kind = &Kinds()[static_cast<std::size_t>(Draw(0, 10))];
+        } while (!kind->Exists());
+        return kind->type;
+    }
+
+    // Any box or list of the page of its kind.
+    void Restyle(const Element& element)
+    {
+        const Band& tab = main.abViewEdit().BandOf("bndObjProps").Child(element.MyControl()->Name());
+        const auto& controls = tab.Tools().front().Tool().HostedForm()->Controls();
+        Control* any = controls.Item(static_cast<std::size_t>(Draw(1, static_cast<int>(controls.Count())))).get();
+        if (auto* box = dynamic_cast<CheckBox*>(any)) {
+            box->Toggle();
+        } else if (auto* list = dynamic_cast<ListBox*>(any)) {
+            list->Choose(Draw(0, static_cast<int>(list->Items().size()) - 1));
+        }
+    }
+
     void Edit()
     {
         Element* element = Any();
         switch (element == nullptr ? 0 : Draw(0, 13)) {
         case 0:
-            main.InsertElement(clsLEDRound::type);
+            main.InsertElement(AnyKind());
             break;
         case 1:
             Drag(*element);
@@ -96,10 +117,10 @@ struct AnyEdit : EditorFixture {
             break;
         case 11:
             Select(*element);
-            On<CheckBox>("frmCVLEDRound", "chkAutoOffColor").Toggle();
+            Restyle(*element);
             break;
         case 12:
-            main.BeginToolDrag(clsLEDRound::type);
+            main.BeginToolDrag(AnyKind());
             main.Drop(At(300, 300), 5, 5);
             break;
         default:
@@ -133,13 +154,16 @@ struct AnyEdit : EditorFixture {
         ASSERT_TRUE(selected == nullptr || names.contains(selected->Tag()));
         const Band* front = main.abViewEdit().BandOf("bndObjProps").CurrentChild();
         ASSERT_EQ(front->Name, selected == nullptr ? "prpViewProps" : "prpGeneral");
-        ASSERT_EQ(main.abViewEdit().BandOf("bndObjProps").Child("ctlLEDRound").Visible(), selected != nullptr);
+        for (const Kind& kind : Kinds()) {
+            const Band& tab = main.abViewEdit().BandOf("bndObjProps").Child(kind.array);
+            ASSERT_EQ(tab.Visible(), selected != nullptr && selected->Name() == kind.array) << kind.array;
+        }
     }
 };
 
 TEST_F(AnyEdit, LeavesTheViewWhole)
 {
-    for (int step = 0; step < 20'000; ++step) {
+    for (int step = 0; step < 5'000; ++step) {
         Edit();
         Check();
         if (HasFatalFailure()) {

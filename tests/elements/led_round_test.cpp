@@ -1,39 +1,13 @@
 #include "binding/live.h"
 #include "elements/led_round.h"
+#include "tests/support/widget_journal.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 namespace quor {
 namespace {
-
-// Writes and repaints as short text.
-class Journal final : public WidgetTrace {
-public:
-    std::string Take() { return std::exchange(m_text, {}); }
-
-    void Writes(const Widget& /*widget*/) override {}
-    void Repaints(const Widget& /*widget*/) override { m_text += "repaint "; }
-    void Visit(std::string_view name, bool value) override { Add(name, value ? "true" : "false"); }
-    void Visit(std::string_view name, std::int32_t value) override { Add(name, std::to_string(value)); }
-    void Visit(std::string_view name, float value) override { Add(name, std::to_string(static_cast<int>(value))); }
-    void Visit(std::string_view name, double value) override { Add(name, std::to_string(static_cast<int>(value))); }
-    void Visit(std::string_view name, const PictureRef& value) override
-    {
-        Add(name, value == nullptr ? "none" : value->Path());
-    }
-    void Visit(std::string_view name, Color value) override { Add(name, std::to_string(value.value)); }
-    void Visit(std::string_view name, const Font& value) override { Add(name, value.Name); }
-    void Visit(std::string_view name, const std::string& value) override { Add(name, value); }
-
-private:
-    void Add(std::string_view name, const std::string& value) { m_text += std::string(name) + "=" + value + " "; }
-
-    std::string m_text;
-};
 
 struct ALamp : testing::Test {
     Canvas canvas;
@@ -41,7 +15,7 @@ struct ALamp : testing::Test {
     Live live{true};
     clsLEDRound led{lamps.Load(1), live};
     const RoundLed& shown = static_cast<const RoundLed&>(*led.MyControl());
-    Journal journal;
+    WidgetJournal journal;
 
     void SetUp() override
     {

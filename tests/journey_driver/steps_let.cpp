@@ -1,6 +1,13 @@
 // The step that sets a setting of an element through its setter.
 
+#include "elements/bool_pic.h"
+#include "elements/cmd_led.h"
+#include "elements/command.h"
+#include "elements/label.h"
+#include "elements/led_rect.h"
 #include "elements/led_round.h"
+#include "elements/picture.h"
+#include "elements/status_label.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
@@ -14,7 +21,7 @@ struct Wish {
     const std::string& text;
 };
 
-template <class Owner, class P> bool SetIfMeant(Owner& owner, const Wish& wish, P Owner::*setting)
+template <class Owner, class Base, class P> bool SetIfMeant(Owner& owner, const Wish& wish, P Base::*setting)
 {
     if (P::name != wish.name) {
         return false;
@@ -26,7 +33,7 @@ template <class Owner, class P> bool SetIfMeant(Owner& owner, const Wish& wish, 
 }
 
 // Sets the one of that name; false if there is none.
-template <class Owner, class... P> bool SetOneOf(Owner& owner, const Wish& wish, P Owner::*... settings)
+template <class Owner, class... Settings> bool SetOneOf(Owner& owner, const Wish& wish, Settings... settings)
 {
     return (SetIfMeant(owner, wish, settings) || ...);
 }
@@ -55,19 +62,60 @@ bool SetStatus(Element& element, const Wish& wish)
                                          &Source::Unit, &Source::Channel, &Source::Site);
 }
 
-bool SetLedRound(Element& element, const Wish& wish)
+// Sets it where the element is an E, and has it.
+template <class E, class... Settings> bool SetOf(Element& element, const Wish& wish, Settings... settings)
 {
-    using E = clsLEDRound;
-    auto* led = dynamic_cast<E*>(&element);
-    return led != nullptr &&
-           SetOneOf(*led, wish, &E::ColorActive, &E::ColorInactive, &E::AutoInactive, &E::Reflection, &E::BevelStyle);
+    auto* meant = dynamic_cast<E*>(&element);
+    return meant != nullptr && SetOneOf(*meant, wish, settings...);
+}
+
+bool SetLamp(Element& element, const Wish& wish)
+{
+    using Round = clsLEDRound;
+    using E = clsLEDRect;
+    return SetOf<Round>(element, wish, &Round::ColorActive, &Round::ColorInactive, &Round::AutoInactive,
+                        &Round::Reflection, &Round::BevelStyle) ||
+           SetOf<E>(element, wish, &E::ColorActive, &E::ColorInactive, &E::AutoInactive, &E::Reflection, &E::BevelStyle,
+                    &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionOnColor, &E::CaptionOffColor,
+                    &E::CaptionWordWrap, &E::CaptionAlignment);
+}
+
+bool SetLabel(Element& element, const Wish& wish)
+{
+    using L = clsLabel;
+    using E = clsStatusLabel;
+    return SetOf<L>(element, wish, &L::Caption, &L::CaptionColor, &L::CaptionWordWrap, &L::CaptionAlignment,
+                    &L::BGColor, &L::BGTransparent, &L::Border, &L::Border3D) ||
+           SetOf<E>(element, wish, &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionColor,
+                    &E::CaptionWordWrap, &E::CaptionAlignment, &E::BGColor, &E::BGTransparent, &E::Border,
+                    &E::Border3D);
+}
+
+bool SetPicture(Element& element, const Wish& wish)
+{
+    using P = clsPicture;
+    using E = clsBoolPic;
+    return SetOf<P>(element, wish, &P::BevelStyle, &P::PictureFillMode, &P::PictureMaskColor, &P::PictureUseMask,
+                    &P::BGColor, &P::PictureFile) ||
+           SetOf<E>(element, wish, &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionColor,
+                    &E::CaptionWordWrap, &E::CaptionAlignment, &E::ImageAlignment, &E::ImageUseMask, &E::ImageMaskColor,
+                    &E::BevelStyle, &E::BGColor, &E::ImageOn, &E::ImageOff);
+}
+
+bool SetButton(Element& element, const Wish& wish)
+{
+    using C = clsCommand;
+    using E = clsCmdLED;
+    return SetOf<C>(element, wish, &C::AutoCaption, &C::Caption, &C::CaptionColor, &C::CaptionWordWrap,
+                    &C::CaptionAlignment, &C::ImageAlignment, &C::ImageUseMask, &C::ImageMaskColor, &C::ImageFile) ||
+           SetOf<E>(element, wish, &E::LEDColor, &E::LEDAlignment, &E::AutoCaption, &E::Caption, &E::CaptionColor);
 }
 
 void Let(Stage& stage, const Arguments& arguments)
 {
     Element& element = stage.ElementOf(arguments[0]);
     const Wish wish{arguments[1], arguments[2]};
-    for (const auto set : {SetCommon, SetStatus, SetLedRound}) {
+    for (const auto set : {SetCommon, SetStatus, SetLamp, SetLabel, SetPicture, SetButton}) {
         if (set(element, wish)) {
             return;
         }

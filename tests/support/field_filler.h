@@ -4,42 +4,52 @@
 #include "document/format/field_walk.h"
 
 #include <random>
+#include <string>
 
 namespace quor {
 
 class FieldFiller final : public FieldWalk {
 public:
-    // With parts: also the fields of the sources.
-    FieldFiller(unsigned seed, bool withParts) : m_random(seed), m_withParts(withParts) {}
+    enum class What { All, WithoutParts }; // the sources are parts
+
+    FieldFiller(unsigned seed, What what) : m_random(seed), m_what(what) {}
+
+    // Fills these fields alone, named one behind the other.
+    FieldFiller(unsigned seed, std::string_view fields) : m_random(seed), m_what(What::WithoutParts), m_only(fields) {}
 
 private:
-    void Field(std::string_view /*name*/, bool& value) override { Fill(value, Draw(0, 1) == 1); }
-    void Field(std::string_view /*name*/, WideFlag& value) override { Fill(value, WideFlag{Draw(0, 1) == 1}); }
-    void Field(std::string_view /*name*/, std::uint8_t& value) override
+    void Field(std::string_view name, bool& value) override { Fill(name, value, Draw(0, 1) == 1); }
+    void Field(std::string_view name, WideFlag& value) override { Fill(name, value, WideFlag{Draw(0, 1) == 1}); }
+    void Field(std::string_view name, std::uint8_t& value) override
     {
-        Fill(value, static_cast<std::uint8_t>(Draw(0, 255)));
+        Fill(name, value, static_cast<std::uint8_t>(Draw(0, 255)));
     }
-    void Field(std::string_view /*name*/, std::int16_t& value) override
+    void Field(std::string_view name, std::int16_t& value) override
     {
-        Fill(value, static_cast<std::int16_t>(Draw(-32768, 32767)));
+        Fill(name, value, static_cast<std::int16_t>(Draw(-32768, 32767)));
     }
-    void Field(std::string_view /*name*/, std::int32_t& value) override { Fill(value, Draw(-2000000000, 2000000000)); }
-    void Field(std::string_view /*name*/, float& value) override
+    void Field(std::string_view name, std::int32_t& value) override
     {
-        Fill(value, static_cast<float>(Draw(0, 30000)) / 8);
+        // Labels show their alignment as a number of 16 bits.
+        const std::int32_t most = name == "CaptionAlignment" ? 32767 : 2000000000;
+        Fill(name, value, Draw(-most, most));
     }
-    void Field(std::string_view /*name*/, Color& value) override { Fill(value, Color{Draw(0, 0xFFFFFF)}); }
-    void Field(std::string_view /*name*/, Font& value) override
+    void Field(std::string_view name, float& value) override
+    {
+        Fill(name, value, static_cast<float>(Draw(0, 30000)) / 8);
+    }
+    void Field(std::string_view name, Color& value) override { Fill(name, value, Color{Draw(0, 0xFFFFFF)}); }
+    void Field(std::string_view name, Font& value) override
     {
         Font font;
         font.Name = Text();
         font.Size = Draw(10'000, 720'000);
         font.Italic = Draw(0, 1) == 1;
         font.SetWeight(static_cast<std::int16_t>(Draw(100, 900)));
-        Fill(value, font);
+        Fill(name, value, font);
     }
-    void Field(std::string_view /*name*/, std::string& value) override { Fill(value, Text()); }
-    void ByteField(std::string_view /*name*/, std::int32_t& value) override { Fill(value, Draw(0, 255)); }
+    void Field(std::string_view name, std::string& value) override { Fill(name, value, Text()); }
+    void ByteField(std::string_view name, std::int32_t& value) override { Fill(name, value, Draw(0, 255)); }
     void NameField(std::string_view /*name*/, std::string& /*value*/) override {}
     void Begin(std::string_view /*part*/) override { ++m_depth; }
     void End() override { --m_depth; }
@@ -51,15 +61,17 @@ private:
 
     std::string Text() { return "text " + std::to_string(Draw(0, 99999)) + " \u00E9\u20AC"; }
 
-    template <class T> void Fill(T& value, T drawn)
+    template <class T> void Fill(std::string_view name, T& value, T drawn)
     {
-        if (m_withParts || m_depth == 0) {
+        const bool isMeant = m_only.empty() || (' ' + m_only + ' ').find(' ' + std::string(name) + ' ') != m_only.npos;
+        if (isMeant && (m_what == What::All || m_depth == 0)) {
             value = std::move(drawn);
         }
     }
 
     std::mt19937 m_random;
-    bool m_withParts;
+    What m_what;
+    std::string m_only;
     int m_depth = 0;
 };
 

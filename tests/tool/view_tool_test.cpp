@@ -52,7 +52,8 @@ TEST_F(Tool, ChecksEachFileInALineOfItsOwn)
 
 TEST_F(Tool, BuildsDumpsAndResavesTheSameBytes)
 {
-    for (const std::string name : {"empty", "round_led", "leds_30"}) {
+    for (const std::string name : {"empty", "round_led", "leds_30", "rectangular_led", "status_label", "status_picture",
+                                   "command_with_led", "command_button", "picture", "label"}) {
         const Bytes sample = Sample(name + ".qvw");
         PutSample(name + ".json");
         EXPECT_EQ(Run({"build", name + ".json", "built.qvw"}), 0) << errors.str();

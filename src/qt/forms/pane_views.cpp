@@ -43,7 +43,8 @@ private:
 
 class PanelGround final : public QWidget {
 public:
-    PanelGround(const Theme& theme, Panel::Look look, QWidget& parent) : QWidget(&parent), m_theme(theme), m_look(look)
+    PanelGround(const Theme& theme, FormPanel::Look look, QWidget& parent)
+        : QWidget(&parent), m_theme(theme), m_look(look)
     {
     }
 
@@ -52,7 +53,7 @@ protected:
     {
         QPainter painter(this);
         const ThemeColors& colors = m_theme.Colors();
-        if (m_look == Panel::Look::Box) {
+        if (m_look == FormPanel::Look::Box) {
             DrawBox(painter, rect(), radii::control, colors.field, colors.rule);
         } else {
             DrawRule(painter, QRectF(0, 0, width(), 1), Qt::Horizontal, colors.rule);
@@ -62,12 +63,12 @@ protected:
 
 private:
     const Theme& m_theme;
-    Panel::Look m_look;
+    FormPanel::Look m_look;
 };
 
-class PanelView final : public ViewOf<Panel, PanelGround> {
+class PanelView final : public ViewOf<FormPanel, PanelGround> {
 public:
-    PanelView(Panel& panel, const Theme& theme, QWidget& parent)
+    PanelView(FormPanel& panel, const Theme& theme, QWidget& parent)
         : ViewOf(panel, new PanelGround(theme, panel.Style(), parent))
     {
     }
@@ -111,7 +112,7 @@ std::unique_ptr<ControlView> MakePaneView(Control& control, const Theme& theme, 
     if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
         return std::make_unique<TabStripView>(*strip, theme, parent);
     }
-    if (auto* panel = dynamic_cast<Panel*>(&control)) {
+    if (auto* panel = dynamic_cast<FormPanel*>(&control)) {
         return std::make_unique<PanelView>(*panel, theme, parent);
     }
     if (auto* list = dynamic_cast<RowList*>(&control)) {

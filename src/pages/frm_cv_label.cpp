@@ -1,0 +1,14 @@
+#include "pages/frm_cv_label.h"
+
+namespace quor {
+
+frmCVLabel::frmCVLabel(PageHost& host) : LabelPage("frmCVLabel", host)
+{
+    GroundRows();
+    FrameLine("fraCaption", "Caption");
+    TextRow("txtCaption", "Caption:", &clsLabel::Caption);
+    TextRows();
+    ArrangeLines();
+}
+
+} // namespace quor
