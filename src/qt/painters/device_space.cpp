@@ -21,7 +21,12 @@ DeviceSpace::DeviceSpace(QPainter& painter, const QRectF& area) : m_painter(pain
 
 qreal DeviceSpace::Line(qreal length) const
 {
-    return std::max<qreal>(1, std::round(length * m_scale));
+    return std::max<qreal>(1, Whole(length));
+}
+
+qreal DeviceSpace::Whole(qreal length) const
+{
+    return std::round(length * m_scale);
 }
 
 } // namespace quor

@@ -20,6 +20,11 @@ public:
     // Device pixels for a length, a whole number and at least 1.
     qreal Line(qreal length) const;
 
+    // Device pixels of one device-independent pixel.
+    qreal Scale() const noexcept { return m_scale; }
+    // Device pixels for a distance: a whole number.
+    qreal Whole(qreal length) const;
+
 private:
     QPainter& m_painter;
     QRectF m_area;

@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quor {
@@ -35,6 +36,21 @@ inline QColor WhiteAt(qreal opacity)
 inline QColor BlackAt(qreal opacity)
 {
     return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
+}
+
+// How bright a colour is, 0 to 1.
+inline qreal Luminance(const QColor& color)
+{
+    const auto linear = [](qreal part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+// Of two luminances: 1 for none, 21 for black on white.
+inline qreal Contrast(qreal one, qreal other)
+{
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 } // namespace quor

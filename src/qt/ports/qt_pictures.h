@@ -1,9 +1,12 @@
 #pragma once
 // Picture files in any format that the toolkit reads.
 
+#include "base/values.h"
 #include "platform/pictures.h"
 
 #include <QImage>
+
+#include <optional>
 
 namespace quor {
 
@@ -18,5 +21,9 @@ public:
 
 // The image inside a picture that QtPictures loaded.
 const QImage& ImageOf(const Picture& picture);
+
+// The same as it is to be drawn: scaled to a size in device pixels, and with the pixels of one colour left out. The
+// last one asked for is kept with the picture. A size beyond all screens isn't scaled to: the image comes in its own.
+QImage ImageFor(const Picture& picture, const QSize& size, std::optional<Rgb> mask);
 
 } // namespace quor

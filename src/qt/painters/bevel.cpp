@@ -1,0 +1,54 @@
+#include "qt/painters/bevel.h"
+
+#include "qt/painters/device_space.h"
+#include "qt/painters/mixing.h"
+#include "qt/painters/rounded.h"
+
+namespace quor {
+
+namespace {
+
+// A frame of one line's width; the corners at the lower left and the upper right belong to the light's side.
+void PaintFrame(QPainter& painter, const QRectF& box, qreal line, const QColor& lightSide, const QColor& otherSide)
+{
+    if (box.width() < 2 * line || box.height() < 2 * line) {
+        return;
+    }
+    painter.fillRect(QRectF(box.left(), box.top(), line, box.height()), lightSide);
+    painter.fillRect(QRectF(box.left() + line, box.top(), box.width() - line, line), lightSide);
+    painter.fillRect(QRectF(box.right() - line, box.top() + line, line, box.height() - line), otherSide);
+    painter.fillRect(QRectF(box.left() + line, box.bottom() - line, box.width() - 2 * line, line), otherSide);
+}
+
+} // namespace
+
+void PaintEdge(QPainter& painter, const DeviceSpace& space, EdgeStyle style)
+{
+    const qreal line = space.Line(1);
+    const QRectF& outer = space.Area();
+    const QRectF inner = Shrunk(outer, line);
+    switch (style) {
+    case EdgeStyle::None:
+        break;
+    case EdgeStyle::Flat:
+        PaintFrame(painter, outer, line, BlackAt(0.3), BlackAt(0.3));
+        break;
+    case EdgeStyle::Lowered:
+        PaintFrame(painter, outer, line, BlackAt(0.42), BlackAt(0.16));
+        PaintFrame(painter, inner, line, BlackAt(0.12), WhiteAt(0.55));
+        break;
+    case EdgeStyle::Raised:
+        PaintFrame(painter, outer, line, BlackAt(0.16), BlackAt(0.42));
+        PaintFrame(painter, inner, line, WhiteAt(0.85), BlackAt(0.12));
+        break;
+    }
+}
+
+QRectF InsideEdge(const DeviceSpace& space, EdgeStyle style)
+{
+    const qreal lines = style == EdgeStyle::None ? 0 : style == EdgeStyle::Flat ? 1 : 2;
+    const QRectF inside = Shrunk(space.Area(), lines * space.Line(1));
+    return inside.isEmpty() ? QRectF() : inside;
+}
+
+} // namespace quor

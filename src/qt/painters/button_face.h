@@ -1,0 +1,19 @@
+#pragma once
+// The face of a button: a body that catches the light, flat while it is locked.
+
+#include <QColor>
+
+class QPainter;
+
+namespace quor {
+
+class DeviceSpace;
+
+void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled);
+
+// Of what stands on a locked button.
+inline constexpr qreal disabledOpacity = 0.4;
+
+QColor CaptionColorOn(const QColor& color, bool isEnabled);
+
+} // namespace quor

@@ -1,0 +1,74 @@
+#include "qt/painters/captioned_face.h"
+
+#include "qt/painters/device_space.h"
+#include "qt/painters/picture_drawing.h"
+#include "qt/painters/text_block.h"
+
+#include <cmath>
+
+namespace quor {
+
+namespace {
+
+TextSide SideOf(std::int32_t place)
+{
+    switch (ColumnOf(place)) {
+    case FaceColumn::Left:
+        return TextSide::Left;
+    case FaceColumn::Right:
+        return TextSide::Right;
+    case FaceColumn::Center:
+        break;
+    }
+    return TextSide::Center;
+}
+
+FacePlan PlanOf(const DeviceSpace& space, const FaceContents& contents)
+{
+    FacePlan plan;
+    plan.face = {space.Area().width(), space.Area().height()};
+    plan.gaps = {space.Whole(contents.gaps.edge), space.Whole(contents.gaps.beside), space.Whole(contents.gaps.above)};
+    plan.captionPlace = contents.captionPlace;
+    plan.picturePlace = contents.picturePlace;
+    if (contents.picture != nullptr) {
+        const QSizeF size = SizeInSpace(space, *contents.picture);
+        plan.picture = {size.width(), size.height()};
+    }
+    return plan;
+}
+
+} // namespace
+
+void PaintContents(QPainter& painter, const DeviceSpace& space, const FaceContents& contents, const QRectF& clip)
+{
+    if (clip.isEmpty()) {
+        return;
+    }
+    FacePlan plan = PlanOf(space, contents);
+    std::optional<qreal> wrapWidth;
+    if (contents.wraps) {
+        wrapWidth = CaptionRoom(plan.face, plan.gaps, plan.picture, plan.picturePlace);
+    }
+    const TextBlock text(painter, contents.caption, contents.font, space.Scale(), wrapWidth);
+    plan.caption = {text.Width(), text.Height()};
+    const FaceLayout layout = LayFace(plan);
+    const QPointF origin = space.Area().topLeft();
+    painter.save();
+    painter.setClipRect(clip, Qt::IntersectClip);
+    if (!plan.picture.IsNone()) {
+        const QRectF target(origin.x() + std::floor(layout.picture.left + 0.5),
+                            origin.y() + std::floor(layout.picture.top + 0.5), layout.picture.width,
+                            layout.picture.height);
+        painter.setOpacity(contents.pictureOpacity);
+        DrawPicture(painter, *contents.picture, target, contents.mask);
+        painter.setOpacity(1);
+    }
+    if (!text.IsEmpty()) {
+        const qreal left = origin.x() + layout.caption.left;
+        const qreal middle = text.MiddleBaseline(origin.y() + layout.caption.top, layout.caption.height);
+        text.Draw(painter, left, left + layout.caption.width, middle, SideOf(contents.captionPlace), contents.color);
+    }
+    painter.restore();
+}
+
+} // namespace quor
