@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -223,6 +224,17 @@ QStringList Desk::Elements()
                             .arg(place.height() / 15));
     }
     return elements;
+}
+
+QStringList Desk::Toolbar()
+{
+    QStringList tools;
+    for (const QAction* action : Window().findChild<QToolBar*>("bndToolBar")->actions()) {
+        if (action->isSeparator() || !action->objectName().isEmpty()) {
+            tools.append(action->isSeparator() ? QStringLiteral("|") : action->objectName());
+        }
+    }
+    return tools;
 }
 
 } // namespace quor::testing

@@ -53,6 +53,9 @@ public:
     // Each element of the view with its place, from back to front.
     QStringList Elements();
 
+    // The tools on the toolbar by name, separators as "|".
+    QStringList Toolbar();
+
 private:
     QWidget& Canvas() { return *Window().Canvas().viewport(); }
     void MeetNext();

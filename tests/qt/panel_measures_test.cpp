@@ -192,8 +192,12 @@ TEST_F(ThePanel, IsWidenedByItsEdgeAndFillsItsWidth)
     EXPECT_EQ(Find("cmdBrwsBGFile").geometry().right(), 507);
     EXPECT_EQ(view.heightForWidth(520), height - 3 * 26); // the options stand side by side
     EXPECT_TRUE(QTest::qWaitFor([&] { return OnScreen(Panel()) == PictureOf(Panel()); })); // all of it was repainted
+    EXPECT_EQ(main.abViewEdit().BandOf("bndObjProps").Extent(), 520) << "the layout keeps it";
     drag(-500);
     EXPECT_EQ(Panel().width(), 320);
+    main.abViewEdit().BandOf("bndObjProps").SetExtent(400);
+    EXPECT_EQ(Panel().width(), 400);
+    main.abViewEdit().BandOf("bndObjProps").SetExtent(0);
 }
 
 } // namespace

@@ -16,7 +16,6 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTextBrowser>
-#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -159,24 +158,13 @@ TEST(Window, ThePanelsComeAndGoWithTheirTools)
     EXPECT_TRUE(toolbox->isVisible());
 }
 
-QStringList ToolbarOf(Desk& desk)
-{
-    QStringList tools;
-    for (const QAction* action : desk.Window().findChild<QToolBar*>("bndToolBar")->actions()) {
-        if (action->isSeparator() || !action->objectName().isEmpty()) {
-            tools.append(action->isSeparator() ? QStringLiteral("|") : action->objectName());
-        }
-    }
-    return tools;
-}
-
 TEST(Window, TheToolbarStandsAsItWasLeft)
 {
     const QString layout = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quor";
     QStringList arranged;
     {
         Desk desk;
-        arranged = ToolbarOf(desk);
+        arranged = desk.Toolbar();
         desk.Meet([](QWidget& dialog) {
             auto* tools = dialog.findChild<QListWidget*>("lstTools");
             auto* toolbar = dialog.findChild<QListWidget*>("lstToolbar");
@@ -194,13 +182,13 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
         arranged.insert(3, "miSaveAs");
         arranged.removeFirst();
         arranged.swapItemsAt(0, 1);
-        EXPECT_EQ(ToolbarOf(desk), arranged);
+        EXPECT_EQ(desk.Toolbar(), arranged);
         EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
         EXPECT_TRUE(desk.Window().close());
     }
     {
         Desk desk;
-        EXPECT_EQ(ToolbarOf(desk), arranged);
+        EXPECT_EQ(desk.Toolbar(), arranged);
         EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
     }
     EXPECT_TRUE(QDir(layout).removeRecursively());

@@ -150,7 +150,7 @@ void MainWindow::AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int
     parts->addWidget(dock);
     parts->insertWidget(edge == Qt::LeftEdge ? 1 : 0, new Rule(m_theme, Qt::Vertical, panel));
     if (edge == Qt::RightEdge) {
-        new PanelEdge(*panel, *dock, *m_canvas);
+        new PanelEdge(band, *panel, *dock, *m_canvas);
     }
     columns.addWidget(panel);
     panel->setVisible(band.Visible());
