@@ -5,7 +5,7 @@ namespace quor {
 frmCVLabel::frmCVLabel(PageHost& host) : LabelPage("frmCVLabel", host)
 {
     GroundRows();
-    FrameLine("fraCaption", "Caption");
+    FrameLine("fraText", "Text");
     TextRow("txtCaption", "Caption:", &clsLabel::Caption);
     TextRows();
     ArrangeLines();
