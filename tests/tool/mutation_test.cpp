@@ -63,8 +63,13 @@ Bytes Mended(Bytes bytes)
 TEST_F(MutatedFiles, LoadOrFailAndWhatLoadsIsSavedAlike)
 {
     Random random(20'261);
-    const Bytes seeds[] = {Sample("round_led.qvw"), Sample("leds_30.qvw"), Sample("hostile/unknown_type.qvw"),
-                           Sample("hostile/text_without_end.qvw")};
+    const Bytes seeds[] = {Sample("round_led.qvw"),
+                           Sample("leds_30.qvw"),
+                           Sample("hostile/unknown_type.qvw"),
+                           Sample("hostile/text_without_end.qvw"),
+                           Sample("label.qvw"),
+                           Sample("status_picture.qvw"),
+                           Sample("command_with_led.qvw")};
     int sound = 0;
     for (int round = 0; round < 1000; ++round) {
         files.Put("a.qvw", Mended(Mutated(seeds[random() % std::size(seeds)], random)));
