@@ -19,7 +19,8 @@ constexpr float mostUnsigned = 4095;
 
 } // namespace
 
-clsMtrDataSource::clsMtrDataSource(Live& live) : m_live(live), m_hears(!live.DesignMode && live.Server != nullptr)
+clsMtrDataSource::clsMtrDataSource(Live& live, MtrOwner& owner)
+    : m_live(live), m_owner(owner), m_hears(!live.DesignMode && live.Server != nullptr)
 {
     Follow();
 }
@@ -44,7 +45,7 @@ void clsMtrDataSource::RaiseUpdate(float value, bool mute)
     if (m_live.Trace != nullptr) {
         m_live.Trace->UpdateMtrData(*this, value, mute);
     }
-    UpdateMtrData.Raise(value, mute);
+    IgnoreFailure([&] { m_owner.m_MtrDataSource_UpdateMtrData(value, mute); });
 }
 
 void clsMtrDataSource::RaiseDecimalPlaces()
@@ -52,7 +53,15 @@ void clsMtrDataSource::RaiseDecimalPlaces()
     if (m_live.Trace != nullptr) {
         m_live.Trace->DecPlacesChanged(*this, DecimalPlaces());
     }
-    DecPlacesChanged.Raise(DecimalPlaces());
+    IgnoreFailure([&] { m_owner.m_MtrDataSource_DecPlacesChanged(DecimalPlaces()); });
+}
+
+void clsMtrDataSource::RaiseLabel(const MeterLabel& label)
+{
+    if (m_live.Trace != nullptr) {
+        m_live.Trace->LabelData(*this, label);
+    }
+    IgnoreFailure([&] { m_owner.m_MtrDataSource_LabelData(label); });
 }
 
 void clsMtrDataSource::RefreshData()
@@ -61,7 +70,7 @@ void clsMtrDataSource::RefreshData()
         return;
     }
     if (!IgnoreFailure([&] { m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig(); })) {
-        IgnoreFailure([&] { RaiseUpdate(NoData, true); });
+        RaiseUpdate(NoData, true);
     }
 }
 
@@ -74,17 +83,8 @@ void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     const float count = event.CalibConst.FromLower(index);
     const bool isSigned = event.MtrTypes.FromLower(index) == bothWays;
     const auto limit = [&](std::int32_t row) { return event.Limits.FromLower(index, row); };
-    const MeterLabel label{event.MtrLabels.FromLower(index),
-                           isSigned ? count * leastSigned : 0,
-                           count * (isSigned ? mostSigned : mostUnsigned),
-                           limit(0),
-                           limit(1),
-                           limit(2),
-                           limit(3)};
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->LabelData(*this, label);
-    }
-    LabelData.Raise(label);
+    RaiseLabel({event.MtrLabels.FromLower(index), isSigned ? count * leastSigned : 0,
+                count * (isSigned ? mostSigned : mostUnsigned), limit(0), limit(1), limit(2), limit(3)});
 }
 
 void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)

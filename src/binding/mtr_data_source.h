@@ -1,7 +1,6 @@
 #pragma once
 // What a meter reads, and the number, scale and limits that come of it.
 
-#include "base/event.h"
 #include "base/property.h"
 #include "binding/router.h"
 #include "document/format/field_walk.h"
@@ -25,6 +24,18 @@ struct MeterLabel {
     float sngSecondUpper = 0;
 };
 
+// The element that owns a source and hears it.
+class MtrOwner {
+public:
+    // The reading, NoData for none, and whether it isn't to be trusted.
+    virtual void m_MtrDataSource_UpdateMtrData(float sngValue, bool blnMute) = 0;
+    virtual void m_MtrDataSource_DecPlacesChanged(std::int16_t /*intNewVal*/) {}
+    virtual void m_MtrDataSource_LabelData(const MeterLabel& /*label*/) {}
+
+protected:
+    ~MtrOwner() = default;
+};
+
 class clsMtrDataSource final : public ServerListener {
 public:
     static constexpr std::string_view name = "MtrDataSource";
@@ -34,15 +45,11 @@ public:
     Property<"DecimalPlaces", std::int16_t> DecimalPlaces;
     Property<"Site", std::string> Site;
 
-    Event<float, bool> UpdateMtrData; // the reading, NoData for none, and whether it isn't to be trusted
-    Event<std::int16_t> DecPlacesChanged;
-    Event<const MeterLabel&> LabelData;
-
     // Hears the server unless the program is in design mode now.
-    explicit clsMtrDataSource(Live& live);
+    clsMtrDataSource(Live& live, MtrOwner& owner);
     ~clsMtrDataSource();
 
-    // Stores; DecimalPlaces raises its event at each set.
+    // Stores; the owner hears of DecimalPlaces at each set.
     template <class P> void Set(P clsMtrDataSource::*property, typename P::Value value)
     {
         PropertyAccess::Value(this->*property) = std::move(value);
@@ -64,8 +71,10 @@ private:
     void Follow();
     void RaiseUpdate(float value, bool mute);
     void RaiseDecimalPlaces();
+    void RaiseLabel(const MeterLabel& label);
 
     Live& m_live;
+    MtrOwner& m_owner;
     bool HasData = false; // values have come, and the link hasn't been lost since
     bool m_hears;
 };

@@ -6,6 +6,9 @@
 #include "elements/label.h"
 #include "elements/led_rect.h"
 #include "elements/led_round.h"
+#include "elements/meter_text.h"
+#include "elements/mtr_angle.h"
+#include "elements/mtr_linear.h"
 #include "elements/picture.h"
 #include "elements/status_label.h"
 #include "widgets/canvas.h"
@@ -30,9 +33,9 @@ template <class E> constexpr Kind KindOf(std::string_view array, std::string_vie
 }
 
 constexpr std::array kinds = {
-    Kind{0, "ctlMeterText", "Meter (Text) ", "Meter (Text)"},
-    Kind{1, "ctlMeterAngle", "Meter (Angle) ", "Meter (Angular)"},
-    Kind{2, "ctlMeterLinear", "Meter (Linear) ", "Meter (Linear)"},
+    KindOf<clsMeterText>("ctlMeterText", "Meter (Text) ", "Meter (Text)"),
+    KindOf<clsMtrAngle>("ctlMeterAngle", "Meter (Angle) ", "Meter (Angular)"),
+    KindOf<clsMtrLinear>("ctlMeterLinear", "Meter (Linear) ", "Meter (Linear)"),
     KindOf<clsLEDRound>("ctlLEDRound", "LED (Round) ", "LED (Round)"),
     KindOf<clsLEDRect>("ctlLEDRect", "LED (Rectangular) ", "LED (Rectangular)"),
     KindOf<clsStatusLabel>("ctlStatusLabel", "Status Label ", "Status Label"),

@@ -11,6 +11,10 @@
 #include "pages/frm_cv_label.h"
 #include "pages/frm_cv_led_rect.h"
 #include "pages/frm_cv_led_round.h"
+#include "pages/frm_cv_meter_angle.h"
+#include "pages/frm_cv_meter_linear.h"
+#include "pages/frm_cv_meter_props.h"
+#include "pages/frm_cv_meter_text.h"
 #include "pages/frm_cv_picture.h"
 #include "pages/frm_cv_status_label.h"
 #include "pages/frm_cv_view_props.h"
@@ -36,6 +40,9 @@ template <class P> std::unique_ptr<Page> MakePage(PageHost& host)
 
 constexpr PanelRow panelRows[] = {
     {"tlViewProps", MakePage<frmCVViewProps>},
+    {"tlMeterText", MakePage<frmCVMeterText>},
+    {"tlMeterAngle", MakePage<frmCVMeterAngle>},
+    {"tlMeterLinear", MakePage<frmCVMeterLinear>},
     {"tlLEDRound", MakePage<frmCVLEDRound>},
     {"tlLEDRect", MakePage<frmCVLEDRect>},
     {"tlStatusLabel", MakePage<frmCVStatusLabel>},
@@ -44,6 +51,7 @@ constexpr PanelRow panelRows[] = {
     {"tlCommand", MakePage<frmCVCommand>},
     {"tlPicture", MakePage<frmCVPicture>},
     {"tlLabel", MakePage<frmCVLabel>},
+    {"tlMeterProps", MakePage<frmCVMeterProps>},
     {"tlBlnDataSource", MakePage<frmCVBlnDataSource>},
     {"tlMtrDataSource", MakePage<frmCVMtrDataSource>},
     {"tlCmdDataSource", MakePage<frmCVCmdDataSource>},

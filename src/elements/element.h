@@ -52,6 +52,9 @@ public:
         if constexpr (requires { requires S::showsAtOnce; }) {
             (self.*setting).Show(self);
         }
+        if constexpr (requires { S::RuleType::AfterSet(self); }) {
+            S::RuleType::AfterSet(self);
+        }
     }
 
     // From the widget to the settings, and back.

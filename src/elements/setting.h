@@ -37,6 +37,7 @@ template <class W, class P> struct OwnerOf<P W::*> {
 template <FixedString Name, class T, auto WidgetProperty = nullptr, class Rule = AsItIs>
 class Setting : public Property<Name, T> {
 public:
+    using RuleType = Rule; // one with AfterSet says what follows when the setting is set
     static constexpr bool isShown = !std::is_same_v<decltype(WidgetProperty), std::nullptr_t>;
 
     // A font is the element's own: what is set reaches the widget with UpdateFont or WriteControlProps.

@@ -1,10 +1,12 @@
 #include "pages/page.h"
 
+#include "base/text.h"
 #include "pages/font_dialog.h"
 #include "platform/boxes.h"
 #include "platform/common_dialog.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
 namespace quor {
@@ -134,7 +136,11 @@ NumberField& Page::MakeNumber(std::string_view name, std::string_view caption, s
                               double most, int decimals)
 {
     auto& number = Make<NumberField>(std::string(name), least, most, decimals);
-    Line(caption, {{.control = &number, .x = controlsAt, .width = numberWidth}, {.control = &CaptionOf(unit)}});
+    std::vector<LayoutItem> items = {{.control = &number, .x = controlsAt, .width = numberWidth}};
+    if (!unit.empty()) {
+        items.push_back({.control = &CaptionOf(unit)});
+    }
+    Line(caption, std::move(items));
     return number;
 }
 
@@ -211,6 +217,14 @@ void Page::AskForFont(Font& font, const Swatch* color)
     FontFromDialog(dialog, font);
 }
 
+double Page::ShortestOf(float number)
+{
+    const std::string digits = Decimal(number);
+    double shortest = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), shortest);
+    return shortest;
+}
+
 Color Page::DialogColor()
 {
     return m_host.dlgProp().Color;
@@ -248,6 +262,13 @@ void Page::TryPicture(TextBox& field, const std::function<void(const std::string
 void Page::Enable(std::string_view control, bool enabled) const
 {
     On(control).Set(&Control::Enabled, enabled);
+}
+
+void Page::EnableAll(const std::vector<std::string>& controls, bool enabled) const
+{
+    for (const std::string& control : controls) {
+        Enable(control, enabled);
+    }
 }
 
 } // namespace quor

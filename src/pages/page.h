@@ -75,6 +75,8 @@ protected:
     // The font dialog, which takes the font over, with the swatch's colour where there is a swatch.
     void AskForFont(Font& font, const Swatch* color);
     Color DialogColor();
+    // The number of fewest digits that is this float: 0.1 instead of 0.10000000149.
+    static double ShortestOf(float number);
     // The open dialog for pictures; what is chosen is set in the field, whose handler writes it.
     void BrowsePicture(std::string_view field, std::string_view button);
 
@@ -83,6 +85,7 @@ protected:
 
     template <class C = Control> C& On(std::string_view name) const { return Item<C>(name); }
     void Enable(std::string_view control, bool enabled) const;
+    void EnableAll(const std::vector<std::string>& controls, bool enabled) const;
 
     PageHost& m_host;
 
@@ -110,6 +113,13 @@ protected:
     template <class B, class S> void Write(S B::*setting, typename S::Value value)
     {
         TheOwner().Set(setting, std::move(value));
+    }
+    template <class B, class S> void WriteThen(S B::*setting, typename S::Value value, const Work& after)
+    {
+        Write(setting, std::move(value));
+        if (after) {
+            after();
+        }
     }
     template <class B, class S> const typename S::Value& Value(S B::*setting) const { return (TheOwner().*setting)(); }
 
@@ -143,10 +153,7 @@ protected:
                 if (whenDefault) {
                     whenDefault();
                 }
-                Write(setting, colors::buttonFace);
-                if (after) {
-                    after();
-                }
+                WriteThen(setting, colors::buttonFace, after);
             }
         });
         Read(box, [=, this, &check] { check.Value(Value(setting) == colors::buttonFace); });
@@ -202,11 +209,9 @@ protected:
 
     template <class B, class S>
     void NumberRow(std::string_view name, std::string_view caption, std::string_view unit, double least, double most,
-                   S B::*setting, int decimals = 0)
+                   S B::*setting, int decimals = 0, Work after = {})
     {
-        NumberField& field = MakeNumber(name, caption, unit, least, most, decimals);
-        Handle(field.Change, name, [=, this, &field] { Write(setting, Narrow<typename S::Value>(field.Value())); });
-        Read(name, [=, this, &field] { field.Value(Value(setting)); });
+        NumberOn(MakeNumber(name, caption, unit, least, most, decimals), name, setting, std::move(after));
     }
 
     // The field shows the font's name. Owner::UpdateFont gives the font to the widget.
@@ -246,12 +251,39 @@ protected:
         BrowsePicture(name, button);
     }
 
-    template <class B, class S> void OptionRow(std::string_view name, std::vector<std::string> captions, S B::*setting)
+    template <class B, class S>
+    void OptionRow(std::string_view name, std::vector<std::string> captions, S B::*setting, Work after = {})
     {
         OptionArray& options = MakeOptions(name, std::move(captions));
         Handle(options.Click, name,
-               [=, this, &options] { Write(setting, Narrow<typename S::Value>(options.Index())); });
+               [=, this, &options] { WriteThen(setting, Narrow<typename S::Value>(options.Index()), after); });
         Read(name, [=, this, &options] { options.Index(Value(setting)); });
+    }
+
+    // What a row does with its controls, for pages that place them by themselves.
+    template <class B, class S>
+    void ColorOn(Swatch& swatch, std::string_view name, std::string_view button, S B::*setting, Work after = {})
+    {
+        BrowseColor(name, button, [=, this](Color color) { WriteThen(setting, color, after); });
+        Read(name, [=, this, &swatch] { swatch.Set(&Swatch::BackColor, Value(setting)); });
+    }
+
+    template <class B, class S> void NumberOn(NumberField& field, std::string_view name, S B::*setting, Work after = {})
+    {
+        Handle(field.Change, name, [=, this, &field] {
+            if constexpr (std::is_floating_point_v<typename S::Value>) {
+                WriteThen(setting, ToSingle(field.Value()), after);
+            } else {
+                WriteThen(setting, Narrow<typename S::Value>(field.Value()), after);
+            }
+        });
+        Read(name, [=, this, &field] {
+            if constexpr (std::is_floating_point_v<typename S::Value>) {
+                field.Value(ShortestOf(Value(setting)));
+            } else {
+                field.Value(Value(setting));
+            }
+        });
     }
 
 private:
@@ -265,18 +297,6 @@ private:
             }
         });
         Read(name, [=, this, &box] { box.Value(bool{Value(setting) == typename S::Value{true}}); });
-    }
-
-    template <class B, class S>
-    void ColorOn(Swatch& swatch, std::string_view name, std::string_view button, S B::*setting, Work after)
-    {
-        BrowseColor(name, button, [=, this](Color color) {
-            Write(setting, color);
-            if (after) {
-                after();
-            }
-        });
-        Read(name, [=, this, &swatch] { swatch.Set(&Swatch::BackColor, Value(setting)); });
     }
 
     template <class B, class F, class C>

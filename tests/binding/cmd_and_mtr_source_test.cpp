@@ -102,17 +102,24 @@ TEST_F(ASource, AsksForTheCtrlKeyBeforeItSpeaksOfALock)
     EXPECT_EQ(boxes.shown.size(), 2U);
 }
 
+// Hears a meter's source.
+struct AMeterOwner final : MtrOwner {
+    std::vector<MeterLabel> labels;
+    std::vector<std::pair<float, bool>> values;
+    std::vector<int> places;
+
+    void m_MtrDataSource_UpdateMtrData(float reading, bool mute) override { values.emplace_back(reading, mute); }
+    void m_MtrDataSource_DecPlacesChanged(std::int16_t newPlaces) override { places.push_back(newPlaces); }
+    void m_MtrDataSource_LabelData(const MeterLabel& label) override { labels.push_back(label); }
+};
+
 TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
 {
-    clsMtrDataSource source(live);
+    AMeterOwner owner;
+    clsMtrDataSource source(live, owner);
     source.Set(&clsMtrDataSource::Site, "Ridge");
     source.Set(&clsMtrDataSource::Unit, 2);
     source.Set(&clsMtrDataSource::Channel, 1);
-    std::vector<MeterLabel> labels;
-    std::vector<std::pair<float, bool>> values;
-    const Subscription label = source.LabelData.Subscribe([&](const MeterLabel& each) { labels.push_back(each); });
-    const Subscription value =
-        source.UpdateMtrData.Subscribe([&](float reading, bool mute) { values.emplace_back(reading, mute); });
     for (const std::uint8_t type : {std::uint8_t{1}, std::uint8_t{2}}) {
         ConfigDataEvent config{"Ridge", 2, {}, {}, {}, {}, {}, {}, {}};
         config.Limits = {{10, 20, 80, 90}, 4};
@@ -121,12 +128,12 @@ TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
         config.MtrTypes = ServerArray<std::uint8_t>({type});
         server.ConfigData.Raise(config);
     }
-    ASSERT_EQ(labels.size(), 2U);
-    EXPECT_EQ(labels[0].sngMin, -1024);
-    EXPECT_EQ(labels[0].sngMax, 1023.5F);
-    EXPECT_EQ(labels[1].sngMin, 0);
-    EXPECT_EQ(labels[1].sngMax, 2047.5F);
-    EXPECT_EQ(labels[1].sngSecondUpper, 90);
+    ASSERT_EQ(owner.labels.size(), 2U);
+    EXPECT_EQ(owner.labels[0].sngMin, -1024);
+    EXPECT_EQ(owner.labels[0].sngMax, 1023.5F);
+    EXPECT_EQ(owner.labels[1].sngMin, 0);
+    EXPECT_EQ(owner.labels[1].sngMax, 2047.5F);
+    EXPECT_EQ(owner.labels[1].sngSecondUpper, 90);
 
     server.Values.Raise({"Ridge", 2, 0, 0, 0, 0, 1, ServerArray<float>({42})});
     source.RefreshData();
@@ -134,10 +141,13 @@ TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
     server.Disconnected.Raise("Ridge", 0);
     source.RefreshData();
     EXPECT_EQ(server.calls.size(), 1U);
-    EXPECT_EQ(values, (std::vector<std::pair<float, bool>>{{42, true}, {NoData, true}}));
+    EXPECT_EQ(owner.values, (std::vector<std::pair<float, bool>>{{42, true}, {NoData, true}}));
     source.Set(&clsMtrDataSource::Site, "Nowhere");
     source.RefreshData();
-    EXPECT_EQ(values.size(), 3U);
+    EXPECT_EQ(owner.values.size(), 3U);
+    source.Set(&clsMtrDataSource::DecimalPlaces, 2);
+    source.Set(&clsMtrDataSource::DecimalPlaces, 2);
+    EXPECT_EQ(owner.places, (std::vector{2, 2})) << "told at each set";
 }
 
 } // namespace

@@ -23,10 +23,10 @@ struct ThePanel : EditorFixture {
 TEST_F(ThePanel, BindsThePagesOfTheSelectionInTheirOrder)
 {
     std::string cleared;
-    for (const char* page : {"frmCVGeneral", "frmCVLEDRound", "frmCVLEDRect", "frmCVStatusLabel", "frmCVBlnPic",
-                             "frmCVCmdLED", "frmCVCommand", "frmCVPicture", "frmCVLabel", "frmCVCmdDataSource",
-                             "frmCVMtrDataSource", "frmCVBlnDataSource"}) {
-        cleared += std::string("ClearOwner ") + page + "\n";
+    for (const char* page :
+         {"General", "MeterText", "MeterAngle", "MeterLinear", "LEDRound", "LEDRect", "StatusLabel", "BlnPic", "CmdLED",
+          "Command", "Picture", "Label", "CmdDataSource", "MtrDataSource", "BlnDataSource", "MeterProps"}) {
+        cleared += "ClearOwner frmCV" + std::string(page) + "\n";
     }
     EXPECT_EQ(Tabs(), "Custom View Settings|Custom View Settings");
     calls.clear();

@@ -33,8 +33,8 @@ std::string_view NotTaken(std::uint8_t type)
 {
     static constexpr std::string_view fields[] = {
         "none",                                                   // text meter
-        "none",                                                   // angular meter
-        "none",                                                   // linear meter
+        "AutoPositions",                                          // angular meter
+        "AutoPositions",                                          // linear meter
         "none",                                                   // round LED
         "AutoCaption CaptionOn CaptionOff",                       // rectangular LED
         "AutoCaption CaptionOn CaptionOff BGColor BGTransparent", // status label

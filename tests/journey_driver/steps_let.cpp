@@ -6,6 +6,9 @@
 #include "elements/label.h"
 #include "elements/led_rect.h"
 #include "elements/led_round.h"
+#include "elements/meter_text.h"
+#include "elements/mtr_angle.h"
+#include "elements/mtr_linear.h"
 #include "elements/picture.h"
 #include "elements/status_label.h"
 #include "tests/journey_driver/format.h"
@@ -62,6 +65,14 @@ bool SetStatus(Element& element, const Wish& wish)
                                          &Source::Unit, &Source::Channel, &Source::Site);
 }
 
+bool SetMeterSource(Element& element, const Wish& wish)
+{
+    using Source = clsMtrDataSource;
+    clsMtrDataSource* source = element.MeterSource();
+    return source != nullptr && SetOneOf(*source, ForPart(wish, Source::name), &Source::Unit, &Source::Channel,
+                                         &Source::DecimalPlaces, &Source::Site);
+}
+
 // Sets it where the element is an E, and has it.
 template <class E, class... Settings> bool SetOf(Element& element, const Wish& wish, Settings... settings)
 {
@@ -111,11 +122,33 @@ bool SetButton(Element& element, const Wish& wish)
            SetOf<E>(element, wish, &E::LEDColor, &E::LEDAlignment, &E::AutoCaption, &E::Caption, &E::CaptionColor);
 }
 
+bool SetMeter(Element& element, const Wish& wish)
+{
+    using T = clsMeterText;
+    using A = clsMtrAngle;
+    using L = clsMtrLinear;
+    return SetOf<T>(element, wish, &T::BGColor, &T::BorderStyle, &T::FontColor, &T::FontAlignment) ||
+           SetOf<A>(element, wish, &A::ShowInnerArc, &A::ShowOuterArc, &A::MtrRange, &A::MtrRadius, &A::MtrStart,
+                    &A::MtrHubSize, &A::MtrHubColor, &A::MtrHubVisible, &A::MtrOffsetX, &A::MtrOffsetY,
+                    &A::PointerStyle, &A::PointerLength, &A::LabelMargin) ||
+           SetOf<L>(element, wish, &L::MeterOrientation, &L::PointerOffset, &L::TickLabelMargin, &L::TickLocation);
+}
+
+bool SetScaleMeter(Element& element, const Wish& wish)
+{
+    using E = ScaleMeter;
+    return SetOf<E>(element, wish, &E::AutoPositions, &E::PosMax, &E::PosMin, &E::BorderStyle, &E::ReverseScale,
+                    &E::BGTransparent, &E::BGColor, &E::PointerColor, &E::TickVals, &E::BandWidth, &E::PointerSize,
+                    &E::SectionColor1, &E::SectionColor2, &E::SectionColor3, &E::SectionColor4, &E::SectionColor5,
+                    &E::SectionEnd1, &E::SectionEnd2, &E::SectionEnd3, &E::SectionEnd4, &E::TickLabelColor);
+}
+
 void Let(Stage& stage, const Arguments& arguments)
 {
     Element& element = stage.ElementOf(arguments[0]);
     const Wish wish{arguments[1], arguments[2]};
-    for (const auto set : {SetCommon, SetStatus, SetLamp, SetLabel, SetPicture, SetButton}) {
+    for (const auto set :
+         {SetCommon, SetStatus, SetMeterSource, SetLamp, SetLabel, SetPicture, SetButton, SetMeter, SetScaleMeter}) {
         if (set(element, wish)) {
             return;
         }

@@ -1,5 +1,5 @@
-#include "binding/pages/frm_cv_mtr_data_source.h"
 #include "elements/led_round.h"
+#include "elements/meter_text.h"
 #include "tests/editor/editor_fixture.h"
 #include "tests/support/fake_server.h"
 
@@ -222,14 +222,14 @@ TEST_F(TheActionPage, KeepsThePathOfTheViewInTheSite)
 
 TEST_F(ADataPage, OfAMeterLosesUnitAndChannelWithItsSite)
 {
-    auto& page = *dynamic_cast<frmCVMtrDataSource*>(main.Panel().FindPage("frmCVMtrDataSource"));
-    Live silent{true};
-    clsMtrDataSource source(silent);
+    auto& meter = Insert<clsMeterText>();
+    auto& page = *main.Panel().FindPage("frmCVMtrDataSource");
+    clsMtrDataSource& source = meter.MtrDataSource;
     source.Set(&clsMtrDataSource::Site, "Ridge");
     source.Set(&clsMtrDataSource::Unit, 3);
     source.Set(&clsMtrDataSource::Channel, 2);
     source.Set(&clsMtrDataSource::DecimalPlaces, 3);
-    page.SetSource(source);
+    page.SetOwner(meter, "ctlMeterText");
     EXPECT_EQ(Row("frmCVMtrDataSource", "cboChan", 1), "2 - Power");
     EXPECT_EQ(source.Channel(), 2);
     EXPECT_EQ(On<ListBox>("frmCVMtrDataSource", "cboDec").ListIndex(), 3);
@@ -237,7 +237,7 @@ TEST_F(ADataPage, OfAMeterLosesUnitAndChannelWithItsSite)
     EXPECT_EQ(source.Site(), "Listed");
     EXPECT_EQ(source.Unit(), 255);
     EXPECT_EQ(source.Channel(), 0);
-    EXPECT_THROW(page.SetSource(source), Failure) << "no row is unit 255";
+    EXPECT_THROW(page.SetOwner(meter, "ctlMeterText"), Failure) << "no row is unit 255";
 }
 
 } // namespace

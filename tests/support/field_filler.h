@@ -26,7 +26,8 @@ private:
     }
     void Field(std::string_view name, std::int16_t& value) override
     {
-        Fill(name, value, static_cast<std::int16_t>(Draw(-32768, 32767)));
+        // Meters subtract two of them in 16 bits.
+        Fill(name, value, static_cast<std::int16_t>(Draw(-16384, 16383)));
     }
     void Field(std::string_view name, std::int32_t& value) override
     {

@@ -37,16 +37,11 @@ void frmCVMtrDataSource::SetOwner(Element& element, std::string_view /*array*/)
     if (source == nullptr) {
         throw Failure(failures::typeMismatch);
     }
-    SetSource(*source);
-}
-
-void frmCVMtrDataSource::SetSource(clsMtrDataSource& source)
-{
-    m_source = &source;
+    m_source = source;
     m_hasOwner = true;
-    const std::string site = source.Site();
-    const std::int32_t unit = source.Unit();
-    const std::int32_t channel = source.Channel();
+    const std::string site = source->Site();
+    const std::int32_t unit = source->Unit();
+    const std::int32_t channel = source->Channel();
     for (ListBox* list : {&cboSite, &cboUnit, &cboChan, &cboDec}) {
         list->Clear();
     }
@@ -58,7 +53,7 @@ void frmCVMtrDataSource::SetSource(clsMtrDataSource& source)
         cboUnit.ListIndex(unit);
         cboChan.ListIndex(channel - 1);
     }
-    cboDec.ListIndex(source.DecimalPlaces());
+    cboDec.ListIndex(source->DecimalPlaces());
 }
 
 void frmCVMtrDataSource::cboSite_Click()

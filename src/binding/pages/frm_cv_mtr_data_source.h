@@ -13,9 +13,6 @@ public:
     void SetOwner(Element& element, std::string_view array) override;
     void ClearOwner() override { m_hasOwner = false; }
 
-    // The same for the source alone.
-    void SetSource(clsMtrDataSource& source);
-
 private:
     void cboSite_Click();
     void cboUnit_Click();
