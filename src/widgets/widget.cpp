@@ -42,6 +42,16 @@ void Widget::InvalidateShown() const
     m_canvas->Invalidate(Bounds());
 }
 
+void Widget::InvalidateChanged(const Area& before, const Area& after) const
+{
+    if (before != Area{} && before != after) {
+        m_canvas->Invalidate(before);
+    }
+    if (after != Area{}) {
+        m_canvas->Invalidate(after);
+    }
+}
+
 void Widget::Repaint() const
 {
     if (WidgetTrace* trace = Tracer()) {

@@ -48,13 +48,12 @@ public:
         if (written() == value) {
             return;
         }
-        constexpr bool movesIt = std::is_same_v<W, Widget>;
-        if constexpr (movesIt) {
-            Invalidate();
-        }
+        const Area before = Shown(&written);
         PropertyAccess::Value(written) = std::move(value);
         Stored(&written);
-        Invalidate();
+        if (m_canvas != nullptr) {
+            InvalidateChanged(before, Shown(&written));
+        }
     }
 
     // Left, top, width and height in one step.
@@ -93,6 +92,9 @@ protected:
     // What the control does by itself when a property (told by its address) has another value.
     virtual void Stored(const void* /*property*/) {}
 
+    // Where the present value of a property (told by its address) shows; a new one repaints that and no more.
+    virtual Area PartOf(const void* /*property*/) const { return Bounds(); }
+
     // Says that it must be painted again.
     void Invalidate() const
     {
@@ -105,7 +107,14 @@ private:
     friend class Canvas;
     friend class WidgetArray;
 
+    // Nowhere while it isn't on a canvas or not visible.
+    Area Shown(const void* property) const
+    {
+        return m_canvas != nullptr && Visible() ? PartOf(property) : Area{};
+    }
+
     void InvalidateShown() const;
+    void InvalidateChanged(const Area& before, const Area& after) const;
     void Repaint() const;
     WidgetTrace* Tracer() const noexcept;
 
