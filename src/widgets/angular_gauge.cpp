@@ -1,5 +1,7 @@
 #include "widgets/angular_gauge.h"
 
+#include "widgets/arc_layout.h"
+
 namespace quor {
 
 void AngularGauge::VisitProperties(PropertyVisitor& visitor) const
@@ -8,6 +10,16 @@ void AngularGauge::VisitProperties(PropertyVisitor& visitor) const
     VisitEach(visitor, ArcStartDegrees, ArcRangeDegrees, OffsetX, OffsetY, ArcRadius, ShowInnerArcRadius,
               ShowOuterArcRadius, HubSize, HubColor, ShowHub, PointerStyleCode, PointerMargin, TickMajorLength,
               TickMinorLength, TickMinorAlignment, TickMargin, PanelFaceStyle, CurrentMax, CurrentMin);
+}
+
+Area AngularGauge::PartOf(const void* property) const
+{
+    if (property != &Position) {
+        return Bounds();
+    }
+    const double width = Width() / twipsPerPixelX;
+    const double height = Height() / twipsPerPixelY;
+    return PixelsWithin(PointerBounds(*this, ArcOf(*this, width, height, 1)));
 }
 
 } // namespace quor

@@ -49,6 +49,9 @@ public:
 
     std::unique_ptr<Widget> Clone() const override { return std::make_unique<AngularGauge>(*this); }
     void VisitProperties(PropertyVisitor& visitor) const override;
+
+protected:
+    Area PartOf(const void* property) const override;
 };
 
 } // namespace quor

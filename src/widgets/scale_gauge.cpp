@@ -1,5 +1,10 @@
 #include "widgets/scale_gauge.h"
 
+#include "widgets/outline.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace quor {
 
 void ScaleGauge::VisitProperties(PropertyVisitor& visitor) const
@@ -10,6 +15,17 @@ void ScaleGauge::VisitProperties(PropertyVisitor& visitor) const
               PointerSize, PointerColor, TickMajorCount, TickMinorCount, TickLabelMargin, TickLabelPrecision,
               TickLabelColorValue, TickLabelFont, TickValuesVisible, ShowTicksMajor, ShowTicksMinor, ReverseScaleFlag,
               Transparent, BackGroundColor, BorderStyle);
+}
+
+Area ScaleGauge::PixelsWithin(const Extent& pixels) const
+{
+    const auto twips = [](double pixel, float all) {
+        return std::clamp(static_cast<float>(pixel) * twipsPerPixelX, 0.0F, std::max(0.0F, all));
+    };
+    const float left = twips(std::floor(pixels.left) - 1, Width());
+    const float top = twips(std::floor(pixels.top) - 1, Height());
+    return {Left() + left, Top() + top, twips(std::ceil(pixels.right) + 1, Width()) - left,
+            twips(std::ceil(pixels.bottom) + 1, Height()) - top};
 }
 
 } // namespace quor

@@ -9,6 +9,8 @@
 
 namespace quor {
 
+struct Extent;
+
 class ScaleGauge : public Widget {
 public:
     Property<"Position", double> Position; // may lie off the scale
@@ -48,6 +50,10 @@ public:
 
     bool MayBeReordered() const override { return !Transparent(); }
     void VisitProperties(PropertyVisitor& visitor) const override;
+
+protected:
+    // What the gauge has to paint of these pixels from its upper left corner, as a place on the canvas.
+    Area PixelsWithin(const Extent& pixels) const;
 };
 
 } // namespace quor

@@ -108,10 +108,7 @@ private:
     friend class WidgetArray;
 
     // Nowhere while it isn't on a canvas or not visible.
-    Area Shown(const void* property) const
-    {
-        return m_canvas != nullptr && Visible() ? PartOf(property) : Area{};
-    }
+    Area Shown(const void* property) const { return m_canvas != nullptr && Visible() ? PartOf(property) : Area{}; }
 
     void InvalidateShown() const;
     void InvalidateChanged(const Area& before, const Area& after) const;

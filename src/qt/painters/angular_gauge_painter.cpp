@@ -1,0 +1,224 @@
+#include "qt/painters/angular_gauge_painter.h"
+
+#include "qt/painters/bevel.h"
+#include "qt/painters/device_space.h"
+#include "qt/painters/gauge_painting.h"
+#include "qt/painters/mixing.h"
+#include "qt/painters/smooth_fills.h"
+#include "qt/painters/text_block.h"
+#include "qt/ports/qt_text.h"
+#include "widgets/angular_gauge.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <span>
+#include <vector>
+
+namespace quor {
+
+namespace {
+
+// The arc in device pixels.
+struct Dial {
+    const ArcLayout& arc;
+    QPointF origin; // of the gauge
+    QRectF inside;  // its edge
+    qreal line;
+
+    QRectF Circle(qreal radius) const
+    {
+        const QPointF center = origin + QPointF(arc.center.x, arc.center.y);
+        return {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius};
+    }
+};
+
+void Fill(QPainter& painter, const Dial& dial, std::span<const Point> polygon, const QColor& color)
+{
+    if (polygon.empty()) {
+        return;
+    }
+    const Extent bounds = BoundsOf(polygon);
+    SmoothFills fills(
+        painter, QRectF(QPointF(bounds.left, bounds.top), QPointF(bounds.right, bounds.bottom)).translated(dial.origin),
+        dial.inside);
+    fills.Fill(polygon, dial.origin, color);
+    fills.Draw();
+}
+
+void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+{
+    const ArcLayout& arc = dial.arc;
+    const std::vector<SectionRun> runs = SectionRuns(gauge);
+    const qreal half = dial.line / 2;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        RingPart part{runs[i].from, runs[i].to,        arc.inner,
+                      arc.radius,   i == 0 ? 0 : half, i + 1 == runs.size() ? 0 : half};
+        const QColor color = ToQt(Resolve(runs[i].color));
+        const bool isMuted = runs[i].color == colors::buttonFace; // it has to show on its own grey
+        Fill(painter, dial, RingPolygon(arc, part), isMuted ? Darker(color, 0.38) : color);
+        if (isMuted) {
+            part = {part.from,
+                    part.to,
+                    part.inner + dial.line,
+                    part.outer - dial.line,
+                    part.offFrom + dial.line,
+                    part.offTo + dial.line};
+            Fill(painter, dial, RingPolygon(arc, part), color);
+        }
+    }
+}
+
+void PaintArcs(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+{
+    QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
+    color.setAlphaF(0.7F);
+    const ArcLayout& arc = dial.arc;
+    if (gauge.ShowOuterArcRadius()) {
+        Fill(painter, dial, RingPolygon(arc, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}), color);
+    }
+    if (gauge.ShowInnerArcRadius()) {
+        Fill(painter, dial, RingPolygon(arc, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}), color);
+    }
+}
+
+void PaintNumbers(QPainter& painter, const DeviceSpace& space, const ArcLayout& arc, const AngularGauge& gauge)
+{
+    if (!gauge.TickValuesVisible()) {
+        return;
+    }
+    const EndNumbers texts = NumbersOf(gauge);
+    const TextBlock start(painter, texts.start, gauge.TickLabelFont(), space.Scale(), std::nullopt);
+    const TextBlock end(painter, texts.end, gauge.TickLabelFont(), space.Scale(), std::nullopt);
+    const qreal digits = std::max<qreal>(1, std::round(start.Height()));
+    const qreal kept = space.Line(EdgeOf(gauge) == EdgeStyle::None ? 1 : 3);
+    const QSizeF size = space.Area().size();
+    const HungNumbers places = HangNumbers(arc, gauge.TickLabelMargin(), start.Width(), end.Width(), digits,
+                                           {kept, kept, size.width() - kept, size.height() - kept});
+    if (!places.doFit) {
+        return;
+    }
+    const QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
+    const auto draw = [&](const TextBlock& text, const HungNumber& place) {
+        const qreal left = space.Area().left() + place.left;
+        text.Draw(painter, left, left + text.Width(), space.Area().top() + place.top + digits, TextSide::Left, color);
+    };
+    draw(start, places.start);
+    draw(end, places.end);
+}
+
+void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+{
+    constexpr std::int16_t shadedSize = 6; // from here it is seen as a body
+    const QColor color = ToQt(Resolve(gauge.PointerColor()));
+    const bool isLight = IsLight(color);
+    const Outline outline = PointerOutline(gauge, dial.arc);
+    const PointerRelief relief = ReliefOf(dial.arc);
+    const Extent bounds = PointerBounds(gauge, dial.arc);
+    SmoothFills fills(
+        painter,
+        QRectF(dial.origin + QPointF(bounds.left, bounds.top), dial.origin + QPointF(bounds.right, bounds.bottom)),
+        dial.inside);
+    fills.Fill(outline.Grown(relief.halo).Points(), dial.origin, isLight ? BlackAt(0.55) : WhiteAt(0.55));
+    for (const auto& shadow : relief.shadows) {
+        if (shadow.opacity > 0) {
+            fills.Fill(outline.Points(), dial.origin + QPointF(shadow.x, shadow.y), BlackAt(shadow.opacity));
+        }
+    }
+    fills.Fill(outline.Points(), dial.origin, color);
+    if (gauge.PointerSize() >= shadedSize) {
+        fills.Fill(LitHalf(gauge, dial.arc).Points(), dial.origin, WhiteAt(isLight ? 0.34 : 0.18));
+    }
+    fills.Draw();
+}
+
+void PaintHub(QPainter& painter, const QRectF& disc, const ArcLayout& arc, qreal line, const QColor& color)
+{
+    constexpr qreal pinnedRadius = 5; // from here it has a pin in its middle
+    const qreal radius = disc.width() / 2;
+    const auto fill = [&](const QRectF& circle, const QBrush& brush) {
+        painter.setBrush(brush);
+        painter.drawEllipse(circle);
+    };
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (const auto& shadow : ReliefOf(arc).shadows) {
+        if (shadow.opacity > 0) {
+            fill(disc.translated(shadow.x, shadow.y), BlackAt(shadow.opacity));
+        }
+    }
+    const QPointF reach = QPointF(radius, radius) / std::numbers::sqrt2;
+    QLinearGradient body(disc.center() - reach, disc.center() + reach);
+    body.setStops({{0, Lighter(color, 0.24)}, {0.5, color}, {1, Darker(color, 0.2)}});
+    fill(disc, body);
+    if (radius >= pinnedRadius * arc.scale) {
+        const qreal around = 0.74 * radius;
+        fill(disc.adjusted(around, around, -around, -around), Darker(color, 0.45));
+    }
+    if (radius > line) {
+        painter.setPen(QPen(BlackAt(0.4), line));
+        fill(disc.adjusted(line / 2, line / 2, -line / 2, -line / 2), Qt::NoBrush);
+    }
+}
+
+// A picture of the hub, and where it lies.
+void KeepHub(AngularStill& still, const AngularGauge& gauge, qreal line)
+{
+    constexpr qreal mostRadius = 500;
+    const qreal radius = std::min<qreal>(gauge.HubSize() / 2.0, mostRadius) * still.arc.scale;
+    if (!gauge.ShowHub() || radius <= 0) {
+        return;
+    }
+    const QRectF disc = Dial{still.arc, {}, {}, line}.Circle(radius);
+    const qreal reach = std::ceil(3 * still.arc.scale); // of the shadow
+    const QRect box = disc.adjusted(-1, -1, reach, reach).toAlignedRect();
+    still.hub = QImage(box.size(), QImage::Format_ARGB32_Premultiplied);
+    still.hub.fill(Qt::transparent);
+    still.hubPlace = box.topLeft();
+    QPainter painter(&still.hub);
+    PaintHub(painter, disc.translated(-still.hubPlace), still.arc, line, ToQt(Resolve(gauge.HubColor())));
+}
+
+} // namespace
+
+AngularStill DrawAngularFace(QPainter& painter, const AngularGauge& gauge, const QRectF& area)
+{
+    const DeviceSpace space(painter, area);
+    PaintGround(painter, space, gauge);
+    const QRectF inside = InsideEdge(space, EdgeOf(gauge));
+    painter.setClipRect(inside, Qt::IntersectClip);
+    AngularStill still{ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale()), {}, {}};
+    const Dial dial{still.arc, space.Area().topLeft(), inside, space.Line(1)};
+    PaintSections(painter, dial, gauge);
+    PaintArcs(painter, dial, gauge);
+    PaintNumbers(painter, space, still.arc, gauge);
+    KeepHub(still, gauge, space.Line(1));
+    return still;
+}
+
+FaceCache<AngularGauge, AngularStill>& AngularFaces()
+{
+    static FaceCache<AngularGauge, AngularStill> faces(DrawAngularFace);
+    return faces;
+}
+
+void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const QRectF& area)
+{
+    const DeviceSpace space(painter, area);
+    if (space.Area().width() < 1 || space.Area().height() < 1) {
+        return;
+    }
+    const AngularStill still = AngularFaces().Paint(painter, space, gauge, !gauge.Transparent());
+    const Dial dial{still.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
+    PaintPointer(painter, dial, gauge);
+    if (!still.hub.isNull()) {
+        painter.setClipRect(dial.inside, Qt::IntersectClip);
+        painter.drawImage(dial.origin + still.hubPlace, still.hub);
+    }
+}
+
+} // namespace quor

@@ -1,0 +1,39 @@
+#include "qt/painters/gauge_painting.h"
+
+#include "qt/painters/bevel.h"
+#include "qt/painters/device_space.h"
+#include "qt/painters/mixing.h"
+#include "qt/ports/qt_text.h"
+#include "widgets/scale_gauge.h"
+
+#include <QPainter>
+
+namespace quor {
+
+EdgeStyle EdgeOf(std::int32_t bevel)
+{
+    return bevel == bevels::raised    ? EdgeStyle::Raised
+           : bevel == bevels::lowered ? EdgeStyle::Lowered
+                                      : EdgeStyle::None;
+}
+
+EdgeStyle EdgeOf(const ScaleGauge& gauge)
+{
+    return gauge.Transparent() ? EdgeStyle::None : EdgeOf(gauge.BorderStyle());
+}
+
+void PaintGround(QPainter& painter, const DeviceSpace& space, const ScaleGauge& gauge)
+{
+    if (!gauge.Transparent()) {
+        painter.fillRect(space.Area(), ToQt(Resolve(gauge.BackGroundColor())));
+        PaintEdge(painter, space, EdgeOf(gauge));
+    }
+}
+
+bool IsLight(const QColor& color)
+{
+    constexpr qreal darkest = 0.3;
+    return Luminance(color) >= darkest;
+}
+
+} // namespace quor

@@ -1,0 +1,225 @@
+#include "qt/painters/linear_gauge_painter.h"
+
+#include "qt/painters/bevel.h"
+#include "qt/painters/device_space.h"
+#include "qt/painters/gauge_painting.h"
+#include "qt/painters/mixing.h"
+#include "qt/painters/smooth_fills.h"
+#include "qt/painters/text_block.h"
+#include "qt/ports/qt_text.h"
+#include "widgets/linear_gauge.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quor {
+
+namespace {
+
+// A gauge laid out in device pixels, with places along and across its scale turned into the picture's.
+struct Scale {
+    LinearLayout layout;
+    QPointF origin;
+    qreal line;
+    qreal unit; // device pixels of one device-independent pixel
+
+    QPointF At(qreal along, qreal across) const
+    {
+        return origin + (layout.isVertical ? QPointF(across, along) : QPointF(along, across));
+    }
+    QRectF Box(qreal alongLow, qreal alongHigh, qreal acrossLow, qreal acrossHigh) const
+    {
+        return {At(alongLow, acrossLow), At(alongHigh, acrossHigh)};
+    }
+};
+
+struct Numbers {
+    TextBlock start;
+    TextBlock end;
+};
+
+Numbers NumbersFor(const QPainter& painter, const DeviceSpace& space, const LinearGauge& gauge)
+{
+    const EndNumbers texts =
+        gauge.TickValuesVisible() && gauge.TickLabelFont().Size > 0 ? NumbersOf(gauge) : EndNumbers{};
+    return {TextBlock(painter, texts.start, gauge.TickLabelFont(), space.Scale(), std::nullopt),
+            TextBlock(painter, texts.end, gauge.TickLabelFont(), space.Scale(), std::nullopt)};
+}
+
+LinearLayout LayOut(const DeviceSpace& space, const LinearGauge& gauge, const Numbers& numbers)
+{
+    const bool isVertical = gauge.Orientation() == orientations::vertical;
+    const QSizeF size = space.Area().size();
+    LinearRoom room{};
+    room.along = isVertical ? size.height() : size.width();
+    room.across = isVertical ? size.width() : size.height();
+    room.scale = space.Scale();
+    room.edge = EdgeOf(gauge) == EdgeStyle::None ? 0 : 2 * space.Line(1);
+    const qreal digits = std::round(numbers.start.Height());
+    const qreal widest = std::max(numbers.start.Width(), numbers.end.Width());
+    room.startSize = isVertical ? digits : numbers.start.Width();
+    room.endSize = isVertical ? digits : numbers.end.Width();
+    room.numberSize = isVertical ? widest : digits;
+    return LayOut(gauge, room);
+}
+
+// The seam is the last pixel before the boundary, and stays unpainted.
+void PaintBand(QPainter& painter, const Scale& scale, const LinearGauge& gauge)
+{
+    const LinearLayout& layout = scale.layout;
+    const qreal low = std::min(layout.start, layout.end);
+    const qreal high = std::max(layout.start, layout.end);
+    if (layout.bandLow >= layout.bandHigh) {
+        QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
+        color.setAlphaF(0.55F);
+        const qreal first = layout.areNumbersLow ? layout.scaleLine : layout.scaleLine - scale.line;
+        painter.fillRect(scale.Box(low, high, first, first + scale.line), color);
+        return;
+    }
+    for (const SectionRun& run : SectionRuns(gauge)) {
+        const qreal from = std::min(layout.At(run.from), layout.At(run.to));
+        const qreal to = std::max(layout.At(run.from), layout.At(run.to));
+        const qreal shown = to < high ? to - scale.line : to;
+        if (shown > from) {
+            painter.fillRect(scale.Box(from, shown, layout.bandLow, layout.bandHigh), ToQt(Resolve(run.color)));
+        }
+    }
+    PaintFrame(painter, scale.Box(low, high, layout.bandLow, layout.bandHigh), scale.line, BlackAt(0.32),
+               BlackAt(0.32));
+}
+
+void PaintNumbers(QPainter& painter, const Scale& scale, const Numbers& numbers, const LinearGauge& gauge)
+{
+    const LinearLayout& layout = scale.layout;
+    if (!layout.doNumbersFit) {
+        return;
+    }
+    const QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
+    const qreal widest = std::max(numbers.start.Width(), numbers.end.Width());
+    const auto draw = [&](const TextBlock& text, qreal along) {
+        const QPointF corner = scale.At(along, layout.numberLow);
+        const qreal room = layout.isVertical ? widest : text.Width();
+        const TextSide side = layout.areNumbersLow ? TextSide::Right : TextSide::Left;
+        text.Draw(painter, corner.x(), corner.x() + room, corner.y() + std::round(text.Height()), side, color);
+    };
+    draw(numbers.start, layout.startLow);
+    draw(numbers.end, layout.endLow);
+}
+
+// The line through the band that marks the value to the pixel, with the halo's light at its sides.
+void PaintHairline(QPainter& painter, const Scale& scale, qreal first, const QColor& color, const QColor& halo)
+{
+    const LinearLayout& layout = scale.layout;
+    if (layout.bandLow >= layout.bandHigh) {
+        return;
+    }
+    const auto fill = [&](qreal low, qreal high, const QColor& with) {
+        painter.fillRect(scale.Box(low, high, layout.bandLow, layout.bandHigh), with);
+    };
+    fill(first - scale.line, first, halo);
+    fill(first, first + scale.line, color);
+    fill(first + scale.line, first + 2 * scale.line, halo);
+}
+
+Outline Triangle(const Scale& scale, qreal middle, qreal lowFlank, qreal highFlank, const LinearGauge& gauge)
+{
+    const qreal tip = scale.layout.Across(std::round(gauge.PointerOffset() * scale.unit));
+    const qreal base = scale.layout.Across(std::round(gauge.PointerOffset() * scale.unit) +
+                                           std::round(gauge.PointerSize() * scale.unit));
+    Outline outline;
+    for (const QPointF& corner :
+         {scale.At(middle, tip), scale.At(middle + highFlank, base), scale.At(middle - lowFlank, base)}) {
+        outline.Add({corner.x(), corner.y()});
+    }
+    return outline;
+}
+
+// With the line's first pixel there along the scale.
+void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const LinearGauge& gauge, const QRectF& area)
+{
+    const QColor color = ToQt(Resolve(gauge.PointerColor()));
+    const bool isLight = IsLight(color);
+    const qreal middle = first + scale.line / 2;
+    const qreal half = PointerBase(gauge, scale.unit) / 2;
+    const QPointF nowhere(0, 0);
+    const Outline body = Triangle(scale, middle, half, half, gauge);
+    if (half > 0) {
+        SmoothFills halo(painter, area, area);
+        halo.Fill(body.Grown(1.5 * scale.unit).Points(), nowhere, isLight ? BlackAt(0.8) : WhiteAt(0.8));
+        halo.Draw();
+    }
+    PaintHairline(painter, scale, first, color, isLight ? BlackAt(0.75) : WhiteAt(0.75));
+    if (half > 0) {
+        SmoothFills fills(painter, area, area);
+        fills.Fill(body.Points(), QPointF(scale.unit, scale.unit), BlackAt(0.22));
+        fills.Fill(body.Points(), nowhere, color);
+        fills.Fill(Triangle(scale, middle, half, 0, gauge).Points(), nowhere, WhiteAt(isLight ? 0.34 : 0.16));
+        fills.Draw();
+    }
+}
+
+// A picture of the pointer, all across the inside of the gauge.
+void KeepPointer(LinearStill& still, const DeviceSpace& space, const LinearGauge& gauge)
+{
+    const QRectF inside = InsideEdge(space, EdgeOf(gauge)).translated(-space.Area().topLeft());
+    const bool isVertical = still.layout.isVertical;
+    const qreal along = isVertical ? inside.height() : inside.width();
+    const qreal line = space.Line(1);
+    const Stretch stretch = PointerStretch(gauge, along, space.Scale());
+    still.pointerMargin = std::ceil(std::min((stretch.high - stretch.low) / 2, along));
+    const int length = static_cast<int>(2 * still.pointerMargin + line);
+    const QSize size =
+        isVertical ? QSize(static_cast<int>(inside.width()), length) : QSize(length, static_cast<int>(inside.height()));
+    if (size.isEmpty()) {
+        return;
+    }
+    still.pointer = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    still.pointer.fill(Qt::transparent);
+    const QPointF across = isVertical ? QPointF(inside.left(), 0) : QPointF(0, inside.top());
+    QPainter painter(&still.pointer);
+    PaintPointer(painter, {still.layout, -across, line, space.Scale()}, still.pointerMargin, gauge,
+                 still.pointer.rect());
+}
+
+LinearStill DrawLinearFace(QPainter& painter, const LinearGauge& gauge, const QRectF& area)
+{
+    const DeviceSpace space(painter, area);
+    PaintGround(painter, space, gauge);
+    painter.setClipRect(InsideEdge(space, EdgeOf(gauge)), Qt::IntersectClip);
+    const Numbers numbers = NumbersFor(painter, space, gauge);
+    const Scale scale{LayOut(space, gauge, numbers), space.Area().topLeft(), space.Line(1), space.Scale()};
+    PaintBand(painter, scale, gauge);
+    PaintNumbers(painter, scale, numbers, gauge);
+    LinearStill still{scale.layout, {}, 0};
+    KeepPointer(still, space, gauge);
+    return still;
+}
+
+} // namespace
+
+FaceCache<LinearGauge, LinearStill>& LinearFaces()
+{
+    static FaceCache<LinearGauge, LinearStill> faces(DrawLinearFace);
+    return faces;
+}
+
+void PaintLinearGauge(QPainter& painter, const LinearGauge& gauge, const QRectF& area)
+{
+    const DeviceSpace space(painter, area);
+    if (space.Area().width() < 1 || space.Area().height() < 1) {
+        return;
+    }
+    const LinearStill still = LinearFaces().Paint(painter, space, gauge, !gauge.Transparent());
+    const QRectF inside = InsideEdge(space, EdgeOf(gauge));
+    const qreal low = still.layout.Marked(PointerPlace(gauge), space.Line(1), space.Scale()) - still.pointerMargin;
+    const QPointF place = still.layout.isVertical ? QPointF(inside.left(), space.Area().top() + low)
+                                                  : QPointF(space.Area().left() + low, inside.top());
+    if (!inside.contains(QRectF(place, still.pointer.size()))) {
+        painter.setClipRect(inside, Qt::IntersectClip);
+    }
+    painter.drawImage(place, still.pointer);
+}
+
+} // namespace quor
