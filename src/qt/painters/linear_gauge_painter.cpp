@@ -4,6 +4,7 @@
 #include "qt/painters/device_space.h"
 #include "qt/painters/gauge_painting.h"
 #include "qt/painters/mixing.h"
+#include "qt/painters/rounded.h"
 #include "qt/painters/smooth_fills.h"
 #include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"
@@ -86,8 +87,7 @@ void PaintBand(QPainter& painter, const Scale& scale, const LinearGauge& gauge)
             painter.fillRect(scale.Box(from, shown, layout.bandLow, layout.bandHigh), ToQt(Resolve(run.color)));
         }
     }
-    PaintFrame(painter, scale.Box(low, high, layout.bandLow, layout.bandHigh), scale.line, BlackAt(0.32),
-               BlackAt(0.32));
+    FillRing(painter, scale.Box(low, high, layout.bandLow, layout.bandHigh), 0, scale.line, BlackAt(0.32));
 }
 
 void PaintNumbers(QPainter& painter, const Scale& scale, const Numbers& numbers, const LinearGauge& gauge)

@@ -1,12 +1,18 @@
 #include "qt/painters/painters.h"
 
 #include "base/values.h"
+#include "qt/painters/analog_display_painter.h"
+#include "qt/painters/angular_gauge_painter.h"
+#include "qt/painters/linear_gauge_painter.h"
 #include "qt/painters/panel_painter.h"
 #include "qt/painters/push_button_painter.h"
 #include "qt/painters/rect_led_painter.h"
 #include "qt/painters/round_led_painter.h"
 #include "qt/painters/switch_led_painter.h"
 #include "qt/painters/text_label_painter.h"
+#include "widgets/analog_display.h"
+#include "widgets/angular_gauge.h"
+#include "widgets/linear_gauge.h"
 #include "widgets/panel.h"
 #include "widgets/push_button.h"
 #include "widgets/rect_led.h"
@@ -46,6 +52,9 @@ constexpr std::array painters = {
     PainterRow{"ctlPicture", PaintAs<Panel, PaintPanel>},
     PainterRow{"ctlCommand", PaintAs<PushButton, PaintPushButton>},
     PainterRow{"ctlCmdLED", PaintAs<SwitchLed, PaintSwitchLed>},
+    PainterRow{"ctlMeterText", PaintAs<AnalogDisplay, PaintAnalogDisplay>},
+    PainterRow{"ctlMeterLinear", PaintAs<LinearGauge, PaintLinearGauge>},
+    PainterRow{"ctlMeterAngle", PaintAs<AngularGauge, PaintAngularGauge>},
 };
 
 const PainterRow* FindRow(std::string_view arrayName)
