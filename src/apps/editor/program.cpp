@@ -1,11 +1,13 @@
 #include "apps/editor/program.h"
 
+#include "binding/simulator/sites_file.h"
 #include "editor/main_form.h"
 #include "qt/ports/qt_text.h"
 #include "qt/window/main_window.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QStandardPaths>
 
 namespace quor {
 
@@ -23,12 +25,23 @@ std::string StateFolder()
     return FromQt(folder);
 }
 
+// The user's own sites, else those that lie beside the program.
+ServerPlan Sites(Files& files, MessageBoxes& boxes)
+{
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quor-view-editor");
+    const std::string paths[] = {FromQt(own) + "/quor/sites.json", FromQt(QDir::cleanPath(shared)) + "/sites.json"};
+    return LoadSites(files, boxes, paths);
+}
+
+constexpr std::uint64_t seed = 1; // the simulation is the same at each start
+
 } // namespace
 
 Program::Program(std::string tail)
     : m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
                  StateFolder()),
-      m_application(Ports(), std::move(tail))
+      m_server(m_timers, Sites(m_files, m_boxes), seed), m_application(Ports(), std::move(tail))
 {
     m_shown = m_application.MainFormShown.Subscribe([this](frmMain& main) { ShowWindow(main); });
     m_ended = m_application.Ended.Subscribe([this] { Ended.Raise(); });
@@ -48,6 +61,8 @@ EditorPorts Program::Ports()
 {
     m_theme.Apply(*qApp);
     QApplication::setWindowIcon(m_theme.Icon("application"));
+    m_live.Server = &m_server;
+    m_live.CatalogHost = &m_server;
     m_live.Login = &m_login;
     m_live.Boxes = &m_boxes;
     m_live.ViewFiles = &m_files;

@@ -3,6 +3,7 @@
 
 #include "base/event.h"
 #include "binding/live.h"
+#include "binding/simulator/simulated_server.h"
 #include "editor/application.h"
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
@@ -70,6 +71,7 @@ private:
     QtSystemInfo m_systemInfo;
     ErrorReporter m_reporter;
     frmViewPBar m_progress{m_forms};
+    SimulatedServer m_server;
     Live m_live;
     Application m_application;
     std::unique_ptr<MainWindow> m_window; // shows the application's main form
