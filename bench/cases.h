@@ -18,6 +18,7 @@ struct Family {
 extern const Family loading;
 extern const Family saving;
 extern const Family editing;
+extern const Family binding;
 extern const Family panel;
 extern const Family frames;
 extern const Family starting;

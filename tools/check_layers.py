@@ -18,6 +18,7 @@ FLOORS = {
     "forms": 2,
     "widgets": 2,
     "support": 3,
+    "login": 3,
     "binding": 4,
     "elements": 5,
     "document": 6,
@@ -33,7 +34,8 @@ FLOORS = {
 FOREIGN = [
     (re.compile(r"Q[A-Z]\w*|Qt\w+/.*"), ("qt", "apps/editor")),
     (re.compile(r"nlohmann/.*"), ("apps",)),
-    (re.compile(r"(unistd|fcntl|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
+    (re.compile(r"sodium\.h"), ("apps",)),
+    (re.compile(r"(unistd|fcntl|termios|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
 ]
 
 STANDARD = re.compile(r"[a-z_0-9]+")

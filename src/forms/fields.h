@@ -82,6 +82,7 @@ public:
     explicit TextBox(std::string name) : ControlOn(std::move(name)) {}
 
     Property<"ReadOnly", bool> ReadOnly;
+    Property<"Masked", bool> Masked; // what is typed doesn't show
     Property<"BackColor", Color> BackColor{colors::window};
 
     Event<> Change; // the text is another one

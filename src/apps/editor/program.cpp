@@ -25,12 +25,16 @@ std::string StateFolder()
     return FromQt(folder);
 }
 
+std::string ConfigFolder()
+{
+    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) + "/quor";
+}
+
 // The user's own sites, else those that lie beside the program.
 ServerPlan Sites(Files& files, MessageBoxes& boxes)
 {
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quor-view-editor");
-    const std::string paths[] = {FromQt(own) + "/quor/sites.json", FromQt(QDir::cleanPath(shared)) + "/sites.json"};
+    const std::string paths[] = {ConfigFolder() + "/sites.json", FromQt(QDir::cleanPath(shared)) + "/sites.json"};
     return LoadSites(files, boxes, paths);
 }
 
@@ -39,7 +43,8 @@ constexpr std::uint64_t seed = 1; // the simulation is the same at each start
 } // namespace
 
 Program::Program(std::string tail)
-    : m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
+    : m_login({m_files, m_forms, m_timers, m_boxes, m_hasher}, ConfigFolder() + "/users"),
+      m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
                  StateFolder()),
       m_server(m_timers, Sites(m_files, m_boxes), seed), m_application(Ports(), std::move(tail))
 {

@@ -1,14 +1,15 @@
 #pragma once
 // The whole program on the desktop: the ports, the application upon them, and its window.
 
+#include "apps/login/sodium_hasher.h"
 #include "base/event.h"
 #include "binding/live.h"
 #include "binding/simulator/simulated_server.h"
 #include "editor/application.h"
+#include "login/user_login.h"
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
 #include "qt/forms/qt_forms.h"
-#include "qt/ports/desktop_login.h"
 #include "qt/ports/qt_boxes.h"
 #include "qt/ports/qt_clipboard.h"
 #include "qt/ports/qt_common_dialog.h"
@@ -66,7 +67,8 @@ private:
     QtPictures m_pictures;
     QtSettings m_settings{QtSettings::DefaultPath()};
     QtClipboard m_clipboard;
-    DesktopLogin m_login;
+    SodiumHasher m_hasher;
+    UserLogin m_login;
     QtHelp m_help;
     QtSystemInfo m_systemInfo;
     ErrorReporter m_reporter;

@@ -48,6 +48,7 @@ private:
     void ReadLook() override
     {
         Shown().setReadOnly(Model().ReadOnly());
+        Shown().setEchoMode(Model().Masked() ? QLineEdit::Password : QLineEdit::Normal);
         QPalette own;
         const Color ground = Model().BackColor();
         if (ground != colors::window && ground != colors::buttonFace) { // which are the theme's own

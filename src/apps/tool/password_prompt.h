@@ -1,0 +1,14 @@
+#pragma once
+// A new password from who runs a program: typed twice without an echo, or a line of standard input.
+
+#include <string>
+
+namespace quor {
+
+// Fails with 5 where there is none, or the two differ.
+std::string AskNewPassword();
+
+// The user's folder for configuration, without a separator at its end.
+std::string ConfigFolder();
+
+} // namespace quor

@@ -1,0 +1,158 @@
+#include "login/user_list.h"
+
+#include "base/failure.h"
+#include "base/text.h"
+#include "document/format/upgrade.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace quor {
+
+namespace {
+
+constexpr std::string_view firstLine = "quor users 1";
+constexpr std::int64_t largestFile = 1 << 20;
+constexpr std::size_t longestName = 64;
+
+// What a hash begins with, and bounds of what it may cost to check one: a file must not make the program run out of
+// memory or time.
+constexpr std::string_view hashPrefix = "$argon2id$v=19$m=";
+constexpr std::size_t longestHash = 127;
+constexpr std::uint32_t mostMemory = 1 << 20; // KiB
+constexpr std::uint32_t mostPasses = 16;
+
+template <class Number> bool TakeNumber(std::string_view& text, Number& number)
+{
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    return error == std::errc();
+}
+
+bool TakeWord(std::string_view& text, std::string_view word)
+{
+    const bool isThere = text.starts_with(word);
+    text.remove_prefix(isThere ? word.size() : 0);
+    return isThere;
+}
+
+bool IsHash(std::string_view text)
+{
+    const bool isPrintable = std::ranges::all_of(text, [](char letter) { return letter > ' ' && letter < 0x7F; });
+    std::uint32_t memory = 0;
+    std::uint32_t passes = 0;
+    return isPrintable && text.size() <= longestHash && TakeWord(text, hashPrefix) && TakeNumber(text, memory) &&
+           memory <= mostMemory && TakeWord(text, ",t=") && TakeNumber(text, passes) && passes <= mostPasses &&
+           TakeWord(text, ",p=1$");
+}
+
+// From the front to the next blank, and both taken off.
+std::string_view TakeToBlank(std::string_view& text)
+{
+    const std::size_t end = std::min(text.find(' '), text.size());
+    const std::string_view word = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return word;
+}
+
+bool ReadRights(std::string_view text, std::set<std::int16_t>& rights)
+{
+    if (text == "-") {
+        return true;
+    }
+    do {
+        std::int16_t right = 0;
+        if (!TakeNumber(text, right) || right < 1) {
+            return false;
+        }
+        rights.insert(right);
+    } while (TakeWord(text, ","));
+    return text.empty();
+}
+
+// Empty if the line tells a user.
+std::string ReadUser(std::string_view line, UserList& users)
+{
+    User user;
+    user.hash = TakeToBlank(line);
+    const std::string_view rights = TakeToBlank(line);
+    user.name = line;
+    if (!IsHash(user.hash)) {
+        return "there is no hash that could be checked.";
+    }
+    if (!ReadRights(rights, user.rights)) {
+        return "the rights are no numbers with commas between them.";
+    }
+    if (!IsUserName(user.name)) {
+        return "there is no name.";
+    }
+    if (FindUser(users, user.name) != nullptr) {
+        return "the user is there twice.";
+    }
+    users.push_back(std::move(user));
+    return {};
+}
+
+} // namespace
+
+bool IsUserName(std::string_view name)
+{
+    const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' ' || letter == 0x7F; };
+    const std::size_t length = CharacterCount(name);
+    return length >= 1 && length <= longestName && TrimBlanks(name) == name && std::ranges::none_of(name, isControl);
+}
+
+const User* FindUser(const UserList& users, std::string_view name)
+{
+    const auto found = std::ranges::find(users, name, &User::name);
+    return found == users.end() ? nullptr : &*found;
+}
+
+UserList ReadUsers(std::string_view text)
+{
+    UserList users;
+    for (int number = 1; number == 1 || !text.empty(); ++number) {
+        const std::size_t end = text.find('\n');
+        const std::string_view line = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        std::string fault;
+        if (end == std::string_view::npos) {
+            fault = "the line has no end.";
+        } else if (number > 1) {
+            fault = ReadUser(line, users);
+        } else if (line != firstLine) {
+            fault = "this is no file of users.";
+        }
+        if (!fault.empty()) {
+            throw Failure(failures::typeMismatch, "Line " + std::to_string(number) + ": " + fault);
+        }
+    }
+    return users;
+}
+
+std::string WriteUsers(const UserList& users)
+{
+    std::string text(firstLine);
+    text += '\n';
+    for (const User& user : users) {
+        std::string rights;
+        for (const std::int16_t right : user.rights) {
+            rights += (rights.empty() ? "" : ",") + std::to_string(right);
+        }
+        text += user.hash + ' ' + (rights.empty() ? "-" : rights) + ' ' + user.name + '\n';
+    }
+    return text;
+}
+
+UserList LoadUsers(Files& files, const std::string& path)
+{
+    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Read);
+    if (file->Size() > largestFile) {
+        throw Failure(failures::outOfRange, "The file of users has more than 1 MB.");
+    }
+    const std::vector<std::uint8_t> text = ReadWhole(*file);
+    return ReadUsers({reinterpret_cast<const char*>(text.data()), text.size()});
+}
+
+} // namespace quor

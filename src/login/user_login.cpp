@@ -1,0 +1,103 @@
+#include "login/user_login.h"
+
+#include "base/failure.h"
+#include "base/values.h"
+#include "login/frm_log_on.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
+#include "platform/forms.h"
+#include "platform/password_hash.h"
+
+namespace quor {
+
+namespace {
+constexpr int answerDelay = 10; // milliseconds
+}
+
+UserLogin::UserLogin(const Ports& ports, std::string path)
+    : m_ports(ports), m_path(std::move(path)), tmrAnswer(ports.timers.Make())
+{
+    tmrAnswer->SetInterval(answerDelay);
+    m_onAnswer = tmrAnswer->Fired.Subscribe([this] {
+        tmrAnswer->SetEnabled(false);
+        LogOn.Raise(m_answer);
+    });
+}
+
+UserLogin::~UserLogin() = default;
+
+bool UserLogin::IsOpen()
+{
+    if (!m_isOpen) {
+        m_isOpen = !m_ports.files.FileExists(m_path);
+    }
+    return *m_isOpen;
+}
+
+bool UserLogin::IsLoggedOn()
+{
+    return IsOpen() || m_user.has_value();
+}
+
+bool UserLogin::HasPrivilege(std::int16_t right)
+{
+    return IsOpen() || (m_user && m_user->rights.contains(right));
+}
+
+void UserLogin::EndSession()
+{
+    if (m_user) {
+        m_user.reset();
+        LogOff.Raise();
+    }
+}
+
+void UserLogin::AnswerLater(bool success)
+{
+    m_answer = success;
+    tmrAnswer->SetEnabled(true);
+}
+
+void UserLogin::ShowLogOn(bool /*show*/)
+{
+    if (IsOpen()) {
+        AnswerLater(true);
+        return;
+    }
+    UserList users;
+    try {
+        users = LoadUsers(m_ports.files, m_path);
+    } catch (...) {
+        m_ports.boxes.Show("The users of the file \"" + m_path + "\" cannot be read, so nobody can log on. " +
+                               CurrentFailure().Description(),
+                           std::string(appTitle), BoxButtons::Ok);
+        AnswerLater(false);
+        return;
+    }
+    auto form = std::make_unique<frmLogOn>(
+        m_ports.timers, m_failures,
+        [this, users = std::move(users)](const std::string& name, const std::string& password) {
+            return Check(users, name, password);
+        });
+    m_answer = false;
+    m_onUnloaded = form->Unloaded.Subscribe([this] { AnswerLater(m_answer); });
+    m_ports.forms.ShowModal(std::move(form));
+}
+
+// A name that nobody has costs the same as a wrong password: the time tells nothing.
+bool UserLogin::Check(const UserList& users, const std::string& name, const std::string& password)
+{
+    const User* user = FindUser(users, name);
+    if (users.empty()) {
+        return false;
+    }
+    const bool isRight = m_ports.hasher.Verify(user == nullptr ? users.front().hash : user->hash, password);
+    if (user == nullptr || !isRight) {
+        return false;
+    }
+    m_user = *user;
+    m_answer = true;
+    return true;
+}
+
+} // namespace quor
