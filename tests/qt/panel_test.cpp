@@ -96,6 +96,12 @@ TEST_F(ThePanel, WritesANumberAsItIsTypedAndRefusesWhatIsNone)
     EXPECT_EQ(led.ObjWidth(), 2 * 15);
     Take("txtX");
     EXPECT_EQ(Text(width.text()), "2"); // nothing is no number, so the last one is back
+    QTest::keyClicks(&Take("txtY"), "12.34");
+    const float top = led.ObjTop();
+    main.ReleaseControl();
+    Select(led);
+    EXPECT_EQ(Text(General().findChild<QLineEdit*>("txtY")->text()), "12.34"); // not with all that a twip adds
+    EXPECT_EQ(led.ObjTop(), top);
 }
 
 TEST_F(ThePanel, WritesTextAtEveryKeyAndKeepsTheCaret)

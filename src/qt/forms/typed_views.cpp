@@ -8,6 +8,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 namespace quor {
@@ -132,7 +133,15 @@ private:
         return text.size() < present.size() && Model().Judge(FromQt(present)) == NumberField::Typing::Refused;
     }
 
-    QString Present() const { return IsAttached() ? ToQt(Decimal(Model().Value())) : Shown().text(); }
+    // With no more decimals than can be typed.
+    QString Present() const
+    {
+        if (!IsAttached()) {
+            return Shown().text();
+        }
+        const double scale = std::pow(10.0, Model().Decimals);
+        return ToQt(Decimal(std::round(Model().Value() * scale) / scale));
+    }
 
     bool m_isTyping = false;
 };
