@@ -111,8 +111,9 @@ void Type(Stage& stage, const Arguments& arguments)
         const std::string longer = typed + all.substr(start, end - start);
         if (text != nullptr) {
             text->Type(longer);
-        }
-        if (text != nullptr || number->Type(longer)) {
+            typed = longer;
+        } else if (number->Judge(longer) != NumberField::Typing::Refused) {
+            number->Type(longer);
             typed = longer;
         }
     }
