@@ -1,5 +1,6 @@
 #include "editor/property_panel.h"
 
+#include "base/guard.h"
 #include "binding/pages/frm_cv_bln_data_source.h"
 #include "binding/pages/frm_cv_cmd_data_source.h"
 #include "binding/pages/frm_cv_mtr_data_source.h"
@@ -111,9 +112,12 @@ PropertyPanel::~PropertyPanel()
 
 void PropertyPanel::HidePropertyPages()
 {
-    for (Band* child : m_bars.BandOf(panelBand).Children()) {
-        child->Set(&Band::Visible, false);
-    }
+    Guard(m_host.PageReporter(), Ref("frmMain.HidePropertyPages"),
+          "Unable to hide the property dialog for the selected control.", [&] {
+              for (Band* child : m_bars.BandOf(panelBand).Children()) {
+                  child->Set(&Band::Visible, false);
+              }
+          });
 }
 
 void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, bool reload)
