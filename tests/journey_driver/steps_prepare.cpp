@@ -49,7 +49,7 @@ FakeFiles::Bytes FromHex(std::string_view digits)
 void MakeFile(Stage& stage, const Arguments& arguments)
 {
     if (arguments[1] == "from") {
-        if (arguments.Count() > 3) {
+        if (arguments.Count() != 3) {
             throw JourneyError("wanted is: file PATH from PATH2");
         }
         stage.files.Put(arguments[0], stage.HostBytes(arguments[2]));
@@ -183,7 +183,7 @@ void ScriptDialog(Stage& stage, const Arguments& arguments)
 
 constexpr StepRow rows[] = {
     {"setting", "GridSize|ShowGrid|SnapToGrid|ViewsDirectory|ToolbarDirectory|HelpFile VALUE", SetSetting},
-    {"file", "PATH from|hex TEXT...", MakeFile},
+    {"file", "PATH from|hex [TEXT...]", MakeFile},
     {"delete", "PATH", DeleteFile},
     {"readonly", "PATH", MakeReadOnly},
     {"fail", "PORT.CALL N [NUMBER]", PlanFailure, CheckFailure},
