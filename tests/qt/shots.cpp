@@ -1,7 +1,9 @@
 // Keeps pictures of the editor's window, light and dark, to be looked at: shots FOLDER [VIEW]. QT_SCALE_FACTOR scales.
 
 #include "apps/editor/program.h"
+#include "document/kinds.h"
 #include "editor/main_form.h"
+#include "forms/bars.h"
 #include "qt/ports/qt_common_dialog.h"
 #include "qt/window/main_window.h"
 
@@ -47,6 +49,32 @@ void KeepDialog(const QString& path, const std::function<void()>& action)
     QTest::qWait(50);
 }
 
+// Each page of each kind of element, and of the view.
+void KeepPages(Program& program, const QString& path)
+{
+    frmMain& main = *program.MainForm();
+    Band& panel = main.abViewEdit().BandOf("bndObjProps");
+    const auto keep = [&](const QString& kind) {
+        for (const Band* page : panel.Children()) {
+            if (page->Visible()) {
+                panel.SetCurrentChild(page->Name);
+                QTest::qWait(30);
+                const QString name = path + kind + '_' + QString::fromStdString(page->Name) + ".png";
+                program.Window()->findChild<QWidget*>("bndObjProps")->grab().save(name);
+            }
+        }
+    };
+    main.ReleaseControl();
+    keep("view");
+    for (const Kind& kind : Kinds()) {
+        if (kind.Exists()) {
+            main.InsertElement(kind.type);
+            main.SelectControl(*main.ssScroll().Front());
+            keep(QString::fromLatin1(kind.array.data(), static_cast<qsizetype>(kind.array.size())));
+        }
+    }
+}
+
 void KeepAll(Program& program, const QString& path)
 {
     frmMain& main = *program.MainForm();
@@ -88,6 +116,7 @@ int main(int argc, char** argv)
     program.MainForm()->InsertElement(3);
     SelectAWidget(program);
     KeepAll(program, folder + "/light_");
+    KeepPages(program, folder + "/light_page_");
     SelectAWidget(program);
     program.Looks().UseColors(DarkColors());
     KeepAll(program, folder + "/dark_");
