@@ -163,7 +163,7 @@ struct AnyEdit : EditorFixture {
 
 TEST_F(AnyEdit, LeavesTheViewWhole)
 {
-    for (int step = 0; step < 5'000; ++step) {
+    for (int step = 0; step < 20'000; ++step) {
         Edit();
         Check();
         if (HasFatalFailure()) {
