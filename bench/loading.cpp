@@ -15,17 +15,22 @@ namespace {
 
 const std::string path = "/view.qvw";
 
-void Prepare(FakeFiles& files, std::int64_t leds)
+// How a view is filled.
+using Fill = void (*)(clsCustView& view, std::int64_t count);
+
+constexpr std::int64_t mixedSize = 3'000;
+
+void Prepare(FakeFiles& files, Fill fill, std::int64_t count)
 {
     World world(files);
-    AddLeds(world.View(), leds);
+    fill(world.View(), count);
     world.View().SaveFile(path);
 }
 
-void LoadView(benchmark::State& state)
+void LoadView(benchmark::State& state, Fill fill)
 {
     FakeFiles files;
-    Prepare(files, state.range(0));
+    Prepare(files, fill, state.range(0));
     World world(files);
     for (auto _ : state) {
         MustHold(world.View().LoadFile(path), "The view can't be loaded.");
@@ -52,42 +57,61 @@ std::size_t BytesInUse()
     return info.uordblks + info.hblkhd;
 }
 
-void MeasureMemory(Results& results)
+// What a view takes, in bytes an element.
+double MeasureMemory(Fill fill, std::int64_t count)
 {
     FakeFiles files;
-    Prepare(files, largestFile);
+    Prepare(files, fill, count);
     World world(files);
     const std::size_t before = BytesInUse();
     world.View().LoadFile(path);
-    results.Take("bytes of a view", static_cast<double>(BytesInUse() - before));
+    return static_cast<double>(BytesInUse() - before) / static_cast<double>(count);
 }
 
 void Register(Results& results)
 {
     for (const std::int64_t size : fileSizes) {
-        benchmark::RegisterBenchmark("load", LoadView)->Arg(size);
+        benchmark::RegisterBenchmark("load", LoadView, AddLeds)->Arg(size);
         benchmark::RegisterBenchmark("QUiLoader", LoadQtForm)->Arg(size);
     }
-    MeasureMemory(results);
+    benchmark::RegisterBenchmark("load, mixed", LoadView, AddMixed)->Arg(mixedSize);
+    benchmark::RegisterBenchmark("QUiLoader", LoadQtForm)->Arg(mixedSize);
+    results.Take("bytes of an LED", MeasureMemory(AddLeds, largestFile));
+    results.Take("bytes of a mixed element", MeasureMemory(AddMixed, mixedSize));
+}
+
+Row TimeAnElement(const Results& results, const std::string& name, std::int64_t size, double most)
+{
+    const double seconds = results.Seconds(Sized(name, size)) / static_cast<double>(size);
+    return {name + ", an element",       std::to_string(size), Duration(seconds),
+            Duration(most) + " at most", seconds / most,       1};
+}
+
+Row MemoryOfAnElement(const Results& results, const std::string& what, std::int64_t size, double most)
+{
+    const double bytes = results.Seconds("bytes of " + what);
+    return {"memory of " + what, std::to_string(size), Bytes(bytes), Bytes(most) + " at most", bytes / most, 1};
 }
 
 void AddRows(const Results& results, std::vector<Row>& rows)
 {
     const double mostSeconds = 0.6e-6;
+    const double mostSecondsMixed = 1e-6;
     const double mostBytes = 1024;
+    const double mostBytesMixed = 1.2 * 1024;
     const double leastLead = 20;
+    const double leastLeadMixed = 12;
     for (const std::int64_t size : fileSizes) {
         rows.push_back(FasterThan(results, "load", size, "QUiLoader", leastLead));
     }
+    rows.push_back(FasterThan(results, "load, mixed", mixedSize, "QUiLoader", leastLeadMixed));
     for (const std::int64_t size : fileSizes) {
-        const double seconds = results.Seconds(Sized("load", size)) / static_cast<double>(size);
-        rows.push_back({"load, an element", std::to_string(size), Duration(seconds), Duration(mostSeconds) + " at most",
-                        seconds / mostSeconds, 1});
+        rows.push_back(TimeAnElement(results, "load", size, mostSeconds));
     }
+    rows.push_back(TimeAnElement(results, "load, mixed", mixedSize, mostSecondsMixed));
     rows.push_back(Exponent(results, "load", fileSizes));
-    const double bytes = results.Seconds("bytes of a view") / static_cast<double>(largestFile);
-    rows.push_back({"memory, an element", std::to_string(largestFile), Bytes(bytes), Bytes(mostBytes) + " at most",
-                    bytes / mostBytes, 1});
+    rows.push_back(MemoryOfAnElement(results, "an LED", largestFile, mostBytes));
+    rows.push_back(MemoryOfAnElement(results, "a mixed element", mixedSize, mostBytesMixed));
 }
 
 } // namespace

@@ -31,13 +31,30 @@ std::string NameOf(std::int64_t number)
     return "a" + std::to_string(number);
 }
 
-void AddLeds(clsCustView& view, std::int64_t count)
+namespace {
+
+void AddInRows(Collection& collection, std::int64_t number)
 {
     const std::int64_t perRow = 100;
     const float pitch = 300;
+    collection.Add(static_cast<float>(number / perRow) * pitch, static_cast<float>(number % perRow) * pitch,
+                   NameOf(number), true);
+}
+
+} // namespace
+
+void AddLeds(clsCustView& view, std::int64_t count)
+{
     for (std::int64_t number = 1; number <= count; ++number) {
-        LedsOf(view).Add(static_cast<float>(number / perRow) * pitch, static_cast<float>(number % perRow) * pitch,
-                         NameOf(number), true);
+        AddInRows(LedsOf(view), number);
+    }
+}
+
+void AddMixed(clsCustView& view, std::int64_t count)
+{
+    const auto kinds = static_cast<std::int64_t>(Kinds().size());
+    for (std::int64_t number = 1; number <= count; ++number) {
+        AddInRows(view.CollectionOf(static_cast<std::int32_t>(number % kinds)), number);
     }
 }
 

@@ -37,6 +37,7 @@ void MustHold(bool condition, const std::string& words);
 Collection& LedsOf(clsCustView& view);
 std::string NameOf(std::int64_t number); // a1, a2 and so on
 void AddLeds(clsCustView& view, std::int64_t count);
+void AddMixed(clsCustView& view, std::int64_t count); // of each kind as many
 
 class World {
 public:
