@@ -44,6 +44,7 @@ std::unique_ptr<TextLabel> clsStatusLabel::Prototype()
     auto widget = std::make_unique<TextLabel>();
     widget->Move(0, 0, 1575, 195);
     widget->Set(&TextLabel::Caption, "Status Label");
+    widget->Set(&TextLabel::BackStyle, 0); // as a new label's settings have it
     return widget;
 }
 

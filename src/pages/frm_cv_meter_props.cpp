@@ -55,7 +55,7 @@ void frmCVMeterProps::ScaleRows()
     });
     NumberRow("txtMin", "Min:", "", -mostPosition, mostPosition, &E::PosMin, decimals);
     NumberRow("txtMax", "Max:", "", -mostPosition, mostPosition, &E::PosMax, decimals,
-              [this] { On<TextBox>("txtLastEndVal").Text(Decimal(Value(&E::PosMax))); });
+              [this] { On<TextBox>("txtLastEndVal").Text(Decimal(On<NumberField>("txtMax").Value())); });
 }
 
 template <class S> NumberField& frmCVMeterProps::EndField(int index, S E::*setting)
