@@ -1,7 +1,7 @@
 # What `cmake --install` puts where: the programs, and what a desktop needs to open view files with the editor.
 include(GNUInstallDirs)
 
-foreach(program quor-view-editor quor-view-tool)
+foreach(program quor-view-editor quor-view-tool quor-draw-metafile)
   if(TARGET ${program})
     install(TARGETS ${program})
   endif()

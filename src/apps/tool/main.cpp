@@ -1,8 +1,9 @@
-// quor-view-tool: checks, prints and rewrites view files without a window, and keeps the file of users.
+// quor-view-tool: checks, prints, rewrites and draws view files without a window, and keeps the file of users.
 
 #include "apps/login/sodium_hasher.h"
 #include "apps/tool/password_prompt.h"
 #include "apps/tool/user_tool.h"
+#include "apps/tool/view_renderer.h"
 #include "apps/tool/view_tool.h"
 #include "posix/disk_files.h"
 
@@ -14,7 +15,8 @@ namespace {
 int Run(quor::DiskFiles& files, std::span<const std::string> words)
 {
     if (words.empty() || words.front() != "user") {
-        return quor::ViewTool(files, std::cout, std::cerr).Run(words);
+        const std::unique_ptr<quor::ViewRenderer> renderer = quor::MakeViewRenderer();
+        return quor::ViewTool(files, std::cout, std::cerr, renderer.get()).Run(words);
     }
     quor::SodiumHasher hasher;
     const quor::UserTool::Ports ports{files, hasher, quor::AskNewPassword, std::cout, std::cerr};

@@ -1,17 +1,14 @@
 #include "apps/tool/view_tool.h"
 
-#include "apps/tool/console_ports.h"
+#include "apps/tool/desk.h"
+#include "apps/tool/render_job.h"
+#include "apps/tool/view_renderer.h"
 #include "apps/view_json/view_json.h"
 #include "base/guard.h"
-#include "binding/live.h"
 #include "document/format/container.h"
 #include "document/format/upgrade.h"
-#include "document/kinds.h"
-#include "document/view_document.h"
-#include "support/frm_view_pbar.h"
-#include "widgets/canvas.h"
+#include "platform/files.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
@@ -21,108 +18,8 @@ namespace {
 
 constexpr std::string_view usage = "usage: quor-view-tool check FILE... | dump FILE | build FILE.json OUT.qvw | "
                                    "upgrade FILE OUT.qvw | resave FILE OUT.qvw";
-
-// Why a command could not run.
-struct Refusal {
-    std::string reason;
-};
-
-std::string OneLine(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](char letter) { return static_cast<unsigned char>(letter) < ' '; }, ' ');
-    return text;
-}
-
-std::string_view WordFor(LoadVerdict verdict)
-{
-    switch (verdict) {
-    case LoadVerdict::Ok:
-        return "ok";
-    case LoadVerdict::WrongFile:
-        return "wrong-file";
-    case LoadVerdict::Newer:
-        return "newer";
-    case LoadVerdict::OldVersion:
-        return "old-version";
-    case LoadVerdict::Corrupt:
-        return "corrupt";
-    case LoadVerdict::Missing:
-    case LoadVerdict::Failure:
-        break;
-    }
-    return "load-failure";
-}
-
-// A view with its canvas and the world around it.
-class Desk {
-public:
-    explicit Desk(Files& files)
-        : m_live{true}, m_view({.files = files,
-                                .boxes = m_boxes,
-                                .reporter = m_reports,
-                                .forms = m_forms,
-                                .timers = m_timers,
-                                .pictures = m_pictures,
-                                .progress = m_progress,
-                                .live = m_live},
-                               WithArrays(m_canvas))
-    {
-    }
-
-    clsCustView& View() noexcept { return m_view; }
-
-    // How the last load ended, with the reason if there is one.
-    std::string Verdict() const
-    {
-        const std::string told = Told();
-        return std::string(WordFor(m_view.Verdict())) + (told.empty() ? "" : ": " + told);
-    }
-
-    // The failures and messages so far.
-    std::string Told() const
-    {
-        std::string told;
-        for (const ErrorReport& report : m_reports.reports) {
-            told += (told.empty() ? "" : " ") + report.description;
-        }
-        for (const std::string& text : m_boxes.texts) {
-            told += (told.empty() ? "" : " ") + text;
-        }
-        return OneLine(told);
-    }
-
-private:
-    static Canvas& WithArrays(Canvas& canvas)
-    {
-        AddWidgetArrays(canvas);
-        return canvas;
-    }
-
-    KeptBoxes m_boxes;
-    KeptReports m_reports;
-    NoForms m_forms;
-    NoTimers m_timers;
-    NoPictures m_pictures;
-    frmViewPBar m_progress{m_forms};
-    Live m_live;
-    Canvas m_canvas;
-    clsCustView m_view;
-};
-
-void Load(Desk& desk, const std::string& path)
-{
-    if (!desk.View().LoadFile(path)) {
-        throw Refusal{desk.Verdict()};
-    }
-}
-
-void Save(Desk& desk, const std::string& path)
-{
-    if (!desk.View().SaveFile(path)) {
-        throw Refusal{"cannot save " + path + ": " + desk.Told()};
-    }
-}
+constexpr std::string_view renderUsage = " | render FILE OUT.png [--scale N] [--state on|off] [--size WIDTHxHEIGHT]";
+constexpr std::string_view noRender = " (this build can't render: it is one without Qt)";
 
 // The whole file by way of a scratch file, so that the target is replaced in one step.
 void WriteWhole(Files& files, const std::string& path, std::span<const std::uint8_t> bytes)
@@ -173,7 +70,11 @@ int ViewTool::RunCommand(std::span<const std::string> arguments)
             return 0;
         }
     }
-    m_errors << usage << '\n';
+    if (command == "render" && m_renderer != nullptr && arguments.size() >= 3) {
+        Render(arguments.subspan(1));
+        return 0;
+    }
+    m_errors << usage << (m_renderer == nullptr ? noRender : renderUsage) << '\n';
     return 2;
 }
 
@@ -191,7 +92,7 @@ int ViewTool::Check(std::span<const std::string> paths)
 void ViewTool::Dump(const std::string& path)
 {
     Desk desk(m_files);
-    Load(desk, path);
+    desk.Load(path);
     m_out << JsonText(ViewToJson(desk.View()));
 }
 
@@ -200,7 +101,7 @@ void ViewTool::Build(const std::string& from, const std::string& to)
     const std::vector<std::uint8_t> text = ReadWhole(*m_files.Open(from, OpenMode::Read));
     Desk desk(m_files);
     ViewFromJson(ParseJson({reinterpret_cast<const char*>(text.data()), text.size()}), desk.View());
-    Save(desk, to);
+    desk.Save(to);
 }
 
 void ViewTool::Upgrade(const std::string& from, const std::string& to)
@@ -223,8 +124,16 @@ void ViewTool::Upgrade(const std::string& from, const std::string& to)
 void ViewTool::Resave(const std::string& from, const std::string& to)
 {
     Desk desk(m_files);
-    Load(desk, from);
-    Save(desk, to);
+    desk.Load(from);
+    desk.Save(to);
+}
+
+void ViewTool::Render(std::span<const std::string> arguments)
+{
+    const RenderJob job = ParseRenderJob(arguments);
+    Desk desk(m_files, &m_renderer->PictureFiles());
+    desk.Load(job.from);
+    WriteWhole(m_files, job.to, RenderedPng(desk, job, *m_renderer));
 }
 
 } // namespace quor

@@ -1,5 +1,5 @@
 #pragma once
-// The commands of quor-view-tool: check, dump, build, upgrade and resave.
+// The commands of quor-view-tool: check, dump, build, upgrade, resave and render.
 
 #include <iosfwd>
 #include <span>
@@ -8,10 +8,15 @@
 namespace quor {
 
 class Files;
+class ViewRenderer;
 
 class ViewTool {
 public:
-    ViewTool(Files& files, std::ostream& out, std::ostream& errors) : m_files(files), m_out(out), m_errors(errors) {}
+    // Without a renderer there is no render command.
+    ViewTool(Files& files, std::ostream& out, std::ostream& errors, ViewRenderer* renderer = nullptr)
+        : m_files(files), m_out(out), m_errors(errors), m_renderer(renderer)
+    {
+    }
 
     // The exit code: 0 if all went well, 1 if a checked file isn't sound, 2 (with one line on `errors`) if the command
     // could not run. What has failed has written no file.
@@ -23,11 +28,13 @@ private:
     void Build(const std::string& from, const std::string& to);
     void Upgrade(const std::string& from, const std::string& to);
     void Resave(const std::string& from, const std::string& to);
+    void Render(std::span<const std::string> arguments);
     int RunCommand(std::span<const std::string> arguments);
 
     Files& m_files;
     std::ostream& m_out;
     std::ostream& m_errors;
+    ViewRenderer* m_renderer;
 };
 
 } // namespace quor

@@ -1,8 +1,9 @@
 #include "qt/canvas/canvas_painting.h"
 
 #include "qt/canvas/marks.h"
+#include "qt/painters/device_space.h"
 #include "qt/painters/painters.h"
-#include "qt/ports/qt_pictures.h"
+#include "qt/painters/picture_drawing.h"
 #include "qt/ports/qt_text.h"
 #include "qt/theme/style_parts.h"
 #include "widgets/canvas.h"
@@ -20,24 +21,27 @@ constexpr qreal gridOpacity = 0.12;
 constexpr qreal tenthLineOpacity = 0.26;
 constexpr qreal movedOpacity = 0.45;
 
+QPointF ScrolledOrigin(const Canvas& canvas)
+{
+    return {-canvas.ScrollOffsetX() / qreal{twipsPerPixelX}, -canvas.ScrollOffsetY() / qreal{twipsPerPixelY}};
+}
+
 void PaintPicture(QPainter& painter, const Canvas& canvas, const QSize& view)
 {
-    const QImage& image = ImageOf(*canvas.Picture());
-    switch (canvas.PictureMode()) {
-    case picture_modes::stretched:
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(QPointF(0, 0), view), image);
-        break;
-    case picture_modes::tiled: {
-        const QPointF origin(-canvas.ScrollOffsetX() / qreal{twipsPerPixelX},
-                             -canvas.ScrollOffsetY() / qreal{twipsPerPixelY});
-        QBrush tiles(image);
-        tiles.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
-        painter.fillRect(QRect(QPoint(0, 0), view), tiles);
-        break;
+    const Picture& picture = *canvas.Picture();
+    const QSize size(picture.PixelWidth(), picture.PixelHeight());
+    const bool isTiled = canvas.PictureMode() == picture_modes::tiled;
+    QRectF area(QPointF(0, 0), view);
+    if (isTiled) {
+        area.setTopLeft(ScrolledOrigin(canvas));
+    } else if (canvas.PictureMode() != picture_modes::stretched) {
+        area = QRect(QPoint((view.width() - size.width()) / 2, (view.height() - size.height()) / 2), size);
     }
-    default:
-        painter.drawImage(QPoint((view.width() - image.width()) / 2, (view.height() - image.height()) / 2), image);
+    const DeviceSpace space(painter, area);
+    if (isTiled) {
+        DrawTiles(painter, space, picture, space.Area(), std::nullopt);
+    } else {
+        DrawPicture(painter, picture, space.Area(), std::nullopt);
     }
 }
 
@@ -49,8 +53,10 @@ void PaintGround(QPainter& painter, const Canvas& canvas, const QSize& view, con
     }
     const BackgroundImage& background = canvas.Background();
     if (background.visible && background.picture != nullptr) {
-        const QPointF place(background.left / twipsPerPixelX, background.top / twipsPerPixelY);
-        painter.drawImage(place, ImageOf(*background.picture));
+        const Picture& picture = *background.picture;
+        const DeviceSpace space(painter, QRectF(background.left / twipsPerPixelX, background.top / twipsPerPixelY,
+                                                picture.PixelWidth(), picture.PixelHeight()));
+        DrawPicture(painter, picture, space.Area(), std::nullopt);
     }
 }
 
@@ -82,19 +88,18 @@ void PaintGrid(QPainter& painter, const Canvas& canvas, const QRectF& dirty)
     if (!grid.visible) {
         return;
     }
-    const QPointF origin(-canvas.ScrollOffsetX() / qreal{twipsPerPixelX},
-                         -canvas.ScrollOffsetY() / qreal{twipsPerPixelY});
+    const QPointF origin = ScrolledOrigin(canvas);
     PaintGridLines(painter, dirty, Qt::Horizontal, grid.stepY, grid.height, grid.width, origin);
     PaintGridLines(painter, dirty, Qt::Vertical, grid.stepX, grid.width, grid.height, origin);
 }
 
-void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area)
+void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area, const CanvasLook& look)
 {
     const WidgetPainter paint = PainterFor(widget.Name());
     if (paint != nullptr) {
         paint(painter, widget, area);
     }
-    if (paint == nullptr || PaintsNothing(widget)) {
+    if (look.isEdited && (paint == nullptr || PaintsNothing(widget))) {
         DrawGhost(painter, area);
     }
 }
@@ -109,7 +114,7 @@ void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, con
     picture.fill(Qt::transparent);
     QPainter inner(&picture);
     inner.translate(-part.topLeft());
-    PaintWidget(inner, widget, area);
+    PaintWidget(inner, widget, area, {});
     inner.end();
     painter.setOpacity(movedOpacity);
     painter.drawImage(part.topLeft(), picture);
@@ -139,7 +144,7 @@ std::size_t PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& v
         if (widget == look.faded) {
             PaintFaded(painter, *widget, area, view);
         } else {
-            PaintWidget(painter, *widget, area);
+            PaintWidget(painter, *widget, area, look);
         }
     }
     return painted;
@@ -154,7 +159,9 @@ std::size_t PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& vi
     PaintGround(painter, canvas, view, dirty);
     PaintGrid(painter, canvas, dirty);
     const std::size_t painted = PaintWidgets(painter, canvas, QRect(QPoint(0, 0), view), region, look);
-    DrawSelection(painter, canvas);
+    if (look.isEdited) {
+        DrawSelection(painter, canvas);
+    }
     return painted;
 }
 

@@ -15,6 +15,7 @@ class Widget;
 // What the canvas shows besides its model.
 struct CanvasLook {
     const Widget* faded = nullptr; // the one that is being moved
+    bool isEdited = true;          // with the marks of the editor
 };
 
 // Only what lies in the region, which is in pixels of the view. Says how many widgets were drawn.

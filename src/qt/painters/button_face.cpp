@@ -1,6 +1,7 @@
 #include "qt/painters/button_face.h"
 
 #include "qt/painters/device_space.h"
+#include "qt/painters/kept_picture.h"
 #include "qt/painters/mixing.h"
 #include "qt/painters/rounded.h"
 
@@ -22,9 +23,7 @@ void PaintBody(QPainter& painter, const QRectF& box, qreal radius, qreal line, c
     painter.fillRect(QRectF(inner.left() + line, inner.bottom() - line, inner.width() - 2 * line, line), BlackAt(0.1));
 }
 
-} // namespace
-
-void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled)
+void PaintAfresh(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled)
 {
     const QRectF& box = space.Area();
     const qreal radius = cornerRadius * space.Scale();
@@ -35,6 +34,19 @@ void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& 
         FillRounded(painter, box, radius, Lighter(color, 0.22));
     }
     FillRing(painter, box, radius, line, BlackAt(isEnabled ? 0.42 : 0.18));
+}
+
+} // namespace
+
+void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled)
+{
+    const QRectF& box = space.Area();
+    if (box.isEmpty()) {
+        return;
+    }
+    PictureKey key(QLatin1StringView("button face"));
+    key << box.width() << box.height() << space.Scale() << color << isEnabled;
+    DrawKept(painter, box.toRect(), key, [&](QPainter& onPicture) { PaintAfresh(onPicture, space, color, isEnabled); });
 }
 
 QColor CaptionColorOn(const QColor& color, bool isEnabled)

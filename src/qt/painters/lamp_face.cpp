@@ -1,5 +1,6 @@
 #include "qt/painters/lamp_face.h"
 
+#include "qt/painters/kept_picture.h"
 #include "qt/painters/mixing.h"
 #include "qt/painters/rounded.h"
 #include "qt/ports/qt_text.h"
@@ -75,23 +76,7 @@ void PaintReflection(QPainter& painter, const QRectF& lens, qreal radius, const 
                 Downwards(upper, {{0, WhiteAt(lamp.isLit ? 0.26 : 0.13)}, {1, WhiteAt(0)}}));
 }
 
-} // namespace
-
-QColor ShownColor(const LampColors& colors)
-{
-    if (!colors.isLit && colors.worksOutUnlit) {
-        return ToQt(UnlitColor(Resolve(colors.lit)));
-    }
-    return ToQt(Resolve(colors.isLit ? colors.lit : colors.unlit));
-}
-
-bool IsMuted(const LampColors& colors)
-{
-    const bool isWorkedOut = !colors.isLit && colors.worksOutUnlit;
-    return !isWorkedOut && (colors.isLit ? colors.lit : colors.unlit) == colors::buttonFace;
-}
-
-void PaintLampFace(QPainter& painter, const QRectF& box, const LampFace& lamp)
+void PaintAfresh(QPainter& painter, const QRectF& box, const LampFace& lamp)
 {
     const bool isLowered = lamp.bevel == bevels::lowered;
     const qreal depth = (isLowered || lamp.bevel == bevels::raised ? 2 : 1) * lamp.line;
@@ -119,6 +104,33 @@ void PaintLampFace(QPainter& painter, const QRectF& box, const LampFace& lamp)
     if (lamp.reflects) {
         PaintReflection(painter, lens, radius, lamp);
     }
+}
+
+} // namespace
+
+QColor ShownColor(const LampColors& colors)
+{
+    if (!colors.isLit && colors.worksOutUnlit) {
+        return ToQt(UnlitColor(Resolve(colors.lit)));
+    }
+    return ToQt(Resolve(colors.isLit ? colors.lit : colors.unlit));
+}
+
+bool IsMuted(const LampColors& colors)
+{
+    const bool isWorkedOut = !colors.isLit && colors.worksOutUnlit;
+    return !isWorkedOut && (colors.isLit ? colors.lit : colors.unlit) == colors::buttonFace;
+}
+
+void PaintLampFace(QPainter& painter, const QRectF& box, const LampFace& lamp)
+{
+    if (box.isEmpty()) {
+        return;
+    }
+    PictureKey key(QLatin1StringView("lamp face"));
+    key << box.width() << box.height() << lamp.color << lamp.bevel << lamp.isLit << lamp.isMuted << lamp.reflects
+        << lamp.radius << lamp.line;
+    DrawKept(painter, box.toRect(), key, [&](QPainter& onPicture) { PaintAfresh(onPicture, box, lamp); });
 }
 
 } // namespace quor

@@ -1,11 +1,13 @@
 #pragma once
-// Picture files in any format that the toolkit reads.
+// Picture files: bitmaps and icons as the toolkit reads them, metafiles as a process of their own draws them.
 
 #include "base/values.h"
 #include "platform/pictures.h"
 
+#include <QDateTime>
 #include <QImage>
 
+#include <deque>
 #include <optional>
 
 namespace quor {
@@ -17,13 +19,20 @@ public:
     static constexpr qint64 mostPixels = 48'000'000;
 
     PictureRef LoadPicture(const std::string& path) override;
+
+private:
+    // A metafile that was drawn, for as long as its file stays as it was.
+    struct Kept {
+        QDateTime modified;
+        qint64 length;
+        PictureRef picture;
+    };
+    PictureRef LoadMetafile(const std::string& path);
+
+    std::deque<Kept> m_kept; // the last few
 };
 
-// The image inside a picture that QtPictures loaded.
-const QImage& ImageOf(const Picture& picture);
-
-// The same as it is to be drawn: scaled to a size in device pixels, and with the pixels of one colour left out. The
-// last one asked for is kept with the picture. A size beyond all screens isn't scaled to: the image comes in its own.
-QImage ImageFor(const Picture& picture, const QSize& size, std::optional<Rgb> mask);
+// A picture that QtPictures loaded as it is to be drawn: see QtPicture::Drawn.
+const QImage& ImageFor(const Picture& picture, const QSize& size, std::optional<Rgb> mask);
 
 } // namespace quor

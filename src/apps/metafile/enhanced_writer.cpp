@@ -1,0 +1,87 @@
+#include "apps/metafile/enhanced_writer.h"
+
+#include <cmath>
+
+namespace quor {
+
+namespace {
+
+constexpr std::uint32_t headerType = 1;
+constexpr std::uint32_t endType = 14;
+constexpr std::size_t lengthOffset = 48;
+constexpr std::size_t recordsOffset = 52;
+
+void Patch(std::vector<std::uint8_t>& bytes, std::size_t offset, std::size_t number)
+{
+    for (std::size_t index = 0; index < 4; ++index) {
+        bytes[offset + index] = static_cast<std::uint8_t>(number >> 8 * index);
+    }
+}
+
+} // namespace
+
+EnhancedWriter::EnhancedWriter(double pixelWidth, double pixelHeight)
+{
+    constexpr std::int64_t sign = 0x464D4520;
+    constexpr std::int64_t version = 0x10000;
+    constexpr std::int64_t handles = 0xFFFF;
+    constexpr double frameUnits = 2540 / 96.0; // hundredths of a millimetre in a pixel
+    const auto width = static_cast<std::int64_t>(std::ceil(pixelWidth));
+    const auto height = static_cast<std::int64_t>(std::ceil(pixelHeight));
+    // Bounds, frame, sign, version, length, records, handles, three that stay 0, and a device of 96 dots an inch.
+    Add(headerType, {0,
+                     0,
+                     width - 1,
+                     height - 1,
+                     0,
+                     0,
+                     std::llround(pixelWidth * frameUnits),
+                     std::llround(pixelHeight * frameUnits),
+                     sign,
+                     version,
+                     0,
+                     0,
+                     handles,
+                     0,
+                     0,
+                     0,
+                     960,
+                     960,
+                     254,
+                     254,
+                     0,
+                     0,
+                     0,
+                     254'000,
+                     254'000});
+}
+
+void EnhancedWriter::Put(std::int64_t number)
+{
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        m_bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+    }
+}
+
+void EnhancedWriter::Add(std::uint32_t type, std::span<const std::int64_t> numbers, std::span<const std::uint8_t> bytes)
+{
+    const std::size_t padding = (4 - bytes.size() % 4) % 4;
+    Put(type);
+    Put(static_cast<std::int64_t>(8 + 4 * numbers.size() + bytes.size() + padding));
+    for (const std::int64_t number : numbers) {
+        Put(number);
+    }
+    m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end());
+    m_bytes.insert(m_bytes.end(), padding, 0);
+    ++m_records;
+}
+
+std::vector<std::uint8_t> EnhancedWriter::Finish()
+{
+    Add(endType, {0, 16, 20});
+    Patch(m_bytes, lengthOffset, m_bytes.size());
+    Patch(m_bytes, recordsOffset, m_records);
+    return std::move(m_bytes);
+}
+
+} // namespace quor

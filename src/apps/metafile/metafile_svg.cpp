@@ -1,0 +1,34 @@
+#include "apps/metafile/metafile_svg.h"
+
+#include "apps/metafile/placeable_records.h"
+#include "qt/ports/metafile_header.h"
+
+#include <cstdlib>
+#include <emf2svg.h>
+#include <memory>
+
+namespace quor {
+
+std::string SvgOfMetafile(std::span<const std::uint8_t> bytes, int width, int height)
+{
+    const std::optional<MetafileHeader> header = ReadMetafile(bytes);
+    if (!header) {
+        return {};
+    }
+    std::vector<std::uint8_t> records(bytes.begin(), bytes.end());
+    if (header->kind == MetafileKind::Placeable) {
+        records = EnhancedFromPlaceable(bytes, header->width, header->height);
+    }
+    generatorOptions options{};
+    options.emfplus = true;
+    options.svgDelimiter = true;
+    options.imgWidth = width;
+    options.imgHeight = height;
+    char* text = nullptr;
+    std::size_t length = 0;
+    const int isDone = emf2svg(reinterpret_cast<char*>(records.data()), records.size(), &text, &length, &options);
+    const std::unique_ptr<char, decltype(&std::free)> owner(text, &std::free);
+    return isDone != 0 && text != nullptr ? std::string(text, length) : std::string();
+}
+
+} // namespace quor

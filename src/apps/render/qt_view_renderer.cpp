@@ -1,0 +1,80 @@
+#include "apps/tool/view_renderer.h"
+#include "qt/canvas/canvas_painting.h"
+#include "qt/ports/qt_pictures.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <array>
+
+namespace quor {
+
+namespace {
+
+// The toolkit, on a screen in memory, unless the program has one already.
+class Toolkit {
+public:
+    Toolkit()
+    {
+        if (QCoreApplication::instance() == nullptr) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            qInstallMessageHandler(
+                [](QtMsgType /*type*/, const QMessageLogContext& /*from*/, const QString& /*text*/) {});
+            m_application = std::make_unique<QGuiApplication>(m_count, m_arguments.data());
+        }
+    }
+
+private:
+    int m_count = 1;
+    std::array<char, 15> m_name{"quor-view-tool"};
+    std::array<char*, 2> m_arguments{m_name.data(), nullptr};
+    std::unique_ptr<QGuiApplication> m_application;
+};
+
+class QtViewRenderer final : public ViewRenderer {
+public:
+    Pictures& PictureFiles() override
+    {
+        Start();
+        return m_pictures;
+    }
+
+    std::vector<std::uint8_t> Png(const Canvas& canvas, int width, int height, double scale) override
+    {
+        Start();
+        const QSize size(width, height);
+        QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        QPainter painter(&image);
+        PaintCanvas(painter, canvas, size, QRect(QPoint(0, 0), size), {.isEdited = false});
+        painter.end();
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        image.setDevicePixelRatio(1);
+        image.save(&file, "png");
+        return {file.data().begin(), file.data().end()};
+    }
+
+private:
+    // Only now: the other commands do without.
+    void Start()
+    {
+        if (m_toolkit == nullptr) {
+            m_toolkit = std::make_unique<Toolkit>();
+        }
+    }
+
+    std::unique_ptr<Toolkit> m_toolkit;
+    QtPictures m_pictures;
+};
+
+} // namespace
+
+std::unique_ptr<ViewRenderer> MakeViewRenderer()
+{
+    return std::make_unique<QtViewRenderer>();
+}
+
+} // namespace quor

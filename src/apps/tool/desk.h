@@ -1,0 +1,54 @@
+#pragma once
+// What the commands of quor-view-tool work on: a view with its canvas and the world around it.
+
+#include "apps/tool/console_ports.h"
+#include "binding/live.h"
+#include "document/view_document.h"
+#include "support/frm_view_pbar.h"
+#include "widgets/canvas.h"
+
+#include <string>
+#include <string_view>
+
+namespace quor {
+
+// Why a command could not run.
+struct Refusal {
+    std::string reason;
+};
+
+// Without line breaks and other control characters.
+std::string OneLine(std::string text);
+
+std::string_view WordFor(LoadVerdict verdict);
+
+class Desk {
+public:
+    // The pictures are those of the background and of the elements; empty ones if there are none.
+    explicit Desk(Files& files, Pictures* pictures = nullptr);
+
+    clsCustView& View() noexcept { return m_view; }
+    const Canvas& Shown() const noexcept { return m_canvas; }
+
+    // Refuses what the document refuses.
+    void Load(const std::string& path);
+    void Save(const std::string& path);
+
+    // How the last load ended, with the reason if there is one.
+    std::string Verdict() const;
+
+private:
+    std::string Told() const;
+
+    KeptBoxes m_boxes;
+    KeptReports m_reports;
+    NoForms m_forms;
+    NoTimers m_timers;
+    NoPictures m_pictures;
+    frmViewPBar m_progress{m_forms};
+    Live m_live;
+    Canvas m_canvas;
+    clsCustView m_view;
+};
+
+} // namespace quor

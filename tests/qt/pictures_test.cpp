@@ -1,0 +1,125 @@
+// Picture files of every kind, whole and broken.
+
+#include "base/failure.h"
+#include "qt/ports/metafile_header.h"
+#include "qt/ports/qt_pictures.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace quor;
+
+const QString samples = QStringLiteral(QUOR_TEST_DATA "/pictures/");
+
+QByteArray Contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The failure's number, or 0.
+std::int32_t Load(const QString& path)
+{
+    try {
+        QtPictures().LoadPicture(path.toStdString());
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+std::int32_t LoadBytes(const QByteArray& bytes)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("picture");
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
+    file.close();
+    return Load(path);
+}
+
+TEST(Metafiles, OfBothKindsAreDrawnInTheirColorsAndSize)
+{
+    QtPictures pictures;
+    for (const char* name : {"door.emf", "door.wmf"}) {
+        const PictureRef picture = pictures.LoadPicture((samples + name).toStdString());
+        EXPECT_EQ(picture->PixelWidth(), 60) << name;
+        EXPECT_EQ(picture->PixelHeight(), 80) << name;
+        const QImage& image = ImageFor(*picture, {600, 800}, std::nullopt);
+        const struct {
+            QPoint place;
+            QRgb color;
+        } cases[] = {{{20, 400}, 0x00000000},  {{140, 700}, 0xFF406080}, {{425, 425}, 0xFFFF0000},
+                     {{300, 180}, 0xFFFF0000}, {{300, 100}, 0xFF102030}, {{580, 400}, 0x00000000}};
+        for (const auto& each : cases) {
+            const QRgb pixel = image.pixel(each.place);
+            EXPECT_EQ(pixel, each.color) << name << ' ' << each.place.x() << ", " << each.place.y();
+        }
+        int word = 0; // in black, under the sign
+        for (int y = 490; y < 600; ++y) {
+            for (int x = 200; x < 400; ++x) {
+                word += image.pixel(x, y) == 0xFF000000 ? 1 : 0;
+            }
+        }
+        EXPECT_GT(word, 300) << name;
+    }
+}
+
+TEST(Metafiles, ThatAreBrokenOrTooLargeAreInvalid)
+{
+    const struct {
+        const char* what;
+        const char* name;
+        int offset;
+        QByteArray bytes;
+    } cases[] = {
+        {"a frame without width", "door.emf", 32, QByteArray(4, '\0')},
+        {"a frame of kilometres", "door.emf", 32, QByteArray::fromHex("FFFFFF7F")},
+        {"a record beyond the end", "door.emf", 112, QByteArray::fromHex("FFFFFF0F")},
+        {"a record without a length", "door.emf", 112, QByteArray(4, '\0')},
+        {"a box without width", "door.wmf", 10, QByteArray(2, '\0')},
+        {"no units in an inch", "door.wmf", 14, QByteArray(2, '\0')},
+        {"a record beyond the end", "door.wmf", 40, QByteArray::fromHex("FFFFFF0F")},
+        {"a record without a length", "door.wmf", 40, QByteArray(4, '\0')},
+    };
+    for (const auto& each : cases) {
+        QByteArray bytes = Contents(samples + each.name);
+        ASSERT_FALSE(bytes.isEmpty());
+        bytes.replace(each.offset, each.bytes.size(), each.bytes);
+        EXPECT_EQ(LoadBytes(bytes), failures::invalidPicture) << each.name << ": " << each.what;
+    }
+    for (const char* name : {"door.emf", "door.wmf"}) {
+        const QByteArray whole = Contents(samples + name);
+        for (qsizetype length = 0; length < whole.size(); length += 7) {
+            const QByteArray part = whole.left(length);
+            EXPECT_FALSE(ReadMetafile(
+                {reinterpret_cast<const std::uint8_t*>(part.constData()), static_cast<std::size_t>(part.size())}))
+                << name << " of " << length << " bytes";
+        }
+        EXPECT_EQ(LoadBytes(whole.left(60)), failures::invalidPicture);
+    }
+}
+
+TEST(QtPictures, ReadTheFormatsOfViewsAndNoOther)
+{
+    const QTemporaryDir directory;
+    const QImage image(30, 20, QImage::Format_RGB32);
+    for (const char* format : {"bmp", "jpg", "png", "ico"}) {
+        const QString path = directory.filePath(QStringLiteral("picture.dib"));
+        ASSERT_TRUE(image.save(path, format));
+        EXPECT_EQ(Load(path), 0) << format;
+    }
+    const QString other = directory.filePath("picture.png");
+    ASSERT_TRUE(image.save(other, "xpm"));
+    EXPECT_EQ(Load(other), failures::invalidPicture);
+    EXPECT_EQ(LoadBytes("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"), failures::invalidPicture);
+}
+
+} // namespace

@@ -1,0 +1,90 @@
+// quor-view-tool render: a view as a picture.
+
+#include "apps/tool/view_renderer.h"
+#include "apps/tool/view_tool.h"
+#include "posix/disk_files.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+using namespace quor;
+
+class Render : public ::testing::Test {
+protected:
+    int Run(const QString& view, const std::vector<std::string>& options)
+    {
+        DiskFiles files;
+        std::ostringstream out;
+        const std::unique_ptr<ViewRenderer> renderer = MakeViewRenderer();
+        std::vector<std::string> words = {"render", view.toStdString(), target.toStdString()};
+        words.insert(words.end(), options.begin(), options.end());
+        errors.str("");
+        return ViewTool(files, out, errors, renderer.get()).Run(words);
+    }
+
+    QImage Rendered(const char* sample, const std::vector<std::string>& options)
+    {
+        EXPECT_EQ(Run(QStringLiteral(QUOR_TEST_DATA "/samples/") + sample, options), 0) << errors.str();
+        return QImage(target);
+    }
+
+    QTemporaryDir directory;
+    QString target = directory.filePath("view.png");
+    std::ostringstream errors;
+};
+
+TEST_F(Render, StatusElementsShowTheStateAndTheScaleIsTheSize)
+{
+    const auto greens = [](const QImage& image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                count += qGreen(pixel) > 200 && qRed(pixel) < 100 && qBlue(pixel) < 100 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const QImage off = Rendered("round_led.qvw", {"--state", "off"});
+    const QImage on = Rendered("round_led.qvw", {"--state", "on"});
+    const QImage fine = Rendered("round_led.qvw", {"--scale", "2", "--state", "on"});
+    EXPECT_EQ(Rendered("round_led.qvw", {}), off) << "as loaded";
+    EXPECT_GT(greens(on), greens(off) + 50);
+    EXPECT_EQ(fine.size(), 2 * on.size());
+    EXPECT_NEAR(greens(fine), 4 * greens(on), 2 * greens(on));
+    EXPECT_EQ(Rendered("round_led.qvw", {"--size", "50x40", "--scale", "1.5"}).size(), QSize(75, 60));
+}
+
+TEST_F(Render, AnEmptyViewIsItsGround)
+{
+    const QImage image = Rendered("empty.qvw", {});
+    EXPECT_EQ(image.pixel(0, 0), image.pixel(image.width() - 1, image.height() - 1));
+}
+
+TEST_F(Render, RefusesInOneLineAndWritesNothing)
+{
+    const QString good = QStringLiteral(QUOR_TEST_DATA "/samples/empty.qvw");
+    const struct {
+        QString view;
+        std::vector<std::string> options;
+    } cases[] = {{"/none.qvw", {}},         {good, {"--scale"}},
+                 {good, {"--scale", "0"}},  {good, {"--scale", "nan"}},
+                 {good, {"--scale", "2x"}}, {good, {"--state", "maybe"}},
+                 {good, {"--size", "10"}},  {good, {"--size", "20000x20000"}},
+                 {good, {"more.png"}},      {QStringLiteral(QUOR_TEST_DATA "/pictures/door.emf"), {}}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(Run(each.view, each.options), 2) << each.view.toStdString();
+        const std::string told = errors.str();
+        EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
+        EXPECT_FALSE(QFile::exists(target));
+    }
+}
+
+} // namespace
