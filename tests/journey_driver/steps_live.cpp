@@ -49,7 +49,8 @@ void LogOff(Stage& stage, const Arguments&)
     stage.Raise([&] { stage.login.EndSession(); });
 }
 
-// What the host of the widget does at a click. What the server fails to do stays between it and the element.
+// What the host of the widget does at a click; a locked action says why, so a disabled button is asked as well. What
+// the server fails to do stays between it and the element.
 void Run(Stage& stage, const Arguments& arguments)
 {
     if (!stage.IsLive()) {
@@ -57,6 +58,9 @@ void Run(Stage& stage, const Arguments& arguments)
     }
     Element& element = stage.ElementOf(arguments[0]);
     const bool hasCtrl = arguments.Has(1);
+    if (element.MyControl()->Enabled()) {
+        element.ClickControl();
+    }
     IgnoreFailure([&] { element.ClickAction.RunCommand(hasCtrl ? clsCmdDataSource::ctrlKey : std::uint8_t{0}); });
 }
 

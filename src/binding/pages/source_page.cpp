@@ -26,7 +26,15 @@ std::string Numbered(std::int32_t number, const std::string& text, const std::st
 // Both texts of a status channel, or the one that there is.
 std::string StatusTexts(const std::string& first, const std::string& second)
 {
-    return first.empty() || second.empty() ? first + second : first + " / " + second;
+    constexpr std::string_view between = " / ";
+    std::string text = first + std::string(between) + second;
+    if (text.starts_with(between)) {
+        text.erase(0, between.size());
+    }
+    if (text.ends_with(between)) {
+        text.erase(text.size() - between.size());
+    }
+    return text;
 }
 
 bool HasName(std::string_view names, std::string_view name)
