@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "editor/frm_customize.h"
 #include "editor/tools.h"
+#include "login/frm_log_on.h"
 #include "platform/system_info.h"
 #include "qt/forms/form_view.h"
 #include "qt/ports/qt_system_info.h"
@@ -60,7 +61,12 @@ public:
         frmError error(m_screen, m_clipboard, m_clock);
         error.SetError({"An error occurred while setting the property value. Please try again.", 6, "frmCVMeterAngle",
                         "Overflow: 40000 does not fit a whole number of 16 bits.", 14168});
-        return Save(options) && Save(about) && Save(info) && Save(customize) && Save(error);
+        int failures = 0;
+        frmLogOn logOn(m_timers, failures, [](const std::string&, const std::string&) { return false; });
+        logOn.txtUser.Text("Ada Holm");
+        logOn.txtPassword.Text("secret");
+        logOn.cmdOK.Push();
+        return Save(logOn) && Save(options) && Save(about) && Save(info) && Save(customize) && Save(error);
     }
 
 private:
