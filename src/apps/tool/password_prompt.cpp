@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <termios.h>
@@ -11,7 +12,8 @@ namespace quor {
 
 namespace {
 
-// The terminal shows nothing of what is typed while it lives.
+// The terminal shows nothing of what is typed while it lives. An interruption ends the line that is being read, so that
+// the terminal shows again what is typed.
 class NoEcho {
 public:
     NoEcho()
@@ -19,6 +21,9 @@ public:
         m_isSet = tcgetattr(STDIN_FILENO, &m_before) == 0;
         termios silent = m_before;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        struct sigaction ending {};
+        ending.sa_handler = [](int) {};
+        sigaction(SIGINT, &ending, &m_interrupt);
         m_isSet = m_isSet && tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent) == 0;
         if (!m_isSet) {
             throw Failure(failures::invalidCall, "The terminal can't hide a password.");
@@ -26,10 +31,15 @@ public:
     }
     NoEcho(const NoEcho&) = delete;
     NoEcho& operator=(const NoEcho&) = delete;
-    ~NoEcho() { tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
+    ~NoEcho()
+    {
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before);
+        sigaction(SIGINT, &m_interrupt, nullptr);
+    }
 
 private:
     termios m_before{};
+    struct sigaction m_interrupt {};
     bool m_isSet;
 };
 
