@@ -21,6 +21,7 @@ extern const Family editing;
 extern const Family binding;
 extern const Family panel;
 extern const Family frames;
+extern const Family painting;
 extern const Family starting;
 
 } // namespace quor::bench

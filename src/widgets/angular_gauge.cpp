@@ -19,7 +19,8 @@ Area AngularGauge::PartOf(const void* property) const
     }
     const double width = Width() / twipsPerPixelX;
     const double height = Height() / twipsPerPixelY;
-    return PixelsWithin(PointerBounds(*this, ArcOf(*this, width, height, 1)));
+    const ArcLayout arc = ArcOf(*this, width, height, 1);
+    return PixelsWithin(PointerBounds(PointerOutline(*this, arc), arc));
 }
 
 } // namespace quor

@@ -49,10 +49,19 @@ struct HalfPointer {
     std::size_t count;
 };
 
-HalfPointer HalfOf(const AngularGauge& gauge, double scale) noexcept
+// A scale that leaves no room between its ends to park in: there the pointer draws back instead.
+bool IsClosed(const ArcLayout& arc) noexcept
 {
+    return std::abs(arc.range) > 360 - 2 * parkedBeyond;
+}
+
+HalfPointer HalfOf(const AngularGauge& gauge, const ArcLayout& arc) noexcept
+{
+    constexpr double drawnBack = 0.6;
+    const double scale = arc.scale;
+    const double share = IsClosed(arc) && PointerPlace(gauge).beyond != 0 ? drawnBack : 1;
     const double size = std::clamp<double>(gauge.PointerSize(), 0, mostPixels) * scale;
-    const double length = std::clamp<double>(gauge.ArcRadius() - gauge.PointerMargin(), 0, mostPixels) * scale;
+    const double length = std::clamp<double>(gauge.ArcRadius() - gauge.PointerMargin(), 0, mostPixels) * scale * share;
     const double tail = std::min(0.2 * length, 2.2 * size);
     switch (gauge.PointerStyleCode()) {
     case pointer_styles::arrow: {
@@ -105,11 +114,16 @@ std::vector<Point> RingPolygon(const ArcLayout& arc, const RingPart& part)
     };
     std::vector<Point> points;
     const auto addArc = [&](double radius, double first, double last) {
-        // So many that a straight line between two lies within a fiftieth of a pixel of the arc.
-        const double step = radius <= 1 ? 30 : std::acos(1 - 0.02 / radius) * 360 / std::numbers::pi;
+        // So many that a straight line between two lies within a twentieth of a pixel of the arc.
+        const double step = radius <= 1 ? 30 : std::acos(1 - 0.05 / radius) * 360 / std::numbers::pi;
         const int steps = std::max(1, static_cast<int>(std::ceil(std::abs(last - first) / step)));
+        const double turned = Radians((last - first) / steps);
+        const double cosine = std::cos(turned);
+        const double sine = std::sin(turned);
+        Point place = {arc.At(first, radius).x - arc.center.x, arc.At(first, radius).y - arc.center.y};
         for (int i = 0; i <= steps; ++i) {
-            points.push_back(arc.At(first + (last - first) * i / steps, radius));
+            points.push_back({arc.center.x + place.x, arc.center.y + place.y});
+            place = {place.x * cosine + place.y * sine, place.y * cosine - place.x * sine};
         }
     };
     const double inner = std::max(0.0, part.inner);
@@ -130,7 +144,7 @@ std::vector<Point> RingPolygon(const ArcLayout& arc, const RingPart& part)
 Outline PointerOutline(const AngularGauge& gauge, const ArcLayout& arc) noexcept
 {
     const PointerFrame frame = FrameOf(gauge, arc);
-    const HalfPointer half = HalfOf(gauge, arc.scale);
+    const HalfPointer half = HalfOf(gauge, arc);
     Outline outline;
     for (std::size_t i = 0; i < half.count; ++i) {
         outline.Add(frame.At(half.corners[i].along, half.corners[i].across));
@@ -146,7 +160,7 @@ Outline PointerOutline(const AngularGauge& gauge, const ArcLayout& arc) noexcept
 Outline LitHalf(const AngularGauge& gauge, const ArcLayout& arc) noexcept
 {
     const PointerFrame frame = FrameOf(gauge, arc);
-    const HalfPointer half = HalfOf(gauge, arc.scale);
+    const HalfPointer half = HalfOf(gauge, arc);
     // Across by 1 is (sine, cosine) in the picture; the light comes from the upper left.
     const double side = frame.sine + frame.cosine < 0 ? 1 : -1;
     Outline outline;
@@ -167,9 +181,9 @@ PointerRelief ReliefOf(const ArcLayout& arc) noexcept
     return {unit, {{{1.2 * unit, 1.6 * unit, 0.14}, {2 * unit, 2.6 * unit, 0.09}}}};
 }
 
-Extent PointerBounds(const AngularGauge& gauge, const ArcLayout& arc) noexcept
+Extent PointerBounds(const Outline& outline, const ArcLayout& arc) noexcept
 {
-    const Extent body = PointerOutline(gauge, arc).Bounds();
+    const Extent body = outline.Bounds();
     const PointerRelief relief = ReliefOf(arc);
     const double halo = 2 * relief.halo; // at the corners
     const auto& shadow = relief.shadows.back();

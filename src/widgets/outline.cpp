@@ -62,10 +62,6 @@ Outline Outline::Grown(double margin) const noexcept
             grown.Add(Moved(corner, middleX, middleY, around / sharpness));
         } else {
             grown.Add(Moved(corner, before.x, before.y, around));
-            const double length = std::hypot(middleX, middleY);
-            if (length > 0) {
-                grown.Add(Moved(corner, middleX, middleY, around / length));
-            }
             grown.Add(Moved(corner, after.x, after.y, around));
         }
     }

@@ -44,11 +44,12 @@ void Widget::InvalidateShown() const
 
 void Widget::InvalidateChanged(const Area& before, const Area& after) const
 {
-    if (before != Area{} && before != after) {
+    const bool isOne = before == Area{} || after == Area{} || Overlap(before, after);
+    if (!isOne) {
         m_canvas->Invalidate(before);
-    }
-    if (after != Area{}) {
         m_canvas->Invalidate(after);
+    } else if (before != Area{} || after != Area{}) {
+        m_canvas->Invalidate(before == Area{} ? after : after == Area{} ? before : United(before, after));
     }
 }
 

@@ -150,6 +150,20 @@ TEST(AnAngularGauge, PartsNumbersThatMeetAndKeepsThemInTheBox)
     EXPECT_FALSE(HangNumbers(ArcOf(gauge, 100, 100, 1), 2, 45, 45, 8, box).doFit);
 }
 
+TEST(AnAngularGauge, DrawsItsPointerBackWhereThereIsNoRoomBesideItsEnds)
+{
+    AngularGauge gauge;
+    gauge.Set(&AngularGauge::ArcStartDegrees, 90);
+    const auto reach = [&](std::int16_t range, double value) {
+        gauge.Set(&AngularGauge::ArcRangeDegrees, range);
+        gauge.Set(&ScaleGauge::Position, value);
+        return 50 - PointerOutline(gauge, ArcOf(gauge, 100, 100, 1)).Bounds().top;
+    };
+    EXPECT_NEAR(reach(360, 0), 40, 0.5);
+    EXPECT_LT(reach(360, -1), 30);
+    EXPECT_NEAR(reach(270, -1), 40, 0.5);
+}
+
 // A new value repaints the pointer's old and new place and no more; anything else the whole gauge.
 template <class Gauge> void ExpectPartialRepaints(float width, float height, float mostOfIt)
 {

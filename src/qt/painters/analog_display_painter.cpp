@@ -46,8 +46,9 @@ void PaintAnalogDisplay(QPainter& painter, const AnalogDisplay& display, const Q
 {
     const DeviceSpace space(painter, area);
     const EdgeStyle edge = EdgeOf(display.BorderStyle());
-    painter.fillRect(space.Area(), ToQt(Resolve(display.BackGroundColor())));
-    PaintEdge(painter, space, edge);
+    const QColor ground = ToQt(Resolve(display.BackGroundColor()));
+    painter.fillRect(space.Area(), ground);
+    PaintEdge(painter, space, edge, ground);
     const QRectF inside = InsideEdge(space, edge);
     if (inside.width() < 1 || inside.height() < 1) {
         return;

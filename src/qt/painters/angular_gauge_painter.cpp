@@ -16,7 +16,6 @@
 #include <cmath>
 #include <cstdint>
 #include <numbers>
-#include <span>
 #include <vector>
 
 namespace quor {
@@ -37,20 +36,21 @@ struct Dial {
     }
 };
 
-void Fill(QPainter& painter, const Dial& dial, std::span<const Point> polygon, const QColor& color)
+QRectF Box(const Extent& extent, const QPointF& origin)
 {
-    if (polygon.empty()) {
-        return;
-    }
-    const Extent bounds = BoundsOf(polygon);
-    SmoothFills fills(
-        painter, QRectF(QPointF(bounds.left, bounds.top), QPointF(bounds.right, bounds.bottom)).translated(dial.origin),
-        dial.inside);
-    fills.Fill(polygon, dial.origin, color);
-    fills.Draw();
+    return {origin + QPointF(extent.left, extent.top), origin + QPointF(extent.right, extent.bottom)};
 }
 
-void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+void FillRing(SmoothFills& fills, const Dial& dial, const RingPart& part, const QColor& color)
+{
+    const std::vector<Point> polygon = RingPolygon(dial.arc, part);
+    if (!polygon.empty()) {
+        fills.Trace(polygon, dial.origin);
+        fills.Fill(color);
+    }
+}
+
+void PaintSections(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
 {
     const ArcLayout& arc = dial.arc;
     const std::vector<SectionRun> runs = SectionRuns(gauge);
@@ -60,7 +60,7 @@ void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gaug
                       arc.radius,   i == 0 ? 0 : half, i + 1 == runs.size() ? 0 : half};
         const QColor color = ToQt(Resolve(runs[i].color));
         const bool isMuted = runs[i].color == colors::buttonFace; // it has to show on its own grey
-        Fill(painter, dial, RingPolygon(arc, part), isMuted ? Darker(color, 0.38) : color);
+        FillRing(fills, dial, part, isMuted ? Darker(color, 0.38) : color);
         if (isMuted) {
             part = {part.from,
                     part.to,
@@ -68,22 +68,34 @@ void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gaug
                     part.outer - dial.line,
                     part.offFrom + dial.line,
                     part.offTo + dial.line};
-            Fill(painter, dial, RingPolygon(arc, part), color);
+            FillRing(fills, dial, part, color);
         }
     }
 }
 
-void PaintArcs(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+void PaintArcs(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
 {
     QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
     color.setAlphaF(0.7F);
     const ArcLayout& arc = dial.arc;
     if (gauge.ShowOuterArcRadius()) {
-        Fill(painter, dial, RingPolygon(arc, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}), color);
+        FillRing(fills, dial, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}, color);
     }
     if (gauge.ShowInnerArcRadius()) {
-        Fill(painter, dial, RingPolygon(arc, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}), color);
+        FillRing(fills, dial, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}, color);
     }
+}
+
+void PaintRings(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+{
+    const std::vector<Point> all = RingPolygon(dial.arc, {0, 1, 0, dial.arc.radius + 2 * dial.line, 0, 0});
+    if (all.empty()) {
+        return;
+    }
+    SmoothFills fills(painter, Box(BoundsOf(all), dial.origin), dial.inside);
+    PaintSections(fills, dial, gauge);
+    PaintArcs(fills, dial, gauge);
+    fills.Draw();
 }
 
 void PaintNumbers(QPainter& painter, const DeviceSpace& space, const ArcLayout& arc, const AngularGauge& gauge)
@@ -111,27 +123,25 @@ void PaintNumbers(QPainter& painter, const DeviceSpace& space, const ArcLayout& 
     draw(end, places.end);
 }
 
-void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge, bool isLight)
 {
     constexpr std::int16_t shadedSize = 6; // from here it is seen as a body
     const QColor color = ToQt(Resolve(gauge.PointerColor()));
-    const bool isLight = IsLight(color);
     const Outline outline = PointerOutline(gauge, dial.arc);
     const PointerRelief relief = ReliefOf(dial.arc);
-    const Extent bounds = PointerBounds(gauge, dial.arc);
-    SmoothFills fills(
-        painter,
-        QRectF(dial.origin + QPointF(bounds.left, bounds.top), dial.origin + QPointF(bounds.right, bounds.bottom)),
-        dial.inside);
-    fills.Fill(outline.Grown(relief.halo).Points(), dial.origin, isLight ? BlackAt(0.55) : WhiteAt(0.55));
+    SmoothFills fills(painter, Box(PointerBounds(outline, dial.arc), dial.origin), dial.inside);
+    fills.Trace(outline.Grown(relief.halo).Points(), dial.origin);
+    fills.Fill(isLight ? BlackAt(0.55) : WhiteAt(0.55));
+    fills.Trace(outline.Points(), dial.origin);
     for (const auto& shadow : relief.shadows) {
         if (shadow.opacity > 0) {
-            fills.Fill(outline.Points(), dial.origin + QPointF(shadow.x, shadow.y), BlackAt(shadow.opacity));
+            fills.Fill(BlackAt(shadow.opacity), QPointF(shadow.x, shadow.y).toPoint());
         }
     }
-    fills.Fill(outline.Points(), dial.origin, color);
+    fills.Fill(color);
     if (gauge.PointerSize() >= shadedSize) {
-        fills.Fill(LitHalf(gauge, dial.arc).Points(), dial.origin, WhiteAt(isLight ? 0.34 : 0.18));
+        fills.Trace(LitHalf(gauge, dial.arc).Points(), dial.origin);
+        fills.Fill(WhiteAt(isLight ? 0.34 : 0.18));
     }
     fills.Draw();
 }
@@ -191,10 +201,11 @@ AngularStill DrawAngularFace(QPainter& painter, const AngularGauge& gauge, const
     PaintGround(painter, space, gauge);
     const QRectF inside = InsideEdge(space, EdgeOf(gauge));
     painter.setClipRect(inside, Qt::IntersectClip);
-    AngularStill still{ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale()), {}, {}};
+    AngularStill still;
+    still.arc = ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale());
+    still.isPointerLight = IsLight(ToQt(Resolve(gauge.PointerColor())));
     const Dial dial{still.arc, space.Area().topLeft(), inside, space.Line(1)};
-    PaintSections(painter, dial, gauge);
-    PaintArcs(painter, dial, gauge);
+    PaintRings(painter, dial, gauge);
     PaintNumbers(painter, space, still.arc, gauge);
     KeepHub(still, gauge, space.Line(1));
     return still;
@@ -214,10 +225,13 @@ void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const QRect
     }
     const AngularStill still = AngularFaces().Paint(painter, space, gauge, !gauge.Transparent());
     const Dial dial{still.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
-    PaintPointer(painter, dial, gauge);
+    PaintPointer(painter, dial, gauge, still.isPointerLight);
     if (!still.hub.isNull()) {
-        painter.setClipRect(dial.inside, Qt::IntersectClip);
-        painter.drawImage(dial.origin + still.hubPlace, still.hub);
+        const QPointF place = dial.origin + still.hubPlace;
+        if (!dial.inside.contains(QRectF(place, still.hub.size()))) {
+            painter.setClipRect(dial.inside, Qt::IntersectClip);
+        }
+        painter.drawImage(place, still.hub);
     }
 }
 

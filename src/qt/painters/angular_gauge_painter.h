@@ -11,7 +11,8 @@ class AngularGauge;
 // What is kept beside the face.
 struct AngularStill {
     ArcLayout arc; // in device pixels
-    QImage hub;    // drawn over the pointer
+    bool isPointerLight;
+    QImage hub; // drawn over the pointer
     QPointF hubPlace;
     qsizetype Bytes() const { return hub.sizeInBytes(); }
 };

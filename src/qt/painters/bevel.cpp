@@ -22,8 +22,9 @@ void PaintFrame(QPainter& painter, const QRectF& box, qreal line, const QColor& 
 
 } // namespace
 
-void PaintEdge(QPainter& painter, const DeviceSpace& space, EdgeStyle style)
+void PaintEdge(QPainter& painter, const DeviceSpace& space, EdgeStyle style, const QColor& ground)
 {
+    const auto seen = [&](const QColor& color) { return ground.isValid() ? Over(ground, color) : color; };
     const qreal line = space.Line(1);
     const QRectF& outer = space.Area();
     const QRectF inner = Shrunk(outer, line);
@@ -31,15 +32,15 @@ void PaintEdge(QPainter& painter, const DeviceSpace& space, EdgeStyle style)
     case EdgeStyle::None:
         break;
     case EdgeStyle::Flat:
-        PaintFrame(painter, outer, line, BlackAt(0.3), BlackAt(0.3));
+        PaintFrame(painter, outer, line, seen(BlackAt(0.3)), seen(BlackAt(0.3)));
         break;
     case EdgeStyle::Lowered:
-        PaintFrame(painter, outer, line, BlackAt(0.42), BlackAt(0.16));
-        PaintFrame(painter, inner, line, BlackAt(0.12), WhiteAt(0.55));
+        PaintFrame(painter, outer, line, seen(BlackAt(0.42)), seen(BlackAt(0.16)));
+        PaintFrame(painter, inner, line, seen(BlackAt(0.12)), seen(WhiteAt(0.55)));
         break;
     case EdgeStyle::Raised:
-        PaintFrame(painter, outer, line, BlackAt(0.16), BlackAt(0.42));
-        PaintFrame(painter, inner, line, WhiteAt(0.85), BlackAt(0.12));
+        PaintFrame(painter, outer, line, seen(BlackAt(0.16)), seen(BlackAt(0.42)));
+        PaintFrame(painter, inner, line, seen(WhiteAt(0.85)), seen(BlackAt(0.12)));
         break;
     }
 }

@@ -2,10 +2,7 @@
 
 #include "widgets/scale_gauge.h"
 
-#include <QVarLengthArray>
-
-#include <algorithm>
-#include <array>
+#include <cstring>
 #include <type_traits>
 
 namespace quor {
@@ -18,9 +15,9 @@ public:
     template <class T> void Add(const T& value)
     {
         static_assert(std::is_scalar_v<T>);
-        m_bytes.append(reinterpret_cast<const char*>(&value), qsizetype{sizeof value});
+        Append(&value, sizeof value);
     }
-    QByteArray Bytes() const { return {m_bytes.data(), m_bytes.size()}; }
+    QByteArray Bytes() const { return m_bytes.first(m_length); }
 
     void Visit(std::string_view name, bool value) override { AddUnlessMoving(name, value); }
     void Visit(std::string_view name, std::int32_t value) override { AddUnlessMoving(name, value); }
@@ -49,21 +46,31 @@ private:
     void Add(const std::string& text)
     {
         Add(text.size());
-        m_bytes.append(text.data(), static_cast<qsizetype>(text.size()));
+        Append(text.data(), text.size());
+    }
+
+    void Append(const void* bytes, std::size_t length)
+    {
+        if (m_length + static_cast<qsizetype>(length) > m_bytes.size()) {
+            m_bytes.resize(2 * m_bytes.size() + static_cast<qsizetype>(length));
+        }
+        std::memcpy(m_bytes.data() + m_length, bytes, length);
+        m_length += static_cast<qsizetype>(length);
     }
 
     // What the place on the canvas and the value decide is painted without it. The size is in the key in another form.
     template <class T> void AddUnlessMoving(std::string_view name, const T& value)
     {
-        constexpr std::array moving = {decltype(ScaleGauge::Position)::name, decltype(Widget::Left)::name,
-                                       decltype(Widget::Top)::name, decltype(Widget::Width)::name,
-                                       decltype(Widget::Height)::name};
-        if (std::find(moving.begin(), moving.end(), name) == moving.end()) {
+        const bool isMoving = name == decltype(ScaleGauge::Position)::name || name == decltype(Widget::Left)::name ||
+                              name == decltype(Widget::Top)::name || name == decltype(Widget::Width)::name ||
+                              name == decltype(Widget::Height)::name;
+        if (!isMoving) {
             Add(value);
         }
     }
 
-    QVarLengthArray<char, 512> m_bytes;
+    QByteArray m_bytes{512, Qt::Uninitialized};
+    qsizetype m_length = 0;
 };
 
 } // namespace

@@ -25,8 +25,9 @@ EdgeStyle EdgeOf(const ScaleGauge& gauge)
 void PaintGround(QPainter& painter, const DeviceSpace& space, const ScaleGauge& gauge)
 {
     if (!gauge.Transparent()) {
-        painter.fillRect(space.Area(), ToQt(Resolve(gauge.BackGroundColor())));
-        PaintEdge(painter, space, EdgeOf(gauge));
+        const QColor ground = ToQt(Resolve(gauge.BackGroundColor()));
+        painter.fillRect(space.Area(), ground);
+        PaintEdge(painter, space, EdgeOf(gauge), ground);
     }
 }
 

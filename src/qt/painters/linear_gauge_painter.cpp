@@ -147,15 +147,18 @@ void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const Line
     const Outline body = Triangle(scale, middle, half, half, gauge);
     if (half > 0) {
         SmoothFills halo(painter, area, area);
-        halo.Fill(body.Grown(1.5 * scale.unit).Points(), nowhere, isLight ? BlackAt(0.8) : WhiteAt(0.8));
+        halo.Trace(body.Grown(1.5 * scale.unit).Points(), nowhere);
+        halo.Fill(isLight ? BlackAt(0.8) : WhiteAt(0.8));
         halo.Draw();
     }
     PaintHairline(painter, scale, first, color, isLight ? BlackAt(0.75) : WhiteAt(0.75));
     if (half > 0) {
         SmoothFills fills(painter, area, area);
-        fills.Fill(body.Points(), QPointF(scale.unit, scale.unit), BlackAt(0.22));
-        fills.Fill(body.Points(), nowhere, color);
-        fills.Fill(Triangle(scale, middle, half, 0, gauge).Points(), nowhere, WhiteAt(isLight ? 0.34 : 0.16));
+        fills.Trace(body.Points(), nowhere);
+        fills.Fill(BlackAt(0.22), QPointF(scale.unit, scale.unit).toPoint());
+        fills.Fill(color);
+        fills.Trace(Triangle(scale, middle, half, 0, gauge).Points(), nowhere);
+        fills.Fill(WhiteAt(isLight ? 0.34 : 0.16));
         fills.Draw();
     }
 }

@@ -38,6 +38,14 @@ inline QColor BlackAt(qreal opacity)
     return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
 }
 
+// What is seen of a colour that lies over an opaque one.
+inline QColor Over(const QColor& ground, const QColor& color)
+{
+    const auto mix = [&](float under, float over) { return under + (over - under) * color.alphaF(); };
+    return QColor::fromRgbF(mix(ground.redF(), color.redF()), mix(ground.greenF(), color.greenF()),
+                            mix(ground.blueF(), color.blueF()));
+}
+
 // How bright a colour is, 0 to 1.
 inline qreal Luminance(const QColor& color)
 {

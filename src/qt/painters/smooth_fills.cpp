@@ -1,11 +1,10 @@
 #include "qt/painters/smooth_fills.h"
 
 #include <QPainter>
-#include <QPolygonF>
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
+#include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace quor {
@@ -14,15 +13,32 @@ namespace {
 
 constexpr qint64 mostPixels = 256 * 256; // beyond it, the empty ones cost more than is won
 
+constexpr int whole = 1 << 16; // the cover of a pixel that is covered wholly
+
 // Each channel of a pixel times a share of 0 to 255.
 QRgb Share(QRgb pixel, std::uint32_t share)
 {
-    constexpr std::uint32_t pairs = 0x00FF00FF;
-    const auto scaled = [&](std::uint32_t two) {
-        const std::uint32_t product = two * share;
-        return ((product + ((product >> 8) & pairs) + 0x00800080) >> 8) & pairs;
-    };
-    return scaled(pixel & pairs) | scaled((pixel >> 8) & pairs) << 8;
+    constexpr std::uint64_t channels = 0x00FF00FF00FF00FF;
+    const std::uint64_t product = ((pixel | std::uint64_t{pixel} << 24) & channels) * share;
+    const std::uint64_t shares = ((product + ((product >> 8) & channels) + 0x0080008000800080) >> 8) & channels;
+    return static_cast<QRgb>(shares | shares >> 24);
+}
+
+// The first place from there on that isn't zero, or the end. Rings are empty in the middle, so it takes eight bytes at
+// a time.
+template <class Value> int AfterZeros(const Value* values, int from, int end)
+{
+    constexpr int step = sizeof(std::uint64_t) / sizeof(Value);
+    for (std::uint64_t several = 0; from + step <= end; from += step) {
+        std::memcpy(&several, values + from, sizeof several);
+        if (several != 0) {
+            break;
+        }
+    }
+    while (from < end && values[from] == 0) {
+        ++from;
+    }
+    return from;
 }
 
 } // namespace
@@ -39,19 +55,24 @@ SmoothFills::SmoothFills(QPainter& painter, const QRectF& bounds, const QRectF& 
         m_picture.fill(Qt::transparent);
         m_stride = m_place.width() + 2;
         m_cover.resize(static_cast<std::size_t>(m_stride) * static_cast<std::size_t>(m_place.height()));
-        m_touched.assign(static_cast<std::size_t>(m_place.height()), {std::numeric_limits<int>::max(), 0});
+        m_shares.resize(m_cover.size());
+        m_touched.resize(static_cast<std::size_t>(m_place.height()));
     }
 }
 
-void SmoothFills::Fill(std::span<const Point> polygon, const QPointF& shift, const QColor& color)
+void SmoothFills::Trace(std::span<const Point> polygon, const QPointF& shift)
 {
     if (m_place.isEmpty() || polygon.empty()) {
         return;
     }
     if (m_picture.isNull()) {
-        FillByPainter(polygon, shift, color);
+        m_polygon.clear();
+        for (const Point& point : polygon) {
+            m_polygon.append(shift + QPointF(point.x, point.y));
+        }
         return;
     }
+    std::fill(m_touched.begin(), m_touched.end(), Touched{m_stride, 0});
     const QPointF offset = shift - m_place.topLeft();
     const auto moved = [&](const Point& point) { return Point{point.x + offset.x(), point.y + offset.y()}; };
     Point from = moved(polygon.back());
@@ -60,18 +81,7 @@ void SmoothFills::Fill(std::span<const Point> polygon, const QPointF& shift, con
         AddEdge(from, to);
         from = to;
     }
-    Blend(color);
-}
-
-void SmoothFills::FillByPainter(std::span<const Point> polygon, const QPointF& shift, const QColor& color)
-{
-    QPolygonF points;
-    points.reserve(static_cast<qsizetype>(polygon.size()));
-    for (const Point& point : polygon) {
-        points.append(shift + QPointF(point.x, point.y));
-    }
-    m_painter.setBrush(color);
-    m_painter.drawPolygon(points, Qt::WindingFill);
+    TakeShares();
 }
 
 // Adds to each row that the edge crosses what it covers at its right.
@@ -91,7 +101,7 @@ void SmoothFills::AddEdge(Point from, Point to)
     for (int row = static_cast<int>(top); row < bottom; ++row) {
         const double height = std::min<double>(row + 1, bottom) - std::max<double>(row, top);
         const double next = x + height * slope;
-        AddStretch(row, std::min(x, next), std::max(x, next), direction * height);
+        AddStretch(row, std::min(x, next), std::max(x, next), direction * height * whole);
         x = next;
     }
 }
@@ -107,53 +117,78 @@ void SmoothFills::AddStretch(int row, double fromX, double toX, double cover)
     Touched& touched = m_touched[static_cast<std::size_t>(row)];
     touched.first = std::min(touched.first, first);
     touched.end = std::max(touched.end, last + 2);
-    float* cells = m_cover.data() + static_cast<std::ptrdiff_t>(row) * m_stride;
+    int* cells = m_cover.data() + static_cast<std::ptrdiff_t>(row) * m_stride;
+    const int all = static_cast<int>(cover);
     if (first == last) {
-        const double beside = cover * ((left + right) / 2 - first); // its share of the next pixel's difference
-        cells[first] += static_cast<float>(cover - beside);
-        cells[first + 1] += static_cast<float>(beside);
+        const int beside = static_cast<int>(cover * ((left + right) / 2 - first)); // the next pixel's part of it
+        cells[first] += all - beside;
+        cells[first + 1] += beside;
         return;
     }
     const double perPixel = cover / (right - left);
-    double before = 0; // covered of the pixel to the left
+    int before = 0; // covered of the pixel to the left
     double enters = left;
     for (int pixel = first; pixel <= last; ++pixel) {
         const double leaves = pixel == last ? right : pixel + 1;
         const double within = (leaves - enters) * (pixel + 1 - (enters + leaves) / 2);
-        const double covered = perPixel * (enters - left + within);
-        cells[pixel] += static_cast<float>(covered - before);
+        const int covered = static_cast<int>(perPixel * (enters - left + within));
+        cells[pixel] += covered - before;
         before = covered;
         enters = leaves;
     }
-    cells[last + 1] += static_cast<float>(cover - before);
+    cells[last + 1] += all - before;
 }
 
-void SmoothFills::Blend(const QColor& color)
+// Sums up what the edges have left.
+void SmoothFills::TakeShares()
 {
-    const QRgb full = qPremultiply(color.rgba());
-    const bool isOpaque = qAlpha(full) == 255;
     for (int row = 0; row < m_place.height(); ++row) {
-        Touched& touched = m_touched[static_cast<std::size_t>(row)];
-        const int width = std::min(touched.end, m_place.width());
-        float* cells = m_cover.data() + static_cast<std::ptrdiff_t>(row) * m_stride;
-        auto* pixels = reinterpret_cast<QRgb*>(m_picture.scanLine(row));
-        float cover = 0;
-        for (int x = touched.first; x < width; ++x) {
-            cover += cells[x];
-            const auto share = static_cast<std::uint32_t>(std::min(std::abs(cover), 1.0F) * 255 + 0.5F);
-            if (share == 255 && isOpaque) {
-                pixels[x] = full;
-            } else if (share > 0) {
-                const QRgb source = Share(full, share);
-                pixels[x] = pixels[x] == 0
-                                ? source
-                                : source + Share(pixels[x], 255U - static_cast<std::uint32_t>(qAlpha(source)));
+        const Touched& touched = m_touched[static_cast<std::size_t>(row)];
+        const std::ptrdiff_t start = static_cast<std::ptrdiff_t>(row) * m_stride;
+        int* cells = m_cover.data() + start;
+        std::uint8_t* shares = m_shares.data() + start;
+        std::fill(shares + std::min(touched.first, touched.end), shares + touched.end, std::uint8_t{0});
+        int cover = 0;
+        std::uint8_t share = 0;
+        for (int x = touched.first; x < touched.end; ++x) {
+            if (cells[x] != 0) {
+                cover += std::exchange(cells[x], 0);
+                const auto covered = static_cast<std::uint32_t>(std::min(std::abs(cover), whole));
+                share = static_cast<std::uint8_t>((covered * 255 + whole / 2) / whole);
+            } else if (share == 0) {
+                x = AfterZeros(cells, x, touched.end) - 1;
+                continue;
             }
+            shares[x] = share;
         }
-        if (touched.first < touched.end) {
-            std::fill(cells + touched.first, cells + touched.end, 0.0F);
+    }
+}
+
+void SmoothFills::Fill(const QColor& color, const QPoint& offset)
+{
+    if (m_picture.isNull()) {
+        m_painter.setBrush(color);
+        m_painter.drawPolygon(m_polygon.translated(offset), Qt::WindingFill);
+        return;
+    }
+    const QRgb full = qPremultiply(color.rgba());
+    const int firstRow = std::max(0, offset.y());
+    const int endRow = std::min(m_place.height(), m_place.height() + offset.y());
+    for (int row = firstRow; row < endRow; ++row) {
+        const int source = row - offset.y();
+        const Touched& touched = m_touched[static_cast<std::size_t>(source)];
+        const std::uint8_t* shares = m_shares.data() + static_cast<std::ptrdiff_t>(source) * m_stride;
+        auto* pixels = reinterpret_cast<QRgb*>(m_picture.scanLine(row)) + offset.x();
+        const int first = std::max(touched.first, -offset.x());
+        const int end = std::min(touched.end, m_place.width() - std::max(0, offset.x()));
+        for (int x = first; x < end; ++x) {
+            if (shares[x] == 0) {
+                x = AfterZeros(shares, x, end) - 1;
+                continue;
+            }
+            const QRgb part = Share(full, shares[x]);
+            pixels[x] = part + Share(pixels[x], 255U - (part >> 24));
         }
-        touched = {std::numeric_limits<int>::max(), 0};
     }
 }
 

@@ -7,8 +7,10 @@
 #include <QColor>
 #include <QImage>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -22,16 +24,18 @@ public:
     // painter's coordinates, which are device pixels.
     SmoothFills(QPainter& painter, const QRectF& bounds, const QRectF& area);
 
-    void Fill(std::span<const Point> polygon, const QPointF& shift, const QColor& color);
+    // The polygon that the fills that follow are about, moved by so much.
+    void Trace(std::span<const Point> polygon, const QPointF& shift);
+    // Fills it with the color, moved by whole pixels.
+    void Fill(const QColor& color, const QPoint& offset = {});
     void Draw();
 
 private:
-    void FillByPainter(std::span<const Point> polygon, const QPointF& shift, const QColor& color);
     void AddEdge(Point from, Point to);
     void AddStretch(int row, double fromX, double toX, double cover);
-    void Blend(const QColor& color);
+    void TakeShares();
 
-    // Of a row: the pixels whose cover differs from that of their left neighbour.
+    // Of a row: the pixels that the polygon may cover a part of.
     struct Touched {
         int first;
         int end;
@@ -41,8 +45,10 @@ private:
     QRect m_place;
     QImage m_picture; // null: the painter fills, for what is large
     int m_stride = 0;
-    std::vector<float> m_cover; // what each pixel has more than its left neighbour; all 0 between fills
+    std::vector<int> m_cover; // what a pixel has more than its left neighbour; all 0 but while edges are added
+    std::vector<std::uint8_t> m_shares; // how much of a pixel is covered, within what is touched
     std::vector<Touched> m_touched;
+    QPolygonF m_polygon; // if the painter fills
 };
 
 } // namespace quor
