@@ -9,6 +9,7 @@
 #include "qt/painters/painters.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
+#include "widgets/arc_layout.h"
 #include "widgets/canvas.h"
 #include "widgets/rect_led.h"
 #include "widgets/round_led.h"
@@ -18,12 +19,11 @@
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <QPolygonF>
 #include <QRegion>
 
-#include <array>
 #include <cmath>
 #include <memory>
-#include <numbers>
 #include <vector>
 
 namespace quor::bench {
@@ -83,8 +83,13 @@ void PaintNewValue(benchmark::State& state)
     }
 }
 
+// The pointer's body alone, on a picture of the face.
 void PaintPictureAndPolygon(benchmark::State& state)
 {
+    Canvas canvas;
+    AddWidgetArrays(canvas);
+    auto& gauge = static_cast<AngularGauge&>(Loaded(canvas, *FindKind("ctlMeterAngle"), 1, 120, 120));
+    const ArcLayout arc = ArcOf(gauge, dialSize, dialSize, 1);
     const QImage picture = Sheet(dialArea.size().toSize());
     QImage sheet = Sheet({200, 200});
     QPainter painter(&sheet);
@@ -93,13 +98,14 @@ void PaintPictureAndPolygon(benchmark::State& state)
     painter.setBrush(Qt::black);
     std::size_t step = 0;
     for (auto _ : state) {
-        const double angle = (225 - 270 * ValueAt(++step) / 10'000) * std::numbers::pi / 180;
-        const QPointF along(std::cos(angle), -std::sin(angle));
-        const QPointF across(-along.y(), along.x());
-        const QPointF middle = dialArea.center();
-        const std::array corners = {middle - 9 * along + across, middle + 43 * along, middle - 9 * along - across};
+        PropertyAccess::Value(gauge.Position) = ValueAt(++step);
+        const Outline outline = PointerOutline(gauge, arc);
+        QPolygonF polygon;
+        for (const Point& corner : outline.Points()) {
+            polygon.append(dialArea.topLeft() + QPointF(corner.x, corner.y));
+        }
         painter.drawImage(dialArea.topLeft(), picture);
-        painter.drawPolygon(corners.data(), corners.size());
+        painter.drawPolygon(polygon, Qt::WindingFill);
     }
 }
 

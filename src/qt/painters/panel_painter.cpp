@@ -57,7 +57,8 @@ void PaintPanel(QPainter& painter, const Panel& panel, const QRectF& area)
     if (panel.PictureUseMaskFlag()) {
         mask = Resolve(panel.PictureMaskColorValue());
     }
-    painter.fillRect(space.Area(), ToQt(Resolve(panel.BackColor())));
+    const QColor ground = ToQt(Resolve(panel.BackColor()));
+    painter.fillRect(space.Area(), ground);
     if (panel.PanelPicture() != nullptr && !inside.isEmpty()) {
         PaintGroundPicture(painter, panel, space, inside, mask);
     }
@@ -72,7 +73,7 @@ void PaintPanel(QPainter& painter, const Panel& panel, const QRectF& area)
                    .mask = mask,
                    .gaps = panelGaps},
                   inside);
-    PaintEdge(painter, space, edge);
+    PaintEdge(painter, space, edge, ground);
 }
 
 } // namespace quor

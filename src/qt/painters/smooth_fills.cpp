@@ -13,7 +13,8 @@ namespace {
 
 constexpr qint64 mostPixels = 256 * 256; // beyond it, the empty ones cost more than is won
 
-constexpr int whole = 1 << 16; // the cover of a pixel that is covered wholly
+constexpr int narrow = 16;      // pixels of a row that are not worth looking for empty ones
+constexpr int whole = 255 << 8; // the cover of a pixel that is covered wholly
 
 // Each channel of a pixel times a share of 0 to 255.
 QRgb Share(QRgb pixel, std::uint32_t share)
@@ -43,8 +44,16 @@ template <class Value> int AfterZeros(const Value* values, int from, int end)
 
 } // namespace
 
+// Many small polygons share the memory of few.
+SmoothFills::Scratch& SmoothFills::ScratchOfThread()
+{
+    static thread_local Scratch scratch;
+    return scratch;
+}
+
 SmoothFills::SmoothFills(QPainter& painter, const QRectF& bounds, const QRectF& area)
-    : m_painter(painter), m_place(bounds.intersected(area).toAlignedRect().intersected(area.toAlignedRect()))
+    : m_painter(painter), m_scratch(ScratchOfThread()),
+      m_place(bounds.intersected(area).toAlignedRect().intersected(area.toAlignedRect()))
 {
     if (qint64{m_place.width()} * m_place.height() > mostPixels) {
         painter.setClipRect(area, Qt::IntersectClip);
@@ -53,10 +62,14 @@ SmoothFills::SmoothFills(QPainter& painter, const QRectF& bounds, const QRectF& 
     } else if (!m_place.isEmpty()) {
         m_picture = QImage(m_place.size(), QImage::Format_ARGB32_Premultiplied);
         m_picture.fill(Qt::transparent);
+        m_pixels = reinterpret_cast<QRgb*>(m_picture.bits());
         m_stride = m_place.width() + 2;
-        m_cover.resize(static_cast<std::size_t>(m_stride) * static_cast<std::size_t>(m_place.height()));
-        m_shares.resize(m_cover.size());
-        m_touched.resize(static_cast<std::size_t>(m_place.height()));
+        const std::size_t cells = static_cast<std::size_t>(m_stride) * static_cast<std::size_t>(m_place.height());
+        if (m_scratch.cover.size() < cells) {
+            m_scratch.cover.resize(cells);
+            m_scratch.shares.resize(cells);
+        }
+        m_scratch.touched.resize(static_cast<std::size_t>(m_place.height()));
     }
 }
 
@@ -72,7 +85,7 @@ void SmoothFills::Trace(std::span<const Point> polygon, const QPointF& shift)
         }
         return;
     }
-    std::fill(m_touched.begin(), m_touched.end(), Touched{m_stride, 0});
+    std::fill(m_scratch.touched.begin(), m_scratch.touched.end(), Touched{m_stride, 0});
     const QPointF offset = shift - m_place.topLeft();
     const auto moved = [&](const Point& point) { return Point{point.x + offset.x(), point.y + offset.y()}; };
     Point from = moved(polygon.back());
@@ -114,10 +127,10 @@ void SmoothFills::AddStretch(int row, double fromX, double toX, double cover)
     const int first = static_cast<int>(left);
     const int end = static_cast<int>(right);
     const int last = end > first && end == right ? end - 1 : end;
-    Touched& touched = m_touched[static_cast<std::size_t>(row)];
+    Touched& touched = m_scratch.touched[static_cast<std::size_t>(row)];
     touched.first = std::min(touched.first, first);
     touched.end = std::max(touched.end, last + 2);
-    int* cells = m_cover.data() + static_cast<std::ptrdiff_t>(row) * m_stride;
+    int* cells = m_scratch.cover.data() + static_cast<std::ptrdiff_t>(row) * m_stride;
     const int all = static_cast<int>(cover);
     if (first == last) {
         const int beside = static_cast<int>(cover * ((left + right) / 2 - first)); // the next pixel's part of it
@@ -143,20 +156,22 @@ void SmoothFills::AddStretch(int row, double fromX, double toX, double cover)
 void SmoothFills::TakeShares()
 {
     for (int row = 0; row < m_place.height(); ++row) {
-        const Touched& touched = m_touched[static_cast<std::size_t>(row)];
+        const Touched& touched = m_scratch.touched[static_cast<std::size_t>(row)];
         const std::ptrdiff_t start = static_cast<std::ptrdiff_t>(row) * m_stride;
-        int* cells = m_cover.data() + start;
-        std::uint8_t* shares = m_shares.data() + start;
-        std::fill(shares + std::min(touched.first, touched.end), shares + touched.end, std::uint8_t{0});
+        int* cells = m_scratch.cover.data() + start;
+        std::uint8_t* shares = m_scratch.shares.data() + start;
+        const bool isWide = touched.end - touched.first > narrow;
         int cover = 0;
         std::uint8_t share = 0;
         for (int x = touched.first; x < touched.end; ++x) {
             if (cells[x] != 0) {
                 cover += std::exchange(cells[x], 0);
                 const auto covered = static_cast<std::uint32_t>(std::min(std::abs(cover), whole));
-                share = static_cast<std::uint8_t>((covered * 255 + whole / 2) / whole);
-            } else if (share == 0) {
-                x = AfterZeros(cells, x, touched.end) - 1;
+                share = static_cast<std::uint8_t>((covered + 128) >> 8);
+            } else if (isWide && share == 0) {
+                const int next = AfterZeros(cells, x, touched.end);
+                std::fill(shares + x, shares + next, std::uint8_t{0});
+                x = next - 1;
                 continue;
             }
             shares[x] = share;
@@ -176,20 +191,22 @@ void SmoothFills::Fill(const QColor& color, const QPoint& offset)
     const int endRow = std::min(m_place.height(), m_place.height() + offset.y());
     for (int row = firstRow; row < endRow; ++row) {
         const int source = row - offset.y();
-        const Touched& touched = m_touched[static_cast<std::size_t>(source)];
-        const std::uint8_t* shares = m_shares.data() + static_cast<std::ptrdiff_t>(source) * m_stride;
-        auto* pixels = reinterpret_cast<QRgb*>(m_picture.scanLine(row)) + offset.x();
+        const Touched& touched = m_scratch.touched[static_cast<std::size_t>(source)];
+        const std::uint8_t* shares = m_scratch.shares.data() + static_cast<std::ptrdiff_t>(source) * m_stride;
+        QRgb* pixels = m_pixels + static_cast<std::ptrdiff_t>(row) * m_place.width() + offset.x();
         const int first = std::max(touched.first, -offset.x());
         const int end = std::min(touched.end, m_place.width() - std::max(0, offset.x()));
+        const bool isWide = end - first > narrow;
         for (int x = first; x < end; ++x) {
-            if (shares[x] == 0) {
+            if (isWide && shares[x] == 0) {
                 x = AfterZeros(shares, x, end) - 1;
                 continue;
             }
             const QRgb part = Share(full, shares[x]);
-            pixels[x] = part + Share(pixels[x], 255U - (part >> 24));
+            pixels[x] = m_isBlank ? part : part + Share(pixels[x], 255U - (part >> 24));
         }
     }
+    m_isBlank = false;
 }
 
 void SmoothFills::Draw()

@@ -1,6 +1,6 @@
 #pragma once
 // Fills polygons with smooth edges, one over the other, and draws them as one picture. Polygons of a few hundred pixels
-// cost a tenth of what the toolkit takes for them: pointers move all the time.
+// cost a tenth of what the toolkit takes for them: pointers move all the time. One at a time in a thread.
 
 #include "widgets/outline.h"
 
@@ -41,13 +41,21 @@ private:
         int end;
     };
 
+    // What the polygon that is traced covers, row by row.
+    struct Scratch {
+        std::vector<int> cover;           // more than of the left neighbour; all 0 but while edges are added
+        std::vector<std::uint8_t> shares; // of each pixel within what is touched
+        std::vector<Touched> touched;
+    };
+    static Scratch& ScratchOfThread();
+
     QPainter& m_painter;
+    Scratch& m_scratch;
     QRect m_place;
     QImage m_picture; // null: the painter fills, for what is large
+    QRgb* m_pixels = nullptr;
+    bool m_isBlank = true; // nothing is filled yet
     int m_stride = 0;
-    std::vector<int> m_cover; // what a pixel has more than its left neighbour; all 0 but while edges are added
-    std::vector<std::uint8_t> m_shares; // how much of a pixel is covered, within what is touched
-    std::vector<Touched> m_touched;
     QPolygonF m_polygon; // if the painter fills
 };
 

@@ -66,10 +66,11 @@ void PaintTextLabel(QPainter& painter, const TextLabel& label, const QRectF& are
 {
     const DeviceSpace space(painter, area);
     const EdgeStyle edge = EdgeOf(label);
-    if (HasGround(label)) {
-        painter.fillRect(space.Area(), ToQt(Resolve(label.BackColor())));
+    const QColor ground = HasGround(label) ? ToQt(Resolve(label.BackColor())) : QColor();
+    if (ground.isValid()) {
+        painter.fillRect(space.Area(), ground);
     }
-    PaintEdge(painter, space, edge);
+    PaintEdge(painter, space, edge, ground);
     if (!label.Caption().empty()) {
         PaintCaption(painter, label, space, edge);
     }
