@@ -158,22 +158,20 @@ void clsCmdDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     if (event.NetName != Site() || event.UnitNum != Unit()) {
         return;
     }
+    if (CmdDataType() < actions::commandA || CmdDataType() > actions::stopMacro) {
+        return;
+    }
+    LabelsKnown = true; // also where the label is missing: the unit isn't asked again
     const std::int32_t index = Channel() - 1;
-    const auto label = [&](const std::string& before, const std::string& text) {
-        LabelsKnown = true;
-        RaiseLabel(before + text);
-    };
     switch (CmdDataType()) {
     case actions::commandA:
-        return label("", event.CmdLabels.FromLower(index, 0));
+        return RaiseLabel(event.CmdLabels.FromLower(index, 0));
     case actions::commandB:
-        return label("", event.CmdLabels.FromLower(index, 1));
+        return RaiseLabel(event.CmdLabels.FromLower(index, 1));
     case actions::runMacro:
-        return label("Run: ", event.MacroNames.FromLower(index, 0));
-    case actions::stopMacro:
-        return label("Stop: ", event.MacroNames.FromLower(index, 0));
+        return RaiseLabel("Run: " + event.MacroNames.FromLower(index, 0));
     default:
-        return;
+        return RaiseLabel("Stop: " + event.MacroNames.FromLower(index, 0));
     }
 }
 

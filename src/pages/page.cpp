@@ -95,15 +95,15 @@ void Page::Line(std::string_view caption, std::vector<LayoutItem> items)
     m_lines.push_back(std::move(line));
 }
 
-void Page::CaptionedLine(Label& caption, Control& control)
+void Page::CaptionedLine(Label& caption, Control& control, Button* browse)
 {
-    Line("",
-         {{.control = &caption, .x = margin}, {.control = &control, .x = controlsAt, .width = LayoutItem::filling}});
-}
-
-Label& Page::LastCaption() const
-{
-    return On<Label>("lblViewProps(" + std::to_string(m_captions - 1) + ")");
+    std::vector<LayoutItem> items = {{.control = &caption, .x = margin},
+                                     {.control = &control, .x = controlsAt, .width = LayoutItem::filling}};
+    if (browse != nullptr) {
+        items.push_back(
+            {.control = browse, .width = browseWidth, .height = fieldHeight, .gap = browseGap, .atRight = true});
+    }
+    Line("", std::move(items));
 }
 
 void Page::BoxLine(CheckBox& box)
@@ -156,9 +156,7 @@ TextBox& Page::MakeBrowsed(std::string_view name, std::string_view button, std::
     auto& text = Make<TextBox>(std::string(name));
     text.Set(&TextBox::ReadOnly, onlyShows);
     auto& browse = Make<Button>(std::string(button), "...");
-    Line(caption,
-         {{.control = &text, .x = controlsAt, .width = LayoutItem::filling},
-          {.control = &browse, .width = browseWidth, .height = fieldHeight, .gap = browseGap, .atRight = true}});
+    CaptionedLine(CaptionOf(caption), text, &browse);
     return text;
 }
 

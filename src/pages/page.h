@@ -48,9 +48,7 @@ protected:
     // The parts of a line.
     Label& CaptionOf(std::string_view caption);
     void Line(std::string_view caption, std::vector<LayoutItem> items);
-    void CaptionedLine(Label& caption, Control& control);
-    // The caption of the last line that has one.
-    Label& LastCaption() const;
+    void CaptionedLine(Label& caption, Control& control, Button* browse = nullptr);
     void BoxLine(CheckBox& box);
     void FrameLine(std::string name, std::string caption);
     // When all lines are there.

@@ -41,11 +41,10 @@ frmCVCmdDataSource::frmCVCmdDataSource(PageHost& host)
       cboSite(SourceList("cboSite", "lblSite", "Site:", settingWords, [this] { cboSite_Click(); })),
       cboUnit(SourceList("cboUnit", "lblUnit", "Unit:", settingWords, [this] { cboUnit_Click(); })),
       cboChannel(SourceList("cboChannel", "lblChannel", "Channel:", settingWords, [this] { cboChannel_Click(); })),
-      lblChannel(On<Label>("lblChannel")), txtCustView(MakeBrowsed("txtCustView", "cmdBrwsViews", "View:", false)),
+      lblChannel(On<Label>("lblChannel")), txtCustView(MakeViewPath()),
       chkCtrlClick(Make<CheckBox>("chkCtrlClick", "Require Ctrl + Click"))
 {
     UseLists(cboSite, cboUnit, cboChannel, cboChannel);
-    AddRow("txtCustView", {&LastCaption(), &txtCustView, &On("cmdBrwsViews")});
     BoxLine(chkCtrlClick);
     Handle(chkCtrlClick.Click, "chkCtrlClick",
            [this] { Source().Set(&clsCmdDataSource::CtrlClick, chkCtrlClick.Value()); });
@@ -53,6 +52,17 @@ frmCVCmdDataSource::frmCVCmdDataSource(PageHost& host)
     Handle(On<Button>("cmdBrwsViews").Click, "cmdBrwsViews", [this] { cmdBrwsViews_Click(); });
     ArrangeLines();
     ShowOnly("cboAction");
+}
+
+// Its caption has a name, as those of the lists have.
+TextBox& frmCVCmdDataSource::MakeViewPath()
+{
+    auto& caption = Make<Label>("lblCustView", "View:", LabelRole::Caption);
+    auto& path = Make<TextBox>("txtCustView");
+    auto& browse = Make<Button>("cmdBrwsViews", "...");
+    CaptionedLine(caption, path, &browse);
+    AddRow("txtCustView", {&caption, &path, &browse});
+    return path;
 }
 
 clsCmdDataSource& frmCVCmdDataSource::Source() const

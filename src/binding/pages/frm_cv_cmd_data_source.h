@@ -14,6 +14,7 @@ public:
     void ClearOwner() override { m_hasOwner = false; }
 
 private:
+    TextBox& MakeViewPath();
     void FillLists();
     void ShowSource();
     void cboAction_Click();
