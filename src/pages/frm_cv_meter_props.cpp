@@ -1,24 +1,20 @@
 #include "pages/frm_cv_meter_props.h"
 
 #include "base/text.h"
+#include "pages/page_measures.h"
 
 namespace quor {
 
 namespace {
 
 using E = ScaleMeter;
+using namespace page_measures;
 
 constexpr double mostPosition = 99'999;
 constexpr double mostEnd = 999'999'999'999'999;
 constexpr int decimals = 6;
 
-// Pixels.
-constexpr int colorsAt = 116;
-constexpr int endsAt = 212;
-constexpr int swatchWidth = 56;
-constexpr int browseWidth = 28;
-constexpr int fieldHeight = 24;
-constexpr int browseGap = 4;
+constexpr int endsAt = 212; // pixels
 
 std::string Indexed(std::string_view name, int index)
 {
@@ -31,7 +27,7 @@ frmCVMeterProps::frmCVMeterProps(PageHost& host) : ElementPage("frmCVMeterProps"
 {
     ScaleRows();
     FrameLine("fraSections", "Sections");
-    Line("", {{.control = &CaptionOf("Color:"), .x = colorsAt}, {.control = &CaptionOf("Ends at:"), .x = endsAt}});
+    Line("", {{.control = &CaptionOf("Color:"), .x = controlsAt}, {.control = &CaptionOf("Ends at:"), .x = endsAt}});
     SectionRow(1, &E::SectionColor1, EndField(0, &E::SectionEnd1));
     SectionRow(2, &E::SectionColor2, EndField(1, &E::SectionEnd2));
     SectionRow(3, &E::SectionColor3, EndField(2, &E::SectionEnd3));
@@ -73,7 +69,7 @@ template <class C> void frmCVMeterProps::SectionRow(int number, C E::*color, Con
     auto& swatch = Make<Swatch>(name);
     auto& browse = Make<Button>(button, "...");
     Line("Section " + std::to_string(number) + ":",
-         {{.control = &swatch, .x = colorsAt, .width = swatchWidth},
+         {{.control = &swatch, .x = controlsAt, .width = swatchWidth},
           {.control = &browse, .width = browseWidth, .height = fieldHeight, .gap = browseGap},
           {.control = &end, .x = endsAt, .width = LayoutItem::filling}});
     ColorOn(swatch, name, button, color);

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "pages/font_dialog.h"
+#include "pages/page_measures.h"
 #include "platform/boxes.h"
 #include "platform/common_dialog.h"
 
@@ -13,17 +14,14 @@ namespace quor {
 
 namespace {
 
+using namespace page_measures;
+
 // Pixels.
 constexpr int margin = 12;
-constexpr int controlsAt = 116;
 constexpr int rowPitch = 30;
 constexpr int boxPitch = 26;
 constexpr int numberWidth = 80;
-constexpr int swatchWidth = 56;
 constexpr int swatchLeast = 40;
-constexpr int fieldHeight = 24;
-constexpr int browseWidth = 28;
-constexpr int browseGap = 4;
 constexpr int frameGap = 9;     // above the first line and above a rule
 constexpr int frameHeight = 31; // rule, title and the room around it
 constexpr int panelWidth = 320;
@@ -60,7 +58,7 @@ void Page::Read(std::string_view control, Work work)
     m_readings.push_back({std::string(control), std::move(work)});
 }
 
-void Page::ReadOrder(std::vector<std::string_view> controls)
+void Page::ReadOrder(const std::vector<std::string_view>& controls)
 {
     std::vector<Reading> ordered;
     for (const std::string_view control : controls) {

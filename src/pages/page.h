@@ -42,7 +42,7 @@ protected:
     // What SetOwner does for a control, in the order of the rows or in that of ReadOrder, which leaves out what it
     // doesn't name.
     void Read(std::string_view control, Work work);
-    void ReadOrder(std::vector<std::string_view> controls);
+    void ReadOrder(const std::vector<std::string_view>& controls);
     void ReadAll();
 
     // The parts of a line.
@@ -139,7 +139,7 @@ protected:
     // With "Use Default": on, the button is off, and swatch and setting are the button face.
     template <class B, class S>
     void DefaultColorRow(std::string_view name, std::string_view button, std::string_view box, std::string_view caption,
-                         S B::*setting, Work after = {}, Work whenDefault = {})
+                         S B::*setting, const Work& after = {}, const Work& whenDefault = {})
     {
         Swatch& swatch = MakeSwatch(name, button, caption, box);
         ColorOn(swatch, name, button, setting, after);
@@ -286,7 +286,7 @@ protected:
 
 private:
     template <class B, class S>
-    void CheckOn(CheckBox& box, std::string_view name, S B::*setting, std::function<void(bool)> rule)
+    void CheckOn(CheckBox& box, std::string_view name, S B::*setting, const std::function<void(bool)>& rule)
     {
         Handle(box.Click, name, [=, this, &box] {
             Write(setting, typename S::Value{box.Value()});
