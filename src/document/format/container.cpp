@@ -51,7 +51,7 @@ ContainerReader::ContainerReader(OpenFile& file) : m_file(file), m_window(file)
     if (!m_header.isViewFile || m_header.IsNewer()) {
         return;
     }
-    m_header.recordCount = HeaderField<std::int32_t>(header, view_file::recordCountAt, "count of records");
+    m_header.recordCount = LoadNumber<std::int32_t>(header.data() + view_file::recordCountAt);
     m_header.recordBlockSize = HeaderField<std::int32_t>(header, view_file::recordBlockSizeAt, "record block's size");
     m_header.nameBlockSize = HeaderField<std::int16_t>(header, view_file::nameBlockSizeAt, "name block's size");
     const auto nameLength = HeaderField<std::int16_t>(header, view_file::nameLengthAt, "view name's length");
@@ -87,6 +87,7 @@ std::int32_t ContainerReader::StoredSum()
 
 std::vector<std::string> ContainerReader::Names()
 {
+    NotNegative(m_header.recordCount, "count of records");
     const auto block = m_window.View(m_header.NamesAt(), static_cast<std::size_t>(m_header.nameBlockSize));
     const auto lastText = std::find_if(block.rbegin(), block.rend(), [](std::uint8_t byte) { return byte != 0; });
     const auto used = static_cast<std::size_t>(block.rend() - lastText);

@@ -19,7 +19,7 @@ namespace quor {
 struct ViewHeader {
     bool isViewFile = false;
     std::uint8_t version = 0;
-    std::int32_t recordCount = 0;
+    std::int32_t recordCount = 0; // as it stands in the file, negative too: Names looks at it
     std::int32_t recordBlockSize = 0;
     std::int16_t nameBlockSize = 0;
     std::string name;
@@ -56,7 +56,7 @@ struct RecordView {
 
 class ContainerReader {
 public:
-    // Reads the header and the title. Fails with 9 where a size or the count of a file that isn't newer is negative.
+    // Reads the header and the title. Fails with 9 where a size in a file that isn't newer is negative.
     explicit ContainerReader(OpenFile& file);
 
     const ViewHeader& Header() const noexcept { return m_header; }
@@ -66,7 +66,8 @@ public:
     std::int32_t StoredSum();
 
     // The names of the records, the view's own first; those that the block doesn't hold are left out. Fails with 9 if
-    // there is text behind the last record's name, and with 6 if the count of records doesn't fit 16 bits.
+    // the count of records is negative or there is text behind the last record's name, and with 6 if the count doesn't
+    // fit 16 bits.
     std::vector<std::string> Names();
 
     // The next record of the walk, which the frames lead: it doesn't stop at the end of the block or of the file. Fails
