@@ -24,8 +24,10 @@ public:
     // Unloads every form that is shown or was shown without blocking.
     virtual void UnloadAll() = 0;
 
-    // Lets timers, server events and repaints run once; the user's input waits.
+    // Lets timers, server events and repaints run, unless they did within the last pause; the user's input waits. A
+    // load of thousands of elements calls it at each of them.
     virtual void RunEvents() = 0;
+    static constexpr int pauseBetweenRuns = 5; // milliseconds
 };
 
 } // namespace quor

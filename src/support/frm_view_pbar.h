@@ -15,14 +15,14 @@ public:
     Label& lblStatus = Make<Label>("lblStatus", "", LabelRole::Message);
     ProgressBar& pbrConfig = Make<ProgressBar>("pbrConfig");
 
-    Event<std::int32_t> Stepped; // the bar's value, at each IncrProgBar, before the event loop runs
+    Event<std::int32_t> Stepped; // the bar's value, at each IncrProgBar, before the event loop may run
 
     // None of these fails; a value beyond the maximum changes nothing.
     void InitPBar(const std::string& caption, std::int16_t maximum) noexcept;
     void SetProgBar(std::int32_t value) noexcept;
     void CloseMe() noexcept;
 
-    // One more; then the event loop runs once, whether the form is shown or not.
+    // One more; then the event loop may run, whether the form is shown or not: it keeps its pause.
     void IncrProgBar() noexcept;
 
 private:

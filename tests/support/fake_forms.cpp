@@ -60,8 +60,10 @@ void FakeForms::UnloadAll()
 
 void FakeForms::RunEvents()
 {
-    ++eventRuns;
-    m_timers.RunDue();
+    if (!m_lastRun || m_timers.Now() - *m_lastRun >= pauseBetweenRuns) {
+        m_lastRun = m_timers.Now();
+        m_timers.RunDue();
+    }
 }
 
 Form& FakeForms::Enter(Form& form, std::unique_ptr<Form> owned)

@@ -4,6 +4,8 @@
 #include "base/event.h"
 #include "platform/forms.h"
 
+#include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -20,7 +22,6 @@ public:
 
     Event<Form&> Shown;      // it is on the screen from now on
     Event<Form&> ModalShown; // the same, above all others
-    int eventRuns = 0;       // how often the event loop was run
 
     // The topmost form of that name on the screen, or null.
     Form* Find(std::string_view name) const;
@@ -38,6 +39,7 @@ private:
     Form& Enter(Form& form, std::unique_ptr<Form> owned);
 
     FakeTimers& m_timers;
+    std::optional<std::int64_t> m_lastRun;     // milliseconds
     std::vector<std::unique_ptr<Open>> m_open; // the topmost last
 };
 

@@ -11,12 +11,6 @@
 
 namespace quor {
 
-namespace {
-
-constexpr qint64 pauseBetweenRuns = 5; // milliseconds
-
-} // namespace
-
 QtForms::QtForms(const Theme& theme) : m_theme(theme) {}
 
 QtForms::~QtForms()
