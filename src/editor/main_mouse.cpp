@@ -13,9 +13,6 @@ namespace quor {
 
 namespace {
 
-constexpr std::int16_t deleteKey = 46;
-constexpr std::int16_t escapeKey = 27;
-
 std::string PlaceTip(const Area& area)
 {
     return "X: " + Decimal(area.left / twipsPerPixelX) + "   Y: " + Decimal(area.top / twipsPerPixelY);
@@ -231,9 +228,9 @@ void frmMain::KeyDown(std::int16_t code)
 {
     Guard(m_ports.reporter, Ref("frmMain.abViewEdit_KeyDown"),
           "An error occurred. The action you are trying to perform failed.", [&] {
-              if (code == deleteKey) {
+              if (code == canvas_keys::del) {
                   RequestDelete();
-              } else if (code == escapeKey && (IsDragging() || IsSizing())) {
+              } else if (code == canvas_keys::escape && (IsDragging() || IsSizing())) {
                   CancelDrag();
               }
           });

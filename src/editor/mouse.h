@@ -1,5 +1,6 @@
 #pragma once
-// The mouse on the canvas: its buttons, what lies under the pointer, and what a drag or a sizing shows meanwhile.
+// Mouse and keys on the canvas: their numbers, what lies under the pointer, and what a drag or a sizing shows
+// meanwhile.
 
 #include "base/values.h"
 
@@ -13,6 +14,11 @@ class Canvas;
 class Widget;
 
 enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };
+
+namespace canvas_keys {
+inline constexpr std::int16_t escape = 27;
+inline constexpr std::int16_t del = 46;
+} // namespace canvas_keys
 
 // What lies under the pointer. Events on it carry twips from its top left.
 struct CanvasTarget {

@@ -24,7 +24,6 @@ namespace {
 
 constexpr int handleReach = 9; // pixels: handles and frame stand this far outside their widget at most
 constexpr int scrollStep = 20; // pixels
-constexpr std::int16_t deleteKey = 46;
 
 float Twips(qreal pixels)
 {
@@ -259,10 +258,10 @@ void CanvasView::keyPressEvent(QKeyEvent* event)
 {
     if (IsBusy()) {
         if (event->key() == Qt::Key_Escape) {
-            m_main.CancelDrag();
+            m_main.abViewEdit().KeyDown.Raise(canvas_keys::escape);
         }
     } else if (event->key() == Qt::Key_Delete) {
-        m_main.abViewEdit().KeyDown.Raise(deleteKey);
+        m_main.abViewEdit().KeyDown.Raise(canvas_keys::del);
     } else {
         event->ignore();
     }
