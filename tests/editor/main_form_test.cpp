@@ -1,5 +1,6 @@
 // What may happen in the middle of something else.
 
+#include "elements/label.h"
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
 
@@ -85,6 +86,27 @@ TEST_F(TheMainForm, SizesAtThePlaceInTheViewWhenTheCanvasScrollsMeanwhile)
     main.SizeBy(45, 45);
     main.EndSizing();
     EXPECT_EQ(PlaceOf(led), (Area{3000, 3000, 300, 300}));
+}
+
+TEST_F(TheMainForm, KeepsAPastedLabelThatCannotBeShownAndItsName)
+{
+    auto& label = Insert<clsLabel>();
+    EXPECT_THROW(label.Set(&clsLabel::CaptionAlignment, 0x10000), Failure) << "the widget's has 16 bits";
+    main.CopyControl();
+    reporter.Announce(Ref("frmMain.PasteControl"));
+    main.PasteControl();
+    EXPECT_EQ(reporter.reports.back().message, "Unable to paste the control from the clipboard.");
+    EXPECT_EQ(main.View().CtlOrder().Count(), 2U);
+    EXPECT_FALSE(main.View().CtlOrder().Item("Label 2")->MyControl()->Visible());
+
+    label.Set(&clsLabel::Caption, std::string(32'768, 'x'));
+    reporter.Announce(Ref("frmMain.CopyControl"));
+    main.CopyControl();
+    EXPECT_EQ(reporter.reports.back().message, "Unable to copy the selected control to the clipboard.");
+    main.ReleaseControl();
+    reporter.Announce(Ref("frmMain.ReorderControl"));
+    main.ReorderControl(true);
+    EXPECT_EQ(reporter.reports.back().message, "Unable to re-order the selected control.");
 }
 
 TEST_F(TheMainForm, RepaintsAllForPlacesThatAreNoPlaces)

@@ -126,6 +126,11 @@ void Size(Stage& stage, const Arguments& arguments)
     main.EndSizing();
 }
 
+void ResizeToolbox(Stage& stage, const Arguments& arguments)
+{
+    stage.Main().Toolbox().Form_Resize(At(arguments, 0));
+}
+
 void Scroll(Stage& stage, const Arguments& arguments)
 {
     stage.CanvasInUse().ScrollTo(arguments.Integer(0), arguments.Integer(1));
@@ -155,6 +160,7 @@ constexpr StepRow rows[] = {
     {"release", "WHERE X Y [left|right|middle]", Release},
     {"click", "canvas", Click},
     {"size", "N DX DY", Size},
+    {"toolbox", "WIDTH", ResizeToolbox}, // twips, inside
     {"scroll", "X Y", Scroll},
     {"key", "CODE [WHERE]", Key},
 };
