@@ -138,6 +138,20 @@ void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text)
     bytes.resize(static_cast<std::size_t>(WriteAnsi(bytes.data() + start, text) - bytes.data()));
 }
 
+std::string CharactersBeyondAnsi(std::string_view text)
+{
+    std::string beyond;
+    while (!text.empty()) {
+        const std::string_view from = text;
+        const char32_t character = Next(text);
+        const std::string_view bytes = from.substr(0, from.size() - text.size());
+        if (character != '?' && AnsiByte(character) == '?' && beyond.find(bytes) == std::string::npos) {
+            beyond += bytes;
+        }
+    }
+    return beyond;
+}
+
 bool SameText(std::string_view left, std::string_view right) noexcept
 {
     if (left == right) {

@@ -25,6 +25,9 @@ std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept;
 // Appends the text's bytes as WriteAnsi does.
 void AppendAnsi(std::vector<std::uint8_t>& bytes, std::string_view text);
 
+// The characters of the text that windows-1252 lacks, each once.
+std::string CharactersBeyondAnsi(std::string_view text);
+
 // Equal regardless of the case of the letters of windows-1252.
 bool SameText(std::string_view left, std::string_view right) noexcept;
 

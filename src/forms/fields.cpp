@@ -74,6 +74,9 @@ void CheckBox::Toggle()
 void OptionArray::Index(std::int32_t index)
 {
     RequireIndex(index, m_captions.size());
+    if (index < 0) {
+        throw Failure(failures::invalidPropertyValue);
+    }
     if (Write(m_index, index)) {
         Click.Raise();
     }
@@ -98,6 +101,12 @@ void TextBox::Type(std::string text)
     if (AcceptsUser() && !ReadOnly()) {
         Text(std::move(text));
     }
+}
+
+void TextBox::Take(std::string text)
+{
+    Write(m_text, std::move(text));
+    Change.Raise();
 }
 
 void NumberField::Value(double value)

@@ -68,7 +68,7 @@ public:
     const std::vector<std::string>& Captions() const noexcept { return m_captions; }
     std::int32_t Index() const noexcept { return m_index(); } // -1: none
 
-    // From -1 to the last option, else 380.
+    // From 0 to the last option, else 380: once chosen, there is always one.
     void Index(std::int32_t index);
     void Choose(std::int32_t index);
 
@@ -90,6 +90,7 @@ public:
     const std::string& Text() const noexcept { return m_text(); }
     void Text(std::string text);
     void Type(std::string text); // the text as a whole
+    void Take(std::string text); // what was browsed for: the handlers run for the same text, too
 
 private:
     Property<"Text", std::string> m_text;

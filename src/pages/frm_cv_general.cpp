@@ -32,7 +32,7 @@ void frmCVGeneral::PixelRow(std::string_view name, std::string_view caption, flo
         std::is_same_v<S, decltype(Element::ObjWidth)> || std::is_same_v<S, decltype(Element::ObjHeight)>;
     NumberField& field = MakeNumber(name, caption, "(pixels)", isSize ? 0 : -farthest, farthest, 2);
     Handle(field.Change, name, [=, this, &field] {
-        Write(setting, ToSingle(field.Value() * twipsPerPixel));
+        Write(setting, SameOr(Value(setting), ToSingle(field.Value() * twipsPerPixel)));
         if (const Widget* widget = m_host.SelectedWidget()) {
             m_host.PositionHandles(*widget);
             m_host.SetStatusCaption(widget);

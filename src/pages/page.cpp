@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace quor {
@@ -20,19 +22,29 @@ using namespace page_measures;
 constexpr int margin = 12;
 constexpr int rowPitch = 30;
 constexpr int boxPitch = 26;
+constexpr int warningHeight = 20;
 constexpr int numberWidth = 80;
 constexpr int swatchLeast = 40;
 constexpr int frameGap = 9;     // above the first line and above a rule
 constexpr int frameHeight = 31; // rule, title and the room around it
 constexpr int panelWidth = 320;
 
-constexpr std::int32_t pictureFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
+constexpr std::int32_t fileFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
 constexpr std::int32_t fontFlags = dialog_flags::screenFonts;
 constexpr std::int32_t fontAndColorFlags = dialog_flags::screenFonts | dialog_flags::fontEffects;
 constexpr const char* pictureFilter =
     "All Picture Files|*.bmp;*.dib;*.gif;*.jpg;*.wmf;*.emf;*.ico;*.cur|Bitmaps (*.bmp, *.dib)|*.bmp;*.dib|"
     "GIF Images (*.gif)|*.gif|JPEG Images (*.jpg)|*.jpg|Metafiles (*.wmf, *.emf)|*.wmf;*.emf|"
     "Icons (*.ico, *.cur)|*.ico;*.cur|All Files|*.*";
+
+void RequireRow(bool isThere, std::string_view setting, std::int32_t stored)
+{
+    if (!isThere) {
+        throw Failure(failures::invalidPropertyValue, "The setting " + std::string(setting) + " holds " +
+                                                          std::to_string(stored) +
+                                                          ", for which this page has no choice.");
+    }
+}
 
 } // namespace
 
@@ -146,7 +158,21 @@ TextBox& Page::MakeText(std::string_view name, std::string_view caption)
 {
     auto& text = Make<TextBox>(std::string(name));
     Line(caption, {{.control = &text, .x = controlsAt, .width = LayoutItem::filling}});
+    WarningLine(text);
     return text;
+}
+
+void Page::WarningLine(TextBox& text)
+{
+    auto& warning = Make<Label>("lblBeyond" + text.Name());
+    warning.Set(&Control::Visible, false);
+    m_lines.push_back(
+        {.height = warningHeight, .items = {{.control = &warning, .x = controlsAt, .width = LayoutItem::filling}}});
+    m_subscriptions.push_back(text.Changed.Subscribe([&text, &warning] {
+        const std::string beyond = CharactersBeyondAnsi(text.Text());
+        warning.Set(&Label::Caption, beyond.empty() ? std::string() : "A view file can't hold: " + beyond);
+        warning.Set(&Control::Visible, !beyond.empty() && text.Visible());
+    }));
 }
 
 TextBox& Page::MakeBrowsed(std::string_view name, std::string_view button, std::string_view caption, bool onlyShows)
@@ -155,6 +181,7 @@ TextBox& Page::MakeBrowsed(std::string_view name, std::string_view button, std::
     text.Set(&TextBox::ReadOnly, onlyShows);
     auto& browse = Make<Button>(std::string(button), "...");
     CaptionedLine(CaptionOf(caption), text, &browse);
+    WarningLine(text);
     return text;
 }
 
@@ -226,19 +253,41 @@ Color Page::DialogColor()
     return m_host.dlgProp().Color;
 }
 
-void Page::BrowsePicture(std::string_view field, std::string_view button)
+float Page::SameOr(float stored, float shown)
+{
+    return stored == shown || (std::isnan(stored) && std::isnan(shown)) ? stored : shown;
+}
+
+void Page::BrowseFile(std::string_view field, std::string_view button, std::string_view filter)
 {
     auto& text = On<TextBox>(field);
-    Handle(On<Button>(button).Click, button, [this, &text] {
+    Handle(On<Button>(button).Click, button, [this, &text, filter = std::string(filter)] {
         CommonDialog& dialog = m_host.dlgProp();
-        dialog.Flags = pictureFlags;
-        dialog.Filter = pictureFilter;
+        dialog.Flags = fileFlags;
+        dialog.Filter = filter;
         dialog.FileName = text.Text();
         dialog.ShowOpen();
         if (!dialog.FileName.empty()) {
-            text.Text(dialog.FileName);
+            text.Take(dialog.FileName);
         }
     });
+}
+
+void Page::BrowsePicture(std::string_view field, std::string_view button)
+{
+    BrowseFile(field, button, pictureFilter);
+}
+
+void Page::ShowStored(ListBox& list, std::string_view setting, std::int32_t row, std::int32_t stored)
+{
+    RequireRow(row >= -1 && row < std::ssize(list.Items()), setting, stored);
+    list.ListIndex(row);
+}
+
+void Page::ShowStored(OptionArray& options, std::string_view setting, std::int32_t stored)
+{
+    RequireRow(stored >= 0 && stored < std::ssize(options.Captions()), setting, stored);
+    options.Index(stored);
 }
 
 void Page::TryPicture(TextBox& field, const std::function<void(const std::string&)>& write)

@@ -58,6 +58,8 @@ protected:
     NumberField& MakeNumber(std::string_view name, std::string_view caption, std::string_view unit, double least,
                             double most, int decimals = 0);
     TextBox& MakeText(std::string_view name, std::string_view caption);
+    // A line below a text field, which shows while the text has characters that a view file can't hold.
+    void WarningLine(TextBox& text);
     // A text field with a browse button; the field can't be typed in where it only shows.
     TextBox& MakeBrowsed(std::string_view name, std::string_view button, std::string_view caption, bool onlyShows);
     // A swatch with its browse button, and a box behind them if it is named.
@@ -75,8 +77,16 @@ protected:
     Color DialogColor();
     // The number of fewest digits that is this float: 0.1 instead of 0.10000000149.
     static double ShortestOf(float number);
-    // The open dialog for pictures; what is chosen is set in the field, whose handler writes it.
+    // The stored number where the shown one is equal to it: a field keeps neither a negative zero nor the bits of a
+    // number that is none.
+    static float SameOr(float stored, float shown);
+    // The open dialog for a file that exists; the field takes what is chosen, and its handler writes it.
+    void BrowseFile(std::string_view field, std::string_view button, std::string_view filter);
     void BrowsePicture(std::string_view field, std::string_view button);
+
+    // Shows a stored number as a row or an option. Where there is none, the failure (380) says which setting holds it.
+    static void ShowStored(ListBox& list, std::string_view setting, std::int32_t row, std::int32_t stored);
+    static void ShowStored(OptionArray& options, std::string_view setting, std::int32_t stored);
 
     // Writes the text of a field for a picture file. Where there is no such file: says so, and empties both.
     void TryPicture(TextBox& field, const std::function<void(const std::string&)>& write);
@@ -126,7 +136,7 @@ protected:
     {
         ListBox& list = MakeList(name, caption, std::move(items));
         Handle(list.Click, name, [=, this, &list] { Write(setting, Narrow<typename S::Value>(list.ListIndex())); });
-        Read(name, [=, this, &list] { list.ListIndex(Value(setting)); });
+        Read(name, [=, this, &list] { ShowStored(list, S::name, Value(setting), Value(setting)); });
     }
 
     template <class B, class S>
@@ -255,7 +265,7 @@ protected:
         OptionArray& options = MakeOptions(name, std::move(captions));
         Handle(options.Click, name,
                [=, this, &options] { WriteThen(setting, Narrow<typename S::Value>(options.Index()), after); });
-        Read(name, [=, this, &options] { options.Index(Value(setting)); });
+        Read(name, [=, this, &options] { ShowStored(options, S::name, Value(setting)); });
     }
 
     // What a row does with its controls, for pages that place them by themselves.
@@ -270,7 +280,7 @@ protected:
     {
         Handle(field.Change, name, [=, this, &field] {
             if constexpr (std::is_floating_point_v<typename S::Value>) {
-                WriteThen(setting, ToSingle(field.Value()), after);
+                WriteThen(setting, SameOr(Value(setting), ToSingle(field.Value())), after);
             } else {
                 WriteThen(setting, Narrow<typename S::Value>(field.Value()), after);
             }

@@ -89,7 +89,9 @@ TEST(ABoxAnOptionAndAField, RunTheirHandlersOnAChangeOnly)
     options.Choose(1);
     options.Choose(0);
     EXPECT_EQ(optionClicks.times, 2);
-    EXPECT_EQ(NumberOf([&] { options.Index(2); }), failures::invalidPropertyValue);
+    for (const int index : {-1, 2}) {
+        EXPECT_EQ(NumberOf([&] { options.Index(index); }), failures::invalidPropertyValue);
+    }
 
     TextBox text("txtViewName");
     const Count textChanges(text.Change);

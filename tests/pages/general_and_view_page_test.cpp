@@ -32,17 +32,6 @@ TEST_F(TheGeneralPage, WritesPixelsAsTwipsAndTheHandlesAndTheStatusFollow)
     EXPECT_EQ(On<TextBox>("frmCVGeneral", "txtType").Text(), "LED (Round)");
 }
 
-TEST_F(TheGeneralPage, ReportsEachFieldUnderItsNumber)
-{
-    Insert<clsLEDRound>();
-    main.Panel().FindPage("frmCVGeneral")->ClearOwner();
-    std::int32_t ref = 14119;
-    for (const char* field : {"txtHeight", "txtWidth", "txtX", "txtY"}) {
-        reporter.Announce(RefNumber{ref++, {}});
-        On<NumberField>("frmCVGeneral", field).Type("33");
-    }
-}
-
 struct TheViewPage : EditorFixture {
     static constexpr std::string_view page = "frmCVViewProps";
 };

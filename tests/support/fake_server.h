@@ -3,6 +3,7 @@
 
 #include "binding/catalog.h"
 #include "binding/server.h"
+#include "tests/support/planned_failures.h"
 
 #include <deque>
 #include <string>
@@ -88,6 +89,7 @@ public:
     std::vector<std::string> calls;   // Sites.Item("A").Units.Item(1).RequestConfig
     std::vector<std::string> catalog; // the configured sites
     int reloads = 0;
+    PlannedFailures planned;          // reload, sites
     Event<const std::string&> Called; // an operation, as calls has it
 
     // Also in the catalogue.
@@ -95,11 +97,19 @@ public:
     void Clear();
     void Call(std::string operation);
 
-    TeskSites& Sites() override { return *this; }
+    TeskSites& Sites() override
+    {
+        planned.Count("sites");
+        return *this;
+    }
     bool AppAlarms() const override { return appAlarms; }
     TeskSiteCatalog& GetCatalog() override { return *this; }
     void GetSites(TeskSiteList& list) override;
-    void ReloadSites() override { ++reloads; }
+    void ReloadSites() override
+    {
+        planned.Count("reload");
+        ++reloads;
+    }
 
 private:
     TeskSite& Item(const std::string& netName) override;

@@ -50,7 +50,7 @@ constexpr std::int32_t limitTypes[] = {watch::outsideLimits, watch::belowSecondL
 } // namespace
 
 frmCVBlnDataSource::frmCVBlnDataSource(PageHost& host)
-    : SourcePage("frmCVBlnDataSource", host),
+    : SourcePageOn("frmCVBlnDataSource", host),
       cboDataType(SourceList("cboDataType", "lblDataType", "Status Data:", "Unable to set status data.",
                              [this] { cboDataType_Click(); })),
       cboSite(SourceList("cboSite", "lblSite", "Site:", "Unable to set site.", [this] { cboSite_Click(); })),
@@ -62,18 +62,11 @@ frmCVBlnDataSource::frmCVBlnDataSource(PageHost& host)
       optTmpStatus(FramedOptions("fraShowStatus", "Status in Designer", "optTmpStatus", {"On", "Off"}))
 {
     UseLists(cboSite, cboUnit, cboChan, cboMacro);
-    Handle(
+    HandleBound(
         optTmpStatus.Click, "optTmpStatus", [this] { optTmpStatus_Click(); }, "Unable to set status.");
     ArrangeLines();
     ShowOnly("cboDataType");
-}
-
-clsBlnDataSource& frmCVBlnDataSource::Source() const
-{
-    if (!m_hasOwner || m_source == nullptr) {
-        throw Failure(failures::objectNotSet);
-    }
-    return *m_source;
+    Unbind();
 }
 
 void frmCVBlnDataSource::FillLists()
@@ -93,8 +86,7 @@ void frmCVBlnDataSource::FillLists()
 
 void frmCVBlnDataSource::SetOwner(Element& element, std::string_view /*array*/)
 {
-    m_source = element.StatusSource();
-    m_hasOwner = m_source != nullptr;
+    Bind(element.StatusSource());
     FillLists();
     optTmpStatus.Index(Source().blnValue() ? 0 : 1);
     ShowSource();
@@ -113,13 +105,13 @@ void frmCVBlnDataSource::ShowSource()
     const auto showUnit = [&](std::int32_t row) {
         const bool hasSite = show(row);
         if (hasSite) {
-            cboUnit.ListIndex(unit);
+            ShowSetting(cboUnit, &clsBlnDataSource::Unit, unit, unit);
         }
         return hasSite;
     };
     const auto chain = [&](std::int32_t row, ListBox& list, std::int32_t index) {
         if (showUnit(row)) {
-            list.ListIndex(index);
+            ShowSetting(list, &clsBlnDataSource::Channel, index, channel);
         }
     };
     switch (type) {
@@ -178,7 +170,7 @@ void frmCVBlnDataSource::cboDataType_Click()
     const TypeRow& row = typeRows[index < 0 ? 0 : index];
     ShowOnly("cboDataType " + std::string(row.shown));
     if (index <= rows::none) {
-        Source().Set(&clsBlnDataSource::BlnDataType, watch::nothing);
+        Write(&clsBlnDataSource::BlnDataType, watch::nothing);
     } else {
         FillSites(row.withAllSites);
     }
@@ -187,21 +179,13 @@ void frmCVBlnDataSource::cboDataType_Click()
 void frmCVBlnDataSource::cboSite_Click()
 {
     switch (cboDataType.ListIndex()) {
-    case rows::alarm: {
-        const bool isAll = cboSite.ListIndex() == 0;
-        ShowRow("cboUnit", !isAll);
-        if (isAll) {
-            Source().Set(&clsBlnDataSource::BlnDataType, watch::anyAlarms);
-        } else {
-            FillUnits(true);
-        }
-        break;
-    }
+    case rows::alarm:
+        return WriteAllSites(&clsBlnDataSource::BlnDataType, watch::anyAlarms);
     case rows::sitePrimary:
     case rows::siteBackup:
-        Source().Set(&clsBlnDataSource::Site, SiteText());
-        Source().Set(&clsBlnDataSource::BlnDataType,
-                     cboDataType.ListIndex() == rows::sitePrimary ? watch::primaryPath : watch::backupPath);
+        Write(&clsBlnDataSource::Site, SiteText());
+        Write(&clsBlnDataSource::BlnDataType,
+              cboDataType.ListIndex() == rows::sitePrimary ? watch::primaryPath : watch::backupPath);
         break;
     case rows::none:
         break;
@@ -225,40 +209,23 @@ void frmCVBlnDataSource::cboUnit_Click()
     case rows::meterMute:
         return FillMeterChannels(UnitIndex());
     case rows::alarm:
-        return WriteAlarmUnit();
+        return WriteUnitOrAll(&clsBlnDataSource::BlnDataType, watch::siteAlarms, watch::unitAlarms);
     case rows::localMode:
     case rows::captures:
-        Source().Set(&clsBlnDataSource::BlnDataType,
-                     cboDataType.ListIndex() == rows::localMode ? watch::localMode : watch::capturesPending);
+        Write(&clsBlnDataSource::BlnDataType,
+              cboDataType.ListIndex() == rows::localMode ? watch::localMode : watch::capturesPending);
         return WritePlace();
     default:
         return;
     }
 }
 
-void frmCVBlnDataSource::WriteAlarmUnit()
-{
-    const std::int32_t index = cboUnit.ListIndex();
-    const bool isAll = index == 0;
-    Source().Set(&clsBlnDataSource::BlnDataType, isAll ? watch::siteAlarms : watch::unitAlarms);
-    Source().Set(&clsBlnDataSource::Site, SiteText());
-    if (!isAll) {
-        Source().Set(&clsBlnDataSource::Unit, Narrow<std::uint8_t>(index - 1));
-    }
-}
-
-void frmCVBlnDataSource::WritePlace()
-{
-    Source().Set(&clsBlnDataSource::Site, SiteText());
-    Source().Set(&clsBlnDataSource::Unit, UnitIndex());
-}
-
 void frmCVBlnDataSource::cboChan_Click()
 {
     const std::int32_t index = cboChan.ListIndex();
     const auto write = [&](std::int32_t type, std::int32_t channel) {
-        Source().Set(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(channel));
-        Source().Set(&clsBlnDataSource::BlnDataType, type);
+        Write(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(channel));
+        Write(&clsBlnDataSource::BlnDataType, type);
     };
     if (cboDataType.ListIndex() == rows::meterLimit) {
         return; // the limit's own list writes the channel
@@ -281,18 +248,18 @@ void frmCVBlnDataSource::cboChan_Click()
 void frmCVBlnDataSource::cboLimitType_Click()
 {
     WritePlace();
-    Source().Set(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(cboChan.ListIndex() + 1));
+    Write(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(cboChan.ListIndex() + 1));
     const std::int32_t index = cboLimitType.ListIndex();
     if (index >= 0) {
-        Source().Set(&clsBlnDataSource::BlnDataType, limitTypes[index]);
+        Write(&clsBlnDataSource::BlnDataType, limitTypes[index]);
     }
 }
 
 void frmCVBlnDataSource::cboMacro_Click()
 {
-    Source().Set(&clsBlnDataSource::BlnDataType, watch::macroRunning);
+    Write(&clsBlnDataSource::BlnDataType, watch::macroRunning);
     WritePlace();
-    Source().Set(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(cboMacro.ListIndex() + 1));
+    Write(&clsBlnDataSource::Channel, Narrow<std::uint8_t>(cboMacro.ListIndex() + 1));
 }
 
 void frmCVBlnDataSource::optTmpStatus_Click()

@@ -6,17 +6,15 @@
 
 namespace quor {
 
-class frmCVBlnDataSource final : public SourcePage {
+class frmCVBlnDataSource final : public SourcePageOn<clsBlnDataSource> {
 public:
     explicit frmCVBlnDataSource(PageHost& host);
 
     void SetOwner(Element& element, std::string_view array) override;
-    void ClearOwner() override { m_hasOwner = false; }
 
 private:
     void FillLists();
     void ShowSource();
-    void ShowChannel(std::int32_t dataType, std::int32_t channelIndex);
     void cboDataType_Click();
     void cboSite_Click();
     void cboUnit_Click();
@@ -24,9 +22,6 @@ private:
     void cboLimitType_Click();
     void cboMacro_Click();
     void optTmpStatus_Click();
-    void WriteAlarmUnit();
-    void WritePlace();
-    clsBlnDataSource& Source() const;
 
     ListBox& cboDataType;
     ListBox& cboSite;
@@ -35,8 +30,6 @@ private:
     ListBox& cboLimitType;
     ListBox& cboMacro;
     OptionArray& optTmpStatus;
-    clsBlnDataSource* m_source = nullptr;
-    bool m_hasOwner = false;
 };
 
 } // namespace quor

@@ -1,7 +1,6 @@
 #include "binding/pages/frm_cv_cmd_data_source.h"
 
 #include "elements/element.h"
-#include "platform/common_dialog.h"
 
 namespace quor {
 
@@ -31,12 +30,10 @@ constexpr ActionRow actionRows[] = {
     {"txtCustView"},
 };
 
-constexpr std::int32_t browseFlags = dialog_flags::fileMustExist | dialog_flags::hideReadOnly;
-
 } // namespace
 
 frmCVCmdDataSource::frmCVCmdDataSource(PageHost& host)
-    : SourcePage("frmCVCmdDataSource", host),
+    : SourcePageOn("frmCVCmdDataSource", host),
       cboAction(SourceList("cboAction", "lblAction", "Action:", settingWords, [this] { cboAction_Click(); })),
       cboSite(SourceList("cboSite", "lblSite", "Site:", settingWords, [this] { cboSite_Click(); })),
       cboUnit(SourceList("cboUnit", "lblUnit", "Unit:", settingWords, [this] { cboUnit_Click(); })),
@@ -46,12 +43,13 @@ frmCVCmdDataSource::frmCVCmdDataSource(PageHost& host)
 {
     UseLists(cboSite, cboUnit, cboChannel, cboChannel);
     BoxLine(chkCtrlClick);
-    Handle(chkCtrlClick.Click, "chkCtrlClick",
-           [this] { Source().Set(&clsCmdDataSource::CtrlClick, chkCtrlClick.Value()); });
-    Handle(txtCustView.Change, "txtCustView", [this] { Source().Set(&clsCmdDataSource::Site, txtCustView.Text()); });
-    Handle(On<Button>("cmdBrwsViews").Click, "cmdBrwsViews", [this] { cmdBrwsViews_Click(); });
+    HandleBound(chkCtrlClick.Click, "chkCtrlClick",
+                [this] { Write(&clsCmdDataSource::CtrlClick, chkCtrlClick.Value()); });
+    HandleBound(txtCustView.Change, "txtCustView", [this] { Write(&clsCmdDataSource::Site, txtCustView.Text()); });
+    BrowseFile("txtCustView", "cmdBrwsViews", "Custom View Files (*.qvw)|*.qvw");
     ArrangeLines();
     ShowOnly("cboAction");
+    Unbind();
 }
 
 // Its caption has a name, as those of the lists have.
@@ -61,16 +59,9 @@ TextBox& frmCVCmdDataSource::MakeViewPath()
     auto& path = Make<TextBox>("txtCustView");
     auto& browse = Make<Button>("cmdBrwsViews", "...");
     CaptionedLine(caption, path, &browse);
+    WarningLine(path);
     AddRow("txtCustView", {&caption, &path, &browse});
     return path;
-}
-
-clsCmdDataSource& frmCVCmdDataSource::Source() const
-{
-    if (!m_hasOwner || m_source == nullptr) {
-        throw Failure(failures::objectNotSet);
-    }
-    return *m_source;
 }
 
 void frmCVCmdDataSource::FillLists()
@@ -86,8 +77,7 @@ void frmCVCmdDataSource::FillLists()
 
 void frmCVCmdDataSource::SetOwner(Element& element, std::string_view /*array*/)
 {
-    m_source = &element.ClickAction;
-    m_hasOwner = true;
+    Bind(&element.ClickAction);
     FillLists();
     chkCtrlClick.Value(Source().CtrlClick());
     ShowSource();
@@ -101,8 +91,8 @@ void frmCVCmdDataSource::ShowSource()
     const auto chain = [&](std::int32_t row, std::int32_t index) {
         cboAction.ListIndex(row);
         if (SelectSite(site)) {
-            cboUnit.ListIndex(unit);
-            cboChannel.ListIndex(index);
+            ShowSetting(cboUnit, &clsCmdDataSource::Unit, unit, unit);
+            ShowSetting(cboChannel, &clsCmdDataSource::Channel, index, channel);
         }
     };
     switch (Source().CmdDataType()) {
@@ -125,7 +115,7 @@ void frmCVCmdDataSource::ShowSource()
     case actions::clearUnitAlarms: // "All Units" stands first, so this is the row of the unit before
         cboAction.ListIndex(rows::clearAlarms);
         if (SelectSite(site)) {
-            cboUnit.ListIndex(unit);
+            ShowSetting(cboUnit, &clsCmdDataSource::Unit, unit, unit);
         }
         return;
     case actions::clearAllAlarms:
@@ -146,9 +136,9 @@ void frmCVCmdDataSource::cboAction_Click()
     lblChannel.Set(&Label::Caption, std::string(row.channelCaption));
     ShowOnly("cboAction " + std::string(row.shown));
     if (index <= rows::none) {
-        Source().Set(&clsCmdDataSource::CmdDataType, actions::none);
+        Write(&clsCmdDataSource::CmdDataType, actions::none);
     } else if (index == rows::openView) {
-        Source().Set(&clsCmdDataSource::CmdDataType, actions::openView);
+        Write(&clsCmdDataSource::CmdDataType, actions::openView);
     } else {
         FillSites(index == rows::clearAlarms);
     }
@@ -161,16 +151,8 @@ void frmCVCmdDataSource::cboSite_Click()
     case rows::runMacro:
     case rows::stopMacro:
         return FillUnits(false);
-    case rows::clearAlarms: {
-        const bool isAll = cboSite.ListIndex() == 0;
-        ShowRow("cboUnit", !isAll);
-        if (isAll) {
-            Source().Set(&clsCmdDataSource::CmdDataType, actions::clearAllAlarms);
-        } else {
-            FillUnits(true);
-        }
-        return;
-    }
+    case rows::clearAlarms:
+        return WriteAllSites(&clsCmdDataSource::CmdDataType, actions::clearAllAlarms);
     default:
         return;
     }
@@ -184,16 +166,8 @@ void frmCVCmdDataSource::cboUnit_Click()
     case rows::runMacro:
     case rows::stopMacro:
         return FillMacros();
-    case rows::clearAlarms: {
-        const std::int32_t index = cboUnit.ListIndex();
-        const bool isAll = index == 0;
-        Source().Set(&clsCmdDataSource::CmdDataType, isAll ? actions::clearSiteAlarms : actions::clearUnitAlarms);
-        Source().Set(&clsCmdDataSource::Site, SiteText());
-        if (!isAll) {
-            Source().Set(&clsCmdDataSource::Unit, Narrow<std::uint8_t>(index - 1));
-        }
-        return;
-    }
+    case rows::clearAlarms:
+        return WriteUnitOrAll(&clsCmdDataSource::CmdDataType, actions::clearSiteAlarms, actions::clearUnitAlarms);
     default:
         return;
     }
@@ -202,11 +176,10 @@ void frmCVCmdDataSource::cboUnit_Click()
 void frmCVCmdDataSource::cboChannel_Click()
 {
     const std::int32_t index = cboChannel.ListIndex();
-    Source().Set(&clsCmdDataSource::Site, SiteText());
-    Source().Set(&clsCmdDataSource::Unit, UnitIndex());
+    WritePlace();
     const auto write = [&](std::int32_t action, std::int32_t channel) {
-        Source().Set(&clsCmdDataSource::CmdDataType, action);
-        Source().Set(&clsCmdDataSource::Channel, Narrow<std::uint8_t>(channel));
+        Write(&clsCmdDataSource::CmdDataType, action);
+        Write(&clsCmdDataSource::Channel, Narrow<std::uint8_t>(channel));
     };
     switch (cboAction.ListIndex()) {
     case rows::issueCommand:
@@ -215,22 +188,10 @@ void frmCVCmdDataSource::cboChannel_Click()
         return write(actions::runMacro, index + 1);
     case rows::stopMacro:
         // The first row means all macros of the unit, although it reads as macro 1.
-        return index == 0 ? Source().Set(&clsCmdDataSource::CmdDataType, actions::stopAllMacros)
+        return index == 0 ? Write(&clsCmdDataSource::CmdDataType, actions::stopAllMacros)
                           : write(actions::stopMacro, index + 1);
     default:
         return;
-    }
-}
-
-void frmCVCmdDataSource::cmdBrwsViews_Click()
-{
-    CommonDialog& dialog = m_host.dlgProp();
-    dialog.Flags = browseFlags;
-    dialog.Filter = "Custom View Files (*.qvw)|*.qvw";
-    dialog.FileName = txtCustView.Text();
-    dialog.ShowOpen();
-    if (!dialog.FileName.empty()) {
-        txtCustView.Text(dialog.FileName);
     }
 }
 

@@ -6,12 +6,11 @@
 
 namespace quor {
 
-class frmCVCmdDataSource final : public SourcePage {
+class frmCVCmdDataSource final : public SourcePageOn<clsCmdDataSource> {
 public:
     explicit frmCVCmdDataSource(PageHost& host);
 
     void SetOwner(Element& element, std::string_view array) override;
-    void ClearOwner() override { m_hasOwner = false; }
 
 private:
     TextBox& MakeViewPath();
@@ -21,8 +20,6 @@ private:
     void cboSite_Click();
     void cboUnit_Click();
     void cboChannel_Click();
-    void cmdBrwsViews_Click();
-    clsCmdDataSource& Source() const;
 
     ListBox& cboAction;
     ListBox& cboSite;
@@ -31,8 +28,6 @@ private:
     Label& lblChannel;
     TextBox& txtCustView;
     CheckBox& chkCtrlClick;
-    clsCmdDataSource* m_source = nullptr;
-    bool m_hasOwner = false;
 };
 
 } // namespace quor

@@ -9,39 +9,25 @@ constexpr std::uint8_t noUnit = 255;
 }
 
 frmCVMtrDataSource::frmCVMtrDataSource(PageHost& host)
-    : SourcePage("frmCVMtrDataSource", host),
+    : SourcePageOn("frmCVMtrDataSource", host),
       cboSite(SourceList("cboSite", "lblSite", "Site:", settingWords, [this] { cboSite_Click(); })),
       cboUnit(SourceList("cboUnit", "lblUnit", "Unit:", settingWords, [this] { cboUnit_Click(); })),
-      cboChan(SourceList(
-          "cboChan", "lblChan", "Channel:", settingWords,
-          [this] { Source().Set(&clsMtrDataSource::Channel, Narrow<std::uint8_t>(cboChan.ListIndex() + 1)); })),
-      cboDec(SourceList("cboDec", "lblDec", "Dec. Places:", settingWords, [this] {
-          Source().Set(&clsMtrDataSource::DecimalPlaces, Narrow<std::int16_t>(cboDec.ListIndex()));
-      }))
+      cboChan(SourceList("cboChan", "lblChan", "Channel:", settingWords,
+                         [this] { Write(&clsMtrDataSource::Channel, Narrow<std::uint8_t>(cboChan.ListIndex() + 1)); })),
+      cboDec(SourceList("cboDec", "lblDec", "Dec. Places:", settingWords,
+                        [this] { Write(&clsMtrDataSource::DecimalPlaces, Narrow<std::int16_t>(cboDec.ListIndex())); }))
 {
     UseLists(cboSite, cboUnit, cboChan, cboChan);
     ArrangeLines();
-}
-
-clsMtrDataSource& frmCVMtrDataSource::Source() const
-{
-    if (!m_hasOwner || m_source == nullptr) {
-        throw Failure(failures::objectNotSet);
-    }
-    return *m_source;
+    Unbind();
 }
 
 void frmCVMtrDataSource::SetOwner(Element& element, std::string_view /*array*/)
 {
-    clsMtrDataSource* source = element.MeterSource();
-    if (source == nullptr) {
-        throw Failure(failures::typeMismatch);
-    }
-    m_source = source;
-    m_hasOwner = true;
-    const std::string site = source->Site();
-    const std::int32_t unit = source->Unit();
-    const std::int32_t channel = source->Channel();
+    Bind(element.MeterSource());
+    const std::string site = Source().Site();
+    const std::int32_t unit = Source().Unit();
+    const std::int32_t channel = Source().Channel();
     for (ListBox* list : {&cboSite, &cboUnit, &cboChan, &cboDec}) {
         list->Clear();
     }
@@ -50,10 +36,10 @@ void frmCVMtrDataSource::SetOwner(Element& element, std::string_view /*array*/)
     }
     AddSites();
     if (SelectSite(site)) {
-        cboUnit.ListIndex(unit);
-        cboChan.ListIndex(channel - 1);
+        ShowSetting(cboUnit, &clsMtrDataSource::Unit, unit, unit);
+        ShowSetting(cboChan, &clsMtrDataSource::Channel, channel - 1, channel);
     }
-    cboDec.ListIndex(source->DecimalPlaces());
+    ShowSetting(cboDec, &clsMtrDataSource::DecimalPlaces, Source().DecimalPlaces(), Source().DecimalPlaces());
 }
 
 void frmCVMtrDataSource::cboSite_Click()
@@ -63,7 +49,7 @@ void frmCVMtrDataSource::cboSite_Click()
     cboChan.ListIndex(-1);
     cboChan.Clear();
     FillUnits(false);
-    Source().Set(&clsMtrDataSource::Site, SiteText());
+    Write(&clsMtrDataSource::Site, SiteText());
 }
 
 void frmCVMtrDataSource::cboUnit_Click()
@@ -72,7 +58,7 @@ void frmCVMtrDataSource::cboUnit_Click()
     const std::int32_t index = cboUnit.ListIndex();
     const std::uint8_t unit = index < 0 ? noUnit : Narrow<std::uint8_t>(index);
     FillMeterChannels(unit);
-    Source().Set(&clsMtrDataSource::Unit, unit);
+    Write(&clsMtrDataSource::Unit, unit);
 }
 
 } // namespace quor

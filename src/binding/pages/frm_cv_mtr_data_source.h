@@ -6,24 +6,20 @@
 
 namespace quor {
 
-class frmCVMtrDataSource final : public SourcePage {
+class frmCVMtrDataSource final : public SourcePageOn<clsMtrDataSource> {
 public:
     explicit frmCVMtrDataSource(PageHost& host);
 
     void SetOwner(Element& element, std::string_view array) override;
-    void ClearOwner() override { m_hasOwner = false; }
 
 private:
     void cboSite_Click();
     void cboUnit_Click();
-    clsMtrDataSource& Source() const;
 
     ListBox& cboSite;
     ListBox& cboUnit;
     ListBox& cboChan;
     ListBox& cboDec;
-    clsMtrDataSource* m_source = nullptr;
-    bool m_hasOwner = false;
 };
 
 } // namespace quor

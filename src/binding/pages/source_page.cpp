@@ -66,8 +66,27 @@ ListBox& SourcePage::SourceList(std::string_view name, std::string_view label, s
     auto& list = Make<ListBox>(std::string(name));
     CaptionedLine(shown, list);
     AddRow(name, {&shown, &list});
-    Handle(list.Click, name, std::move(click), words);
+    HandleBound(list.Click, name, std::move(click), words);
     return list;
+}
+
+void SourcePage::HandleBound(Event<>& event, std::string_view control, Work work, std::string_view words)
+{
+    Handle(
+        event, control,
+        [this, work = std::move(work)] {
+            if (IsBound()) {
+                work();
+            }
+        },
+        words);
+}
+
+void SourcePage::EnableControls(bool enabled) const
+{
+    for (const std::unique_ptr<Control>& control : Controls()) {
+        control->Set(&Control::Enabled, enabled);
+    }
 }
 
 void SourcePage::AddRow(std::string_view name, std::vector<Control*> controls)
