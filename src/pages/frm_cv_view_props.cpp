@@ -16,7 +16,7 @@ frmCVViewProps::frmCVViewProps(PageHost& host) : PageOf("frmCVViewProps", host)
     TextBox& file = MakeBrowsed("txtBGImage", "cmdBrwsBGFile", "File:", false);
     BrowsePicture("txtBGImage", "cmdBrwsBGFile");
     // Each keystroke tries the text as a file, without a word; what is none leaves the view without a picture.
-    Handle(file.Change, "txtBGImage", [this, &file] {
+    HandleQuietly(file.Change, [this, &file] {
         if (!IgnoreFailure([&] { Write(&V::BGPicture, file.Text()); })) {
             Write(&V::BGPicture, std::string());
         }

@@ -56,13 +56,16 @@ Page::Page(std::string name, PageHost& host) : Form(std::move(name)), m_host(hos
 void Page::Handle(Event<>& event, std::string_view control, Work work, std::string_view words)
 {
     const RefNumber ref = FindRef(Name(), control.substr(0, control.find('(')));
-    m_subscriptions.push_back(event.Subscribe([this, ref, words, work = std::move(work)] {
-        if (ref.number == 0) {
-            IgnoreFailure(work);
-        } else {
-            Guard(m_host.PageReporter(), ref, words, work);
-        }
-    }));
+    if (ref.number == 0) {
+        throw Failure(failures::invalidCall, std::string(control) + " has no reference number.");
+    }
+    m_subscriptions.push_back(event.Subscribe(
+        [this, ref, words, work = std::move(work)] { Guard(m_host.PageReporter(), ref, words, work); }));
+}
+
+void Page::HandleQuietly(Event<>& event, Work work)
+{
+    m_subscriptions.push_back(event.Subscribe(Quietly(std::move(work))));
 }
 
 void Page::Read(std::string_view control, Work work)
@@ -225,7 +228,7 @@ void Page::BrowseColor(std::string_view swatch, std::string_view button, std::fu
         shown.Set(&Swatch::BackColor, dialog.Color);
         write(dialog.Color);
     });
-    Handle(shown.Click, swatch, [&browse] { browse.Push(); });
+    HandleQuietly(shown.Click, [&browse] { browse.Push(); });
 }
 
 void Page::AskForFont(Font& font, const Swatch* color)

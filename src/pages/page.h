@@ -36,8 +36,10 @@ protected:
     static constexpr std::string_view settingWords =
         "An error occurred while setting the property value. Please try again.";
 
-    // What runs at a control's event: a failure is reported under the control's number, or forgotten if it has none.
+    // What runs at a control's event: a failure is reported under the control's number, which it must have.
     void Handle(Event<>& event, std::string_view control, Work work, std::string_view words = settingWords);
+    // The same for the few controls without a number: a failure is forgotten.
+    void HandleQuietly(Event<>& event, Work work);
 
     // What SetOwner does for a control, in the order of the rows or in that of ReadOrder, which leaves out what it
     // doesn't name.
