@@ -110,8 +110,10 @@ void FormView::NameFields()
         for (const LayoutItem& item : line.items) {
             QWidget& widget = ViewOfItem(item).Widget();
             if (const auto* label = dynamic_cast<const Label*>(item.control)) {
-                caption = ToQt(label->Caption());
-                above[item.x] = caption;
+                if (label->Role() == LabelRole::Caption) {
+                    caption = ToQt(label->Caption());
+                    above[item.x] = caption;
+                }
             } else if (const auto* frame = dynamic_cast<const Frame*>(item.control)) {
                 title = ToQt(frame->Caption());
             } else if (const auto* box = dynamic_cast<const CheckBox*>(item.control)) {
