@@ -3,6 +3,9 @@
 #include "tests/editor/editor_fixture.h"
 #include "tests/support/fake_server.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace quor {
 namespace {
 
@@ -40,6 +43,23 @@ struct ADataPage : EditorFixture {
     Element& Insert(std::string_view page)
     {
         return page == meterPage ? static_cast<Element&>(Insert<clsMeterText>()) : Insert<clsLEDRound>();
+    }
+
+    // "Site Ridge; Unit Antenna": these rows of cboSite and cboUnit, one after the other.
+    void Pick(std::string_view page, std::string picks, const std::function<void()>& beforeTheLast = {})
+    {
+        while (!picks.empty()) {
+            const std::string pick = picks.substr(0, picks.find("; "));
+            picks.erase(0, pick.size() + 2);
+            if (picks.empty() && beforeTheLast) {
+                beforeTheLast();
+            }
+            const std::size_t blank = pick.find(' ');
+            auto& list = On<ListBox>(page, "cbo" + pick.substr(0, blank));
+            const auto found = std::ranges::find(list.Items(), pick.substr(blank + 1));
+            ASSERT_NE(found, list.Items().end()) << pick;
+            list.Choose(static_cast<std::int32_t>(found - list.Items().begin()));
+        }
     }
 
     static std::string SourceOf(const Element& element, std::string_view page)
@@ -195,153 +215,73 @@ TEST_F(ADataPage, OfAMeterHasNoRowForTheUnitThatItsSiteHasLost)
     EXPECT_THROW(page.SetOwner(meter, "ctlMeterText"), Failure) << "no row is unit 255";
 }
 
-// What the user picks, by the texts of the rows, and what the source holds then: type, site, unit and channel, of a
-// meter site, unit, channel and decimal places. Each row begins with a new element.
+// What the user picks, list by list, and what the source holds then: type, site, unit and channel, of a meter site,
+// unit, channel and decimal places. Each row begins with a new element.
 struct PickedRow {
     const char* page;
-    std::vector<std::pair<const char*, const char*>> picks;
+    const char* picks;
     const char* source;
 };
 
 const PickedRow pickedRows[] = {
-    {statusPage,
-     {{"cboDataType", "Status Channel"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Closed / Open"}},
-     "18 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Status Channel"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "3 - Hot"}},
-     "18 Ridge 3 3"},
-    {statusPage,
-     {{"cboDataType", "Status Channel"}, {"cboSite", "Ridge"}, {"cboUnit", "Unit 1"}, {"cboChan", "16"}},
-     "18 Ridge 1 16"},
-    {statusPage,
-     {{"cboDataType", "Command State"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Raise"}},
-     "11 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Command State"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "3 - B"}},
-     "12 Ridge 3 3"},
-    {statusPage,
-     {{"cboDataType", "Command State"}, {"cboSite", "Listed"}, {"cboUnit", "Unit 15"}, {"cboChan", "16 - A"}},
-     "11 Listed 15 16"},
-    {statusPage,
-     {{"cboDataType", "Macro Status"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboMacro", "5 - Warm up"}},
-     "17 Ridge 3 5"},
-    {statusPage,
-     {{"cboDataType", "Macro Status"}, {"cboSite", "Listed"}, {"cboUnit", "Unit 0"}, {"cboMacro", "32 - Macro 32"}},
-     "17 Listed 0 32"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Power"}},
-     "0  0 0"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Power"},
-      {"cboLimitType", "Any"}},
-     "5 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Power"},
-      {"cboLimitType", "Second Lower"}},
+    {statusPage, "DataType Status Channel; Site Ridge; Unit Antenna; Chan 2 - Closed / Open", "18 Ridge 3 2"},
+    {statusPage, "DataType Status Channel; Site Ridge; Unit Antenna; Chan 3 - Hot", "18 Ridge 3 3"},
+    {statusPage, "DataType Status Channel; Site Ridge; Unit Unit 1; Chan 16", "18 Ridge 1 16"},
+    {statusPage, "DataType Command State; Site Ridge; Unit Antenna; Chan 2 - Raise", "11 Ridge 3 2"},
+    {statusPage, "DataType Command State; Site Ridge; Unit Antenna; Chan 3 - B", "12 Ridge 3 3"},
+    {statusPage, "DataType Command State; Site Listed; Unit Unit 15; Chan 16 - A", "11 Listed 15 16"},
+    {statusPage, "DataType Macro Status; Site Ridge; Unit Antenna; Macro 5 - Warm up", "17 Ridge 3 5"},
+    {statusPage, "DataType Macro Status; Site Listed; Unit Unit 0; Macro 32 - Macro 32", "17 Listed 0 32"},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power", "0  0 0"},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power; LimitType Any", "5 Ridge 3 2"},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power; LimitType Second Lower",
      "1 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Power"},
-      {"cboLimitType", "First Lower"}},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power; LimitType First Lower",
      "2 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Power"},
-      {"cboLimitType", "First Upper"}},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power; LimitType First Upper",
      "3 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Meter Limit"},
-      {"cboSite", "Ridge"},
-      {"cboUnit", "Antenna"},
-      {"cboChan", "2 - Power"},
-      {"cboLimitType", "Second Upper"}},
+    {statusPage, "DataType Meter Limit; Site Ridge; Unit Antenna; Chan 2 - Power; LimitType Second Upper",
      "4 Ridge 3 2"},
-    {statusPage, {{"cboDataType", "Alarm"}, {"cboSite", "All Sites"}}, "10  0 0"},
-    {statusPage, {{"cboDataType", "Alarm"}, {"cboSite", "Ridge"}}, "0  0 0"},
-    {statusPage, {{"cboDataType", "Alarm"}, {"cboSite", "Ridge"}, {"cboUnit", "All Units"}}, "8 Ridge 0 0"},
-    {statusPage, {{"cboDataType", "Alarm"}, {"cboSite", "Ridge"}, {"cboUnit", "Unit 0"}}, "9 Ridge 0 0"},
-    {statusPage, {{"cboDataType", "Alarm"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "9 Ridge 3 0"},
-    {statusPage,
-     {{"cboDataType", "Status Mute"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Closed / Open"}},
-     "14 Ridge 3 2"},
-    {statusPage,
-     {{"cboDataType", "Meter Mute"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Power"}},
-     "13 Ridge 3 2"},
-    {statusPage, {{"cboDataType", "Site Connected (Primary)"}, {"cboSite", "Listed"}}, "6 Listed 0 0"},
-    {statusPage, {{"cboDataType", "Site Connected (Backup)"}, {"cboSite", "Listed"}}, "7 Listed 0 0"},
-    {statusPage, {{"cboDataType", "Local Mode"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "15 Ridge 3 0"},
-    {statusPage, {{"cboDataType", "Captures Pending"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "16 Ridge 3 0"},
-    {statusPage,
-     {{"cboDataType", "Local Mode"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboDataType", "None"}},
-     "0 Ridge 3 0"},
-    {actionPage, {{"cboAction", "Issue Command"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "0  0 0"},
-    {actionPage,
-     {{"cboAction", "Issue Command"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "2 - Raise"}},
-     "1 Ridge 3 2"},
-    {actionPage,
-     {{"cboAction", "Issue Command"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "3 - B"}},
-     "2 Ridge 3 3"},
-    {actionPage,
-     {{"cboAction", "Issue Command"}, {"cboSite", "Listed"}, {"cboUnit", "Unit 4"}, {"cboChannel", "1 - A"}},
-     "1 Listed 4 1"},
-    {actionPage,
-     {{"cboAction", "Run Macro"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "1 - Macro 1"}},
-     "3 Ridge 3 1"},
-    {actionPage,
-     {{"cboAction", "Run Macro"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "5 - Warm up"}},
-     "3 Ridge 3 5"},
-    {actionPage,
-     {{"cboAction", "Stop Macro"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "1 - Macro 1"}},
-     "5 Ridge 3 0"},
-    {actionPage,
-     {{"cboAction", "Stop Macro"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChannel", "5 - Warm up"}},
-     "4 Ridge 3 5"},
-    {actionPage, {{"cboAction", "Clear Alarms"}, {"cboSite", "All Sites"}}, "8  0 0"},
-    {actionPage, {{"cboAction", "Clear Alarms"}, {"cboSite", "Ridge"}, {"cboUnit", "All Units"}}, "6 Ridge 0 0"},
-    {actionPage, {{"cboAction", "Clear Alarms"}, {"cboSite", "Ridge"}, {"cboUnit", "Unit 0"}}, "7 Ridge 0 0"},
-    {actionPage, {{"cboAction", "Clear Alarms"}, {"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "7 Ridge 3 0"},
-    {actionPage, {{"cboAction", "Open Custom View"}}, "9  0 0"},
-    {actionPage, {{"cboAction", "Open Custom View"}, {"cboAction", "No Click-Action"}}, "0  0 0"},
-    {meterPage, {{"cboSite", "Ridge"}}, "Ridge 255 0 2"},
-    {meterPage, {{"cboSite", "Ridge"}, {"cboUnit", "Antenna"}}, "Ridge 3 0 2"},
-    {meterPage,
-     {{"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Power"}, {"cboDec", "4"}},
-     "Ridge 3 2 4"},
-    {meterPage, {{"cboSite", "Listed"}, {"cboUnit", "Unit 15"}, {"cboChan", "16"}}, "Listed 15 16 2"},
-    {meterPage,
-     {{"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Power"}, {"cboUnit", "Unit 1"}},
-     "Ridge 1 0 2"},
-    {meterPage,
-     {{"cboSite", "Ridge"}, {"cboUnit", "Antenna"}, {"cboChan", "2 - Power"}, {"cboSite", "Listed"}},
-     "Listed 255 0 2"},
+    {statusPage, "DataType Alarm; Site All Sites", "10  0 0"},
+    {statusPage, "DataType Alarm; Site Ridge", "0  0 0"},
+    {statusPage, "DataType Alarm; Site Ridge; Unit All Units", "8 Ridge 0 0"},
+    {statusPage, "DataType Alarm; Site Ridge; Unit Unit 0", "9 Ridge 0 0"},
+    {statusPage, "DataType Alarm; Site Ridge; Unit Antenna", "9 Ridge 3 0"},
+    {statusPage, "DataType Status Mute; Site Ridge; Unit Antenna; Chan 2 - Closed / Open", "14 Ridge 3 2"},
+    {statusPage, "DataType Meter Mute; Site Ridge; Unit Antenna; Chan 2 - Power", "13 Ridge 3 2"},
+    {statusPage, "DataType Site Connected (Primary); Site Listed", "6 Listed 0 0"},
+    {statusPage, "DataType Site Connected (Backup); Site Listed", "7 Listed 0 0"},
+    {statusPage, "DataType Local Mode; Site Ridge; Unit Antenna", "15 Ridge 3 0"},
+    {statusPage, "DataType Captures Pending; Site Ridge; Unit Antenna", "16 Ridge 3 0"},
+    {statusPage, "DataType Local Mode; Site Ridge; Unit Antenna; DataType None", "0 Ridge 3 0"},
+    {actionPage, "Action Issue Command; Site Ridge; Unit Antenna", "0  0 0"},
+    {actionPage, "Action Issue Command; Site Ridge; Unit Antenna; Channel 2 - Raise", "1 Ridge 3 2"},
+    {actionPage, "Action Issue Command; Site Ridge; Unit Antenna; Channel 3 - B", "2 Ridge 3 3"},
+    {actionPage, "Action Issue Command; Site Listed; Unit Unit 4; Channel 1 - A", "1 Listed 4 1"},
+    {actionPage, "Action Run Macro; Site Ridge; Unit Antenna; Channel 1 - Macro 1", "3 Ridge 3 1"},
+    {actionPage, "Action Run Macro; Site Ridge; Unit Antenna; Channel 5 - Warm up", "3 Ridge 3 5"},
+    {actionPage, "Action Stop Macro; Site Ridge; Unit Antenna; Channel 1 - Macro 1", "5 Ridge 3 0"},
+    {actionPage, "Action Stop Macro; Site Ridge; Unit Antenna; Channel 5 - Warm up", "4 Ridge 3 5"},
+    {actionPage, "Action Clear Alarms; Site All Sites", "8  0 0"},
+    {actionPage, "Action Clear Alarms; Site Ridge; Unit All Units", "6 Ridge 0 0"},
+    {actionPage, "Action Clear Alarms; Site Ridge; Unit Unit 0", "7 Ridge 0 0"},
+    {actionPage, "Action Clear Alarms; Site Ridge; Unit Antenna", "7 Ridge 3 0"},
+    {actionPage, "Action Open Custom View", "9  0 0"},
+    {actionPage, "Action Open Custom View; Action No Click-Action", "0  0 0"},
+    {meterPage, "Site Ridge", "Ridge 255 0 2"},
+    {meterPage, "Site Ridge; Unit Antenna", "Ridge 3 0 2"},
+    {meterPage, "Site Ridge; Unit Antenna; Chan 2 - Power; Dec 4", "Ridge 3 2 4"},
+    {meterPage, "Site Listed; Unit Unit 15; Chan 16", "Listed 15 16 2"},
+    {meterPage, "Site Ridge; Unit Antenna; Chan 2 - Power; Unit Unit 1", "Ridge 1 0 2"},
+    {meterPage, "Site Ridge; Unit Antenna; Chan 2 - Power; Site Listed", "Listed 255 0 2"},
 };
 
 TEST_F(ADataPage, WritesWhatIsPicked)
 {
     for (const PickedRow& row : pickedRows) {
         Element& element = Insert(row.page);
-        std::string picked = row.page;
-        for (const auto& [name, text] : row.picks) {
-            auto& list = On<ListBox>(row.page, name);
-            const auto found = std::ranges::find(list.Items(), text);
-            picked += std::string(", ") + text;
-            ASSERT_NE(found, list.Items().end()) << picked;
-            list.Choose(static_cast<std::int32_t>(found - list.Items().begin()));
-        }
-        EXPECT_EQ(SourceOf(element, row.page), row.source) << picked;
+        Pick(row.page, row.picks);
+        EXPECT_EQ(SourceOf(element, row.page), row.source) << row.page << ": " << row.picks;
     }
 }
 
@@ -352,46 +292,33 @@ TEST_F(ADataPage, ReportsEachFailureUnderItsNumberAndInItsWords)
         std::int32_t ref;
         const char* words;
         const char* page;
-        std::vector<std::pair<const char*, int>> picks; // the last one fails
-        std::string_view fault = "";                    // of the server; without one, no unit is chosen any more
-        int failsAt = 1;                                // behind the looks whether site and unit are there
+        const char* picks;           // the last one fails
+        std::string_view fault = ""; // of the server; without one, no unit is chosen any more
+        int failsAt = 1;             // behind the looks whether site and unit are there
     } rows[] = {
-        {14069, "Unable to set status data.", statusPage, {{"cboDataType", 1}}, "reload"},
-        {14070,
-         "Unable to set channel.",
-         statusPage,
-         {{"cboDataType", 1}, {"cboSite", 0}, {"cboUnit", 3}, {"cboSite", 0}, {"cboChan", 1}},
-         ""},
-        {14071, "Unable to set limit type.", statusPage, {{"cboDataType", 4}, {"cboSite", 0}, {"cboLimitType", 1}}, ""},
-        {14072,
-         "Unable to set macro.",
-         statusPage,
-         {{"cboDataType", 3}, {"cboSite", 0}, {"cboUnit", 3}, {"cboSite", 0}, {"cboMacro", 1}},
-         ""},
-        {14073, "Unable to set site.", statusPage, {{"cboDataType", 1}, {"cboSite", 0}}, "sites", 2},
-        {14074, "Unable to set unit.", statusPage, {{"cboDataType", 1}, {"cboSite", 0}, {"cboUnit", 3}}, "tables"},
-        {14094, general, actionPage, {{"cboAction", 1}}, "reload"},
-        {14095,
-         general,
-         actionPage,
-         {{"cboAction", 1}, {"cboSite", 0}, {"cboUnit", 3}, {"cboSite", 0}, {"cboChannel", 1}},
-         ""},
-        {14096, general, actionPage, {{"cboAction", 1}, {"cboSite", 0}}, "sites", 2},
-        {14097, general, actionPage, {{"cboAction", 1}, {"cboSite", 0}, {"cboUnit", 3}}, "tables"},
-        {14208, general, meterPage, {{"cboSite", 0}}, "sites", 4},
-        {14209, general, meterPage, {{"cboSite", 0}, {"cboUnit", 3}}, "tables"},
+        {14069, "Unable to set status data.", statusPage, "DataType Alarm", "reload"},
+        {14070, "Unable to set channel.", statusPage,
+         "DataType Meter Mute; Site Ridge; Unit Unit 0; Site Ridge; Chan 1"},
+        {14071, "Unable to set limit type.", statusPage, "DataType Meter Limit; Site Ridge; LimitType Any"},
+        {14072, "Unable to set macro.", statusPage,
+         "DataType Macro Status; Site Ridge; Unit Unit 0; Site Ridge; Macro 1 - Macro 1"},
+        {14073, "Unable to set site.", statusPage, "DataType Meter Mute; Site Ridge", "sites", 2},
+        {14074, "Unable to set unit.", statusPage, "DataType Meter Mute; Site Ridge; Unit Antenna", "tables"},
+        {14094, general, actionPage, "Action Run Macro", "reload"},
+        {14095, general, actionPage, "Action Issue Command; Site Ridge; Unit Unit 0; Site Ridge; Channel 1 - A"},
+        {14096, general, actionPage, "Action Run Macro; Site Ridge", "sites", 2},
+        {14097, general, actionPage, "Action Issue Command; Site Ridge; Unit Antenna", "tables"},
+        {14208, general, meterPage, "Site Ridge", "sites", 4},
+        {14209, general, meterPage, "Site Ridge; Unit Antenna", "tables"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.ref);
         Insert(row.page);
-        for (const auto& [list, index] : row.picks) {
-            if (&list == &row.picks.back().first) {
-                reporter.Announce(RefNumber{row.ref, {}});
-                server.planned.Plan(row.fault, row.failsAt);
-                antenna->channelTable.resize(row.fault == "tables" ? 0 : 16 * 13);
-            }
-            On<ListBox>(row.page, list).Choose(index);
-        }
+        Pick(row.page, row.picks, [&] {
+            reporter.Announce(RefNumber{row.ref, {}});
+            server.planned.Plan(row.fault, row.failsAt);
+            antenna->channelTable.resize(row.fault == "tables" ? 0 : 16 * 13);
+        });
         EXPECT_EQ(reporter.reports.back().message, row.words);
         antenna->channelTable.resize(16 * 13);
     }
