@@ -17,6 +17,7 @@
 #include "tests/support/widget_journal.h"
 
 #include <bit>
+#include <ranges>
 #include <sstream>
 
 namespace quor {
@@ -25,6 +26,7 @@ namespace {
 // What the user gives a control (of a list or an option its index, of a box what it is then), the setting, or the
 // widget's property where no record has the setting, and what that holds then if it reads otherwise.
 struct PageRow {
+    const char* page;
     const char* control;
     std::int32_t ref;
     const char* input;
@@ -34,206 +36,161 @@ struct PageRow {
     std::string Stored() const { return stored == nullptr ? input : stored; }
 };
 
-struct PageTable {
-    const char* page;
-    std::uint8_t type;
-    std::vector<PageRow> rows;
+const PageRow rows[] = {
+    {"frmCVGeneral", "txtHeight", 14119, "20", "ObjHeight", "300.000000"},
+    {"frmCVGeneral", "txtWidth", 14120, "30", "ObjWidth", "450.000000"},
+    {"frmCVGeneral", "txtX", 14121, "100", "ObjLeft", "1500.000000"},
+    {"frmCVGeneral", "txtY", 14122, "50", "ObjTop", "750.000000"},
+    {"frmCVLEDRound", "cboBevelStyle", 14147, "1", "BevelStyle"},
+    {"frmCVLEDRound", "cmdBrwsOnColor", 14151, "11", "ColorActive"},
+    {"frmCVLEDRound", "chkAutoOffColor", 14148, "0", "AutoInactive"},
+    {"frmCVLEDRound", "cmdBrwsOffColor", 14150, "12", "ColorInactive"},
+    {"frmCVLEDRound", "chkReflection", 14149, "0", "Reflection"},
+    {"frmCVLEDRect", "cboBevelStyle", 14134, "1", "BevelStyle"},
+    {"frmCVLEDRect", "cmdBrwsOnColor", 14143, "11", "ColorActive"},
+    {"frmCVLEDRect", "chkAutoOffColor", 14136, "0", "AutoInactive"},
+    {"frmCVLEDRect", "cmdBrwsOffColor", 14142, "12", "ColorInactive"},
+    {"frmCVLEDRect", "chkReflection", 14137, "0", "Reflection"},
+    {"frmCVLEDRect", "txtCaptionOn", 14146, "lit", "CaptionOn"},
+    {"frmCVLEDRect", "txtCaptionOff", 14145, "dark", "CaptionOff"},
+    {"frmCVLEDRect", "cmdBrwsFontOn", 14141, "13", "CaptionOnColor"},
+    {"frmCVLEDRect", "cmdBrwsFontOff", 14140, "14", "CaptionOffColor"},
+    {"frmCVLEDRect", "cmdBrwsFont", 14139, "Arial", "CaptionFont"},
+    {"frmCVLEDRect", "cboAlignment", 14133, "2", "CaptionAlignment"},
+    {"frmCVLEDRect", "chkAutoCaption", 14135, "1", "AutoCaption"},
+    {"frmCVLEDRect", "chkWordWrap", 14138, "1", "CaptionWordWrap"},
+    {"frmCVStatusLabel", "chkTransparent", 14223, "0", "BGTransparent"},
+    {"frmCVStatusLabel", "cmdBrwsBGColor", 14225, "11", "BGColor"},
+    {"frmCVStatusLabel", "chkBakColorDef", 14222, "-2147483633", "BGColor"},
+    {"frmCVStatusLabel", "cboBorder", 14220, "2", "Border3D", "1"},
+    {"frmCVStatusLabel", "txtCaptionOn", 14230, "lit", "CaptionOn"},
+    {"frmCVStatusLabel", "txtCaptionOff", 14229, "dark", "CaptionOff"},
+    {"frmCVStatusLabel", "chkAutoCaption", 14221, "1", "AutoCaption"},
+    {"frmCVStatusLabel", "cmdBrwsFontColor", 14227, "12", "CaptionColor"},
+    {"frmCVStatusLabel", "cmdBrwsFont", 14226, "Arial", "CaptionFont"},
+    {"frmCVStatusLabel", "cboAlignment", 14219, "2", "CaptionAlignment"},
+    {"frmCVStatusLabel", "chkWordWrap", 14224, "1", "CaptionWordWrap"},
+    {"frmCVLabel", "chkTransparent", 14126, "0", "BGTransparent"},
+    {"frmCVLabel", "cmdBrwsBGColor", 14128, "11", "BGColor"},
+    {"frmCVLabel", "chkBakColorDef", 14125, "-2147483633", "BGColor"},
+    {"frmCVLabel", "cboBorder", 14124, "2", "Border3D", "1"},
+    {"frmCVLabel", "txtCaption", 14132, "Pump", "Caption"},
+    {"frmCVLabel", "cmdBrwsFontColor", 14130, "12", "CaptionColor"},
+    {"frmCVLabel", "cmdBrwsFont", 14129, "Arial", "CaptionFont"},
+    {"frmCVLabel", "cboAlignment", 14123, "1", "CaptionAlignment"},
+    {"frmCVLabel", "chkWordWrap", 14127, "1", "CaptionWordWrap"},
+    {"frmCVBlnPic", "cmdBrwsBGColor", 14083, "10", "BGColor"},
+    {"frmCVBlnPic", "chkBakColorDef", 14080, "-2147483633", "BGColor"},
+    {"frmCVBlnPic", "cboBevelStyle", 14077, "1", "BevelStyle"},
+    {"frmCVBlnPic", "txtOnImage", 14093, "on.bmp", "ImageOn"},
+    {"frmCVBlnPic", "txtOffImage", 14092, "off.bmp", "ImageOff"},
+    {"frmCVBlnPic", "cmdBrwsOnImage", 14088, "off.bmp", "ImageOn"},
+    {"frmCVBlnPic", "cmdBrwsOffImage", 14087, "on.bmp", "ImageOff"},
+    {"frmCVBlnPic", "cboImageAlign", 14078, "12", "ImageAlignment"},
+    {"frmCVBlnPic", "chkUseMask", 14081, "1", "ImageUseMask"},
+    {"frmCVBlnPic", "cmdBrwsMaskColor", 14086, "11", "ImageMaskColor"},
+    {"frmCVBlnPic", "txtCaptionOn", 14091, "lit", "CaptionOn"},
+    {"frmCVBlnPic", "txtCaptionOff", 14090, "dark", "CaptionOff"},
+    {"frmCVBlnPic", "chkAutoCaption", 14079, "1", "AutoCaption"},
+    {"frmCVBlnPic", "cmdBrwsFontColor", 14085, "12", "CaptionColor"},
+    {"frmCVBlnPic", "cmdBrwsFont", 14084, "Arial", "CaptionFont"},
+    {"frmCVBlnPic", "cboAlignment", 14076, "8", "CaptionAlignment"},
+    {"frmCVBlnPic", "chkWordWrap", 14082, "1", "CaptionWordWrap"},
+    {"frmCVCommand", "txtCaption", 14117, "Start", "Caption"},
+    {"frmCVCommand", "chkAutoCaption", 14109, "1", "AutoCaption"},
+    {"frmCVCommand", "cmdBrwsFontColor", 14113, "11", "CaptionColor"},
+    {"frmCVCommand", "cmdBrwsFont", 14112, "Arial", "CaptionFont"},
+    {"frmCVCommand", "chkWordWrap", 14111, "1", "CaptionWordWrap"},
+    {"frmCVCommand", "txtImage", 14118, "on.bmp", "ImageFile"},
+    {"frmCVCommand", "cmdBrwsImage", 14114, "off.bmp", "ImageFile"},
+    {"frmCVCommand", "cboImageAlign", 14108, "12", "ImageAlignment"},
+    {"frmCVCommand", "chkUseMask", 14110, "1", "ImageUseMask"},
+    {"frmCVCommand", "cmdBrwsMaskColor", 14115, "12", "ImageMaskColor"},
+    {"frmCVCmdLED", "txtCaption", 14107, "Start", "Caption"},
+    {"frmCVCmdLED", "chkAutoCaption", 14102, "1", "AutoCaption"},
+    {"frmCVCmdLED", "cmdBrwsFontColor", 14104, "11", "CaptionColor"},
+    {"frmCVCmdLED", "cmdBrwsFont", 14103, "Arial", "CaptionFont"},
+    {"frmCVCmdLED", "cmdBrwsLEDColor", 14105, "12", "LEDColor"},
+    {"frmCVCmdLED", "cboAlignment", 14101, "3", "LEDAlignment"},
+    {"frmCVPicture", "txtImage", 14218, "on.bmp", "PictureFile"},
+    {"frmCVPicture", "cmdBrwsImage", 14215, "off.bmp", "PictureFile"},
+    {"frmCVPicture", "cboFillStyle", 14211, "2", "PictureFillMode"},
+    {"frmCVPicture", "chkUseMask", 14213, "1", "PictureUseMask"},
+    {"frmCVPicture", "cmdBrwsMaskColor", 14216, "11", "PictureMaskColor"},
+    {"frmCVPicture", "cboBevelStyle", 14210, "1", "BevelStyle"},
+    {"frmCVPicture", "cmdBrwsBGColor", 14214, "10", "BGColor"},
+    {"frmCVPicture", "chkBakColorDef", 14212, "-2147483633", "BGColor"},
+    {"frmCVMeterText", "cmdBrwsBGColor", 14202, "1193046", "BGColor"},
+    {"frmCVMeterText", "cmdBrwsFont", 14203, "Arial", "Font"},
+    {"frmCVMeterText", "cmdBrwsFontColor", 14204, "255", "FontColor"},
+    {"frmCVMeterText", "cboAlignment", 14199, "1", "FontAlignment"},
+    {"frmCVMeterText", "cboBorder", 14200, "1", "BorderStyle"},
+    {"frmCVMeterText", "chkBakColorDef", 14201, "1", "BGColor", "-2147483633"},
+    {"frmCVMeterAngle", "txtRange", 14176, "100", "MtrRange"},
+    {"frmCVMeterAngle", "txtStartDeg", 14177, "101", "MtrStart"},
+    {"frmCVMeterAngle", "txtRadius", 14175, "50", "MtrRadius"},
+    {"frmCVMeterAngle", "txtOffsetX", 14171, "-4", "MtrOffsetX"},
+    {"frmCVMeterAngle", "txtOffsetY", 14172, "-5", "MtrOffsetY"},
+    {"frmCVMeterAngle", "cmdBrwsBGColor", 14162, "1193046", "BGColor"},
+    {"frmCVMeterAngle", "chkBakColorDef", 14155, "1", "BGColor", "-2147483633"},
+    {"frmCVMeterAngle", "cboBorderStyle", 14153, "1", "BorderStyle"},
+    {"frmCVMeterAngle", "cmdBrwsFont", 14163, "Arial", "TickLabelFont"},
+    {"frmCVMeterAngle", "cmdBrwsFontColor", 14164, "255", "TickLabelColor"},
+    {"frmCVMeterAngle", "txtLabelMargin", 14170, "-6", "LabelMargin"},
+    {"frmCVMeterAngle", "chkShowInnerArc", 14158, "1", "ShowInnerArc"},
+    {"frmCVMeterAngle", "chkShowOutterArc", 14159, "0", "ShowOuterArc"},
+    {"frmCVMeterAngle", "chkReverseScale", 14156, "1", "ReverseScale"},
+    {"frmCVMeterAngle", "txtBandWidth", 14168, "7", "BandWidth"},
+    {"frmCVMeterAngle", "cboPointerStyle", 14154, "3", "PointerStyle"},
+    {"frmCVMeterAngle", "txtPointerSize", 14174, "8", "PointerSize"},
+    {"frmCVMeterAngle", "txtPointerLen", 14173, "30", "PointerLength"},
+    {"frmCVMeterAngle", "cmdBrwsPointerColor", 14166, "254", "PointerColor"},
+    {"frmCVMeterAngle", "chkShowHub", 14157, "1", "MtrHubVisible"},
+    {"frmCVMeterAngle", "txtHubSize", 14169, "11", "MtrHubSize"},
+    {"frmCVMeterAngle", "cmdBrwsHubColor", 14165, "253", "MtrHubColor"},
+    {"frmCVMeterAngle", "chkShowTickVals", 14160, "0", "TickVals"},
+    {"frmCVMeterAngle", "chkTransparent", 14161, "1", "BGTransparent"},
+    {"frmCVMeterLinear", "optOrientation", 14189, "0", "MeterOrientation"},
+    {"frmCVMeterLinear", "cmdBrwsBGColor", 14183, "1193046", "BGColor"},
+    {"frmCVMeterLinear", "cboBorderStyle", 14178, "1", "BorderStyle"},
+    {"frmCVMeterLinear", "cmdBrwsPointerColor", 14186, "254", "widget PointerColor"},
+    {"frmCVMeterLinear", "txtPointerSize", 14193, "8", "PointerSize"},
+    {"frmCVMeterLinear", "txtPointerOffset", 14192, "-3", "PointerOffset"},
+    {"frmCVMeterLinear", "cmdBrwsFont", 14184, "Arial", "TickLabelFont"},
+    {"frmCVMeterLinear", "cmdBrwsFontColor", 14185, "255", "TickLabelColor"},
+    {"frmCVMeterLinear", "txtLabelMargin", 14191, "-6", "TickLabelMargin"},
+    {"frmCVMeterLinear", "optLabelLoc", 14188, "1", "TickLocation"},
+    {"frmCVMeterLinear", "chkReverseScale", 14180, "1", "ReverseScale"},
+    {"frmCVMeterLinear", "txtBandWidth", 14190, "7", "BandWidth"},
+    {"frmCVMeterLinear", "chkBakColorDef", 14179, "1", "BGColor", "-2147483633"},
+    {"frmCVMeterLinear", "chkShowTickVals", 14181, "0", "widget TickValuesVisible", "false"},
+    {"frmCVMeterLinear", "chkTransparent", 14182, "1", "BGTransparent"},
+    {"frmCVMeterProps", "txtMin", 14197, "-20", "PosMin", "-20.000000"},
+    {"frmCVMeterProps", "txtMax", 14196, "120", "PosMax", "120.000000"},
+    {"frmCVMeterProps", "txtSectionEnd(0)", 14198, "1", "SectionEnd1", "1.000000"},
+    {"frmCVMeterProps", "txtSectionEnd(1)", 14198, "2", "SectionEnd2", "2.000000"},
+    {"frmCVMeterProps", "txtSectionEnd(2)", 14198, "3", "SectionEnd3", "3.000000"},
+    {"frmCVMeterProps", "txtSectionEnd(3)", 14198, "4000", "SectionEnd4", "4000.000000"},
+    {"frmCVMeterProps", "cmdBrwsSectionColor(0)", 14195, "11", "SectionColor1"},
+    {"frmCVMeterProps", "cmdBrwsSectionColor(1)", 14195, "12", "SectionColor2"},
+    {"frmCVMeterProps", "cmdBrwsSectionColor(2)", 14195, "13", "SectionColor3"},
+    {"frmCVMeterProps", "cmdBrwsSectionColor(3)", 14195, "14", "SectionColor4"},
+    {"frmCVMeterProps", "cmdBrwsSectionColor(4)", 14195, "15", "SectionColor5"},
+    {"frmCVMeterProps", "chkAutoSetPos", 14194, "1", "AutoPositions"},
 };
 
-const PageTable pages[] = {
-    {"frmCVGeneral",
-     clsLEDRound::type,
-     {
-         {"txtHeight", 14119, "20", "ObjHeight", "300.000000"},
-         {"txtWidth", 14120, "30", "ObjWidth", "450.000000"},
-         {"txtX", 14121, "100", "ObjLeft", "1500.000000"},
-         {"txtY", 14122, "50", "ObjTop", "750.000000"},
-     }},
-    {"frmCVLEDRound",
-     clsLEDRound::type,
-     {
-         {"cboBevelStyle", 14147, "1", "BevelStyle"},
-         {"cmdBrwsOnColor", 14151, "11", "ColorActive"},
-         {"chkAutoOffColor", 14148, "0", "AutoInactive"},
-         {"cmdBrwsOffColor", 14150, "12", "ColorInactive"},
-         {"chkReflection", 14149, "0", "Reflection"},
-     }},
-    {"frmCVLEDRect",
-     clsLEDRect::type,
-     {
-         {"cboBevelStyle", 14134, "1", "BevelStyle"},
-         {"cmdBrwsOnColor", 14143, "11", "ColorActive"},
-         {"chkAutoOffColor", 14136, "0", "AutoInactive"},
-         {"cmdBrwsOffColor", 14142, "12", "ColorInactive"},
-         {"chkReflection", 14137, "0", "Reflection"},
-         {"txtCaptionOn", 14146, "lit", "CaptionOn"},
-         {"txtCaptionOff", 14145, "dark", "CaptionOff"},
-         {"cmdBrwsFontOn", 14141, "13", "CaptionOnColor"},
-         {"cmdBrwsFontOff", 14140, "14", "CaptionOffColor"},
-         {"cmdBrwsFont", 14139, "Arial", "CaptionFont"},
-         {"cboAlignment", 14133, "2", "CaptionAlignment"},
-         {"chkAutoCaption", 14135, "1", "AutoCaption"},
-         {"chkWordWrap", 14138, "1", "CaptionWordWrap"},
-     }},
-    {"frmCVStatusLabel",
-     clsStatusLabel::type,
-     {
-         {"chkTransparent", 14223, "0", "BGTransparent"},
-         {"cmdBrwsBGColor", 14225, "11", "BGColor"},
-         {"chkBakColorDef", 14222, "-2147483633", "BGColor"},
-         {"cboBorder", 14220, "2", "Border3D", "1"},
-         {"txtCaptionOn", 14230, "lit", "CaptionOn"},
-         {"txtCaptionOff", 14229, "dark", "CaptionOff"},
-         {"chkAutoCaption", 14221, "1", "AutoCaption"},
-         {"cmdBrwsFontColor", 14227, "12", "CaptionColor"},
-         {"cmdBrwsFont", 14226, "Arial", "CaptionFont"},
-         {"cboAlignment", 14219, "2", "CaptionAlignment"},
-         {"chkWordWrap", 14224, "1", "CaptionWordWrap"},
-     }},
-    {"frmCVLabel",
-     clsLabel::type,
-     {
-         {"chkTransparent", 14126, "0", "BGTransparent"},
-         {"cmdBrwsBGColor", 14128, "11", "BGColor"},
-         {"chkBakColorDef", 14125, "-2147483633", "BGColor"},
-         {"cboBorder", 14124, "2", "Border3D", "1"},
-         {"txtCaption", 14132, "Pump", "Caption"},
-         {"cmdBrwsFontColor", 14130, "12", "CaptionColor"},
-         {"cmdBrwsFont", 14129, "Arial", "CaptionFont"},
-         {"cboAlignment", 14123, "1", "CaptionAlignment"},
-         {"chkWordWrap", 14127, "1", "CaptionWordWrap"},
-     }},
-    {"frmCVBlnPic",
-     clsBoolPic::type,
-     {
-         {"cmdBrwsBGColor", 14083, "10", "BGColor"},
-         {"chkBakColorDef", 14080, "-2147483633", "BGColor"},
-         {"cboBevelStyle", 14077, "1", "BevelStyle"},
-         {"txtOnImage", 14093, "on.bmp", "ImageOn"},
-         {"txtOffImage", 14092, "off.bmp", "ImageOff"},
-         {"cmdBrwsOnImage", 14088, "off.bmp", "ImageOn"},
-         {"cmdBrwsOffImage", 14087, "on.bmp", "ImageOff"},
-         {"cboImageAlign", 14078, "12", "ImageAlignment"},
-         {"chkUseMask", 14081, "1", "ImageUseMask"},
-         {"cmdBrwsMaskColor", 14086, "11", "ImageMaskColor"},
-         {"txtCaptionOn", 14091, "lit", "CaptionOn"},
-         {"txtCaptionOff", 14090, "dark", "CaptionOff"},
-         {"chkAutoCaption", 14079, "1", "AutoCaption"},
-         {"cmdBrwsFontColor", 14085, "12", "CaptionColor"},
-         {"cmdBrwsFont", 14084, "Arial", "CaptionFont"},
-         {"cboAlignment", 14076, "8", "CaptionAlignment"},
-         {"chkWordWrap", 14082, "1", "CaptionWordWrap"},
-     }},
-    {"frmCVCommand",
-     clsCommand::type,
-     {
-         {"txtCaption", 14117, "Start", "Caption"},
-         {"chkAutoCaption", 14109, "1", "AutoCaption"},
-         {"cmdBrwsFontColor", 14113, "11", "CaptionColor"},
-         {"cmdBrwsFont", 14112, "Arial", "CaptionFont"},
-         {"chkWordWrap", 14111, "1", "CaptionWordWrap"},
-         {"txtImage", 14118, "on.bmp", "ImageFile"},
-         {"cmdBrwsImage", 14114, "off.bmp", "ImageFile"},
-         {"cboImageAlign", 14108, "12", "ImageAlignment"},
-         {"chkUseMask", 14110, "1", "ImageUseMask"},
-         {"cmdBrwsMaskColor", 14115, "12", "ImageMaskColor"},
-     }},
-    {"frmCVCmdLED",
-     clsCmdLED::type,
-     {
-         {"txtCaption", 14107, "Start", "Caption"},
-         {"chkAutoCaption", 14102, "1", "AutoCaption"},
-         {"cmdBrwsFontColor", 14104, "11", "CaptionColor"},
-         {"cmdBrwsFont", 14103, "Arial", "CaptionFont"},
-         {"cmdBrwsLEDColor", 14105, "12", "LEDColor"},
-         {"cboAlignment", 14101, "3", "LEDAlignment"},
-     }},
-    {"frmCVPicture",
-     clsPicture::type,
-     {
-         {"txtImage", 14218, "on.bmp", "PictureFile"},
-         {"cmdBrwsImage", 14215, "off.bmp", "PictureFile"},
-         {"cboFillStyle", 14211, "2", "PictureFillMode"},
-         {"chkUseMask", 14213, "1", "PictureUseMask"},
-         {"cmdBrwsMaskColor", 14216, "11", "PictureMaskColor"},
-         {"cboBevelStyle", 14210, "1", "BevelStyle"},
-         {"cmdBrwsBGColor", 14214, "10", "BGColor"},
-         {"chkBakColorDef", 14212, "-2147483633", "BGColor"},
-     }},
-    {"frmCVMeterText",
-     clsMeterText::type,
-     {
-         {"cmdBrwsBGColor", 14202, "1193046", "BGColor"},
-         {"cmdBrwsFont", 14203, "Arial", "Font"},
-         {"cmdBrwsFontColor", 14204, "255", "FontColor"},
-         {"cboAlignment", 14199, "1", "FontAlignment"},
-         {"cboBorder", 14200, "1", "BorderStyle"},
-         {"chkBakColorDef", 14201, "1", "BGColor", "-2147483633"},
-     }},
-    {"frmCVMeterAngle",
-     clsMtrAngle::type,
-     {
-         {"txtRange", 14176, "100", "MtrRange"},
-         {"txtStartDeg", 14177, "101", "MtrStart"},
-         {"txtRadius", 14175, "50", "MtrRadius"},
-         {"txtOffsetX", 14171, "-4", "MtrOffsetX"},
-         {"txtOffsetY", 14172, "-5", "MtrOffsetY"},
-         {"cmdBrwsBGColor", 14162, "1193046", "BGColor"},
-         {"chkBakColorDef", 14155, "1", "BGColor", "-2147483633"},
-         {"cboBorderStyle", 14153, "1", "BorderStyle"},
-         {"cmdBrwsFont", 14163, "Arial", "TickLabelFont"},
-         {"cmdBrwsFontColor", 14164, "255", "TickLabelColor"},
-         {"txtLabelMargin", 14170, "-6", "LabelMargin"},
-         {"chkShowInnerArc", 14158, "1", "ShowInnerArc"},
-         {"chkShowOutterArc", 14159, "0", "ShowOuterArc"},
-         {"chkReverseScale", 14156, "1", "ReverseScale"},
-         {"txtBandWidth", 14168, "7", "BandWidth"},
-         {"cboPointerStyle", 14154, "3", "PointerStyle"},
-         {"txtPointerSize", 14174, "8", "PointerSize"},
-         {"txtPointerLen", 14173, "30", "PointerLength"},
-         {"cmdBrwsPointerColor", 14166, "254", "PointerColor"},
-         {"chkShowHub", 14157, "1", "MtrHubVisible"},
-         {"txtHubSize", 14169, "11", "MtrHubSize"},
-         {"cmdBrwsHubColor", 14165, "253", "MtrHubColor"},
-         {"chkShowTickVals", 14160, "0", "TickVals"},
-         {"chkTransparent", 14161, "1", "BGTransparent"},
-     }},
-    {"frmCVMeterLinear",
-     clsMtrLinear::type,
-     {
-         {"optOrientation", 14189, "0", "MeterOrientation"},
-         {"cmdBrwsBGColor", 14183, "1193046", "BGColor"},
-         {"cboBorderStyle", 14178, "1", "BorderStyle"},
-         {"cmdBrwsPointerColor", 14186, "254", "widget PointerColor"},
-         {"txtPointerSize", 14193, "8", "PointerSize"},
-         {"txtPointerOffset", 14192, "-3", "PointerOffset"},
-         {"cmdBrwsFont", 14184, "Arial", "TickLabelFont"},
-         {"cmdBrwsFontColor", 14185, "255", "TickLabelColor"},
-         {"txtLabelMargin", 14191, "-6", "TickLabelMargin"},
-         {"optLabelLoc", 14188, "1", "TickLocation"},
-         {"chkReverseScale", 14180, "1", "ReverseScale"},
-         {"txtBandWidth", 14190, "7", "BandWidth"},
-         {"chkBakColorDef", 14179, "1", "BGColor", "-2147483633"},
-         {"chkShowTickVals", 14181, "0", "widget TickValuesVisible", "false"},
-         {"chkTransparent", 14182, "1", "BGTransparent"},
-     }},
-    {"frmCVMeterProps",
-     clsMtrLinear::type,
-     {
-         {"txtMin", 14197, "-20", "PosMin", "-20.000000"},
-         {"txtMax", 14196, "120", "PosMax", "120.000000"},
-         {"txtSectionEnd(0)", 14198, "1", "SectionEnd1", "1.000000"},
-         {"txtSectionEnd(1)", 14198, "2", "SectionEnd2", "2.000000"},
-         {"txtSectionEnd(2)", 14198, "3", "SectionEnd3", "3.000000"},
-         {"txtSectionEnd(3)", 14198, "4000", "SectionEnd4", "4000.000000"},
-         {"cmdBrwsSectionColor(0)", 14195, "11", "SectionColor1"},
-         {"cmdBrwsSectionColor(1)", 14195, "12", "SectionColor2"},
-         {"cmdBrwsSectionColor(2)", 14195, "13", "SectionColor3"},
-         {"cmdBrwsSectionColor(3)", 14195, "14", "SectionColor4"},
-         {"cmdBrwsSectionColor(4)", 14195, "15", "SectionColor5"},
-         {"chkAutoSetPos", 14194, "1", "AutoPositions"},
-     }},
+struct PageKind {
+    const char* page;
+    std::uint8_t type;
 };
+
+const PageKind pages[] = {{"frmCVGeneral", clsLEDRound::type},    {"frmCVLEDRound", clsLEDRound::type},
+                          {"frmCVLEDRect", clsLEDRect::type},     {"frmCVStatusLabel", clsStatusLabel::type},
+                          {"frmCVLabel", clsLabel::type},         {"frmCVBlnPic", clsBoolPic::type},
+                          {"frmCVCommand", clsCommand::type},     {"frmCVCmdLED", clsCmdLED::type},
+                          {"frmCVPicture", clsPicture::type},     {"frmCVMeterText", clsMeterText::type},
+                          {"frmCVMeterAngle", clsMtrAngle::type}, {"frmCVMeterLinear", clsMtrLinear::type},
+                          {"frmCVMeterProps", clsMtrLinear::type}};
 
 struct APage : EditorFixture {
     void SetUp() override
@@ -251,6 +208,11 @@ struct APage : EditorFixture {
             }
         };
         (put(dynamic_cast<E*>(&element)), ...);
+    }
+
+    static auto RowsOf(std::string_view page)
+    {
+        return rows | std::views::filter([page](const PageRow& row) { return row.page == page; });
     }
 
     // A new element, selected, with a ground of its own.
@@ -284,9 +246,9 @@ struct APage : EditorFixture {
     }
 
     // As the user would, by the kind of the control and what its name says of its dialog.
-    void Act(std::string_view page, const PageRow& row)
+    void Act(const PageRow& row)
     {
-        Control& control = On<>(page, row.control);
+        Control& control = On<>(row.page, row.control);
         if (auto* list = dynamic_cast<ListBox*>(&control)) {
             list->Choose(std::stoi(row.input));
         } else if (auto* options = dynamic_cast<OptionArray*>(&control)) {
@@ -342,12 +304,12 @@ struct APage : EditorFixture {
 
 TEST_F(APage, WritesEachControlThroughAtOnceAndReadsItBack)
 {
-    for (const PageTable& each : pages) {
+    for (const PageKind& each : pages) {
         Element& element = InsertOf(each.type);
-        for (const PageRow& row : each.rows) {
+        for (const PageRow& row : RowsOf(each.page)) {
             SCOPED_TRACE(std::string(each.page) + '.' + row.control);
             EXPECT_NE(ValueOf(element, row.setting), row.Stored());
-            Act(each.page, row);
+            Act(row);
             EXPECT_EQ(ValueOf(element, row.setting), row.Stored());
         }
         const std::string before = Shown(each.page);
@@ -361,11 +323,11 @@ TEST_F(APage, WritesEachControlThroughAtOnceAndReadsItBack)
 
 TEST_F(APage, ReportsAFailureUnderTheNumberOfTheControl)
 {
-    for (const PageTable& each : pages) {
+    for (const PageKind& each : pages) {
         InsertOf(each.type);
         Page& page = *main.Panel().FindPage(each.page);
         for (const bool isBound : {true, false}) { // then a dialog doesn't come up, or there is nothing to write to
-            for (const PageRow& row : each.rows) {
+            for (const PageRow& row : RowsOf(each.page)) {
                 SCOPED_TRACE(std::string(each.page) + '.' + row.control);
                 On<>(each.page, row.control).Set(&Control::Enabled, true);
                 auto* button = dynamic_cast<Button*>(&On<>(each.page, row.control));
@@ -378,7 +340,7 @@ TEST_F(APage, ReportsAFailureUnderTheNumberOfTheControl)
                     dialog.planned.Plan(DialogOf(row.control), 1);
                     button->Push();
                 } else {
-                    Act(each.page, row);
+                    Act(row);
                 }
                 ASSERT_EQ(reporter.reports.size(), before + 1);
                 EXPECT_EQ(reporter.reports.back().message,
