@@ -69,7 +69,12 @@ class TeskUnits {
 public:
     virtual ~TeskUnits() = default;
     virtual TeskUnit& Item(std::uint8_t unitNum) = 0; // fails for a unit that isn't there
-    virtual void ForEach(const std::function<void(TeskUnit&)>& visit) = 0;
+    // Whether a unit is so; the first that is ends the walk.
+    virtual bool AnyOf(const std::function<bool(TeskUnit&)>& isSo) = 0;
+    void ForEach(const std::function<void(TeskUnit&)>& visit)
+    {
+        AnyOf([&](TeskUnit& unit) { return visit(unit), false; });
+    }
 };
 
 class TeskSite {
@@ -85,7 +90,12 @@ class TeskSites {
 public:
     virtual ~TeskSites() = default;
     virtual TeskSite& Item(const std::string& netName) = 0; // fails for a site that isn't there
-    virtual void ForEach(const std::function<void(TeskSite&)>& visit) = 0;
+    // Whether a site is so; the first that is ends the walk.
+    virtual bool AnyOf(const std::function<bool(TeskSite&)>& isSo) = 0;
+    void ForEach(const std::function<void(TeskSite&)>& visit)
+    {
+        AnyOf([&](TeskSite& site) { return visit(site), false; });
+    }
 };
 
 // The arguments of the events that have many, in their order. Arrays are by channel less 1 (or macro less 1).

@@ -23,24 +23,13 @@ std::string UnitCaption(TeskServer* server, const std::string& site, std::uint8_
 
 bool SiteExists(TeskServer* server, const std::string& site)
 {
-    bool exists = false;
-    if (server != nullptr) {
-        IgnoreFailure(
-            [&] { server->Sites().ForEach([&](TeskSite& each) { exists = exists || each.NetName() == site; }); });
-    }
-    return exists;
+    return server != nullptr && server->Sites().AnyOf([&](const TeskSite& each) { return each.NetName() == site; });
 }
 
 bool UnitExists(TeskServer* server, const std::string& site, std::uint8_t unit)
 {
-    bool exists = false;
-    if (SiteExists(server, site)) {
-        IgnoreFailure([&] {
-            server->Sites().Item(site).Units().ForEach(
-                [&](TeskUnit& each) { exists = exists || each.UnitNum() == unit; });
-        });
-    }
-    return exists;
+    return SiteExists(server, site) &&
+           server->Sites().Item(site).Units().AnyOf([&](const TeskUnit& each) { return each.UnitNum() == unit; });
 }
 
 } // namespace quor

@@ -140,21 +140,81 @@ TEST(TheSimulatedServer, ObeysCommandsAndMacros)
     EXPECT_FALSE(simulation.server.AppAlarms());
 }
 
-TEST(TheSites, ComeFromTheFirstFileThatIsThere)
+TEST(TheSites, ThatNobodyTellsAreBuiltInAndAFileThatCannotBeUsedIsSaidWhenTheyAreAskedFor)
 {
     FakeFiles files;
     FakeBoxes boxes;
-    const std::string paths[] = {"own.json", "shared.json"};
-    EXPECT_GE(LoadSites(files, boxes, paths).sites.size(), 4U);
-    files.PutText("shared.json", "{\"Sites\": [{\"NetName\": \"A\"}]}");
-    EXPECT_EQ(LoadSites(files, boxes, paths).sites.size(), 1U);
-    std::vector<std::string> messages;
-    const Subscription shown = boxes.Shown.Subscribe([&](const ShownBox& box) { messages.push_back(box.text); });
+    files.PutText("own.json", "{");
+    SitesFile sites(files, boxes, {"own.json"});
+    EXPECT_GE(sites.Plan().sites.size(), 4U);
+    EXPECT_TRUE(boxes.shown.empty());
+    sites.ReloadSites();
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    files.DeleteFile("own.json");
+    sites.ReloadSites();
+    EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+TEST(TheSimulatedServer, KeepsTheAlarmsOfItsPlanThatNoUnitHas)
+{
+    FakeTimers timers;
+    ServerPlan plan = ReadServerPlan(R"({"AppAlarms": true, "Sites": [{"NetName": "A", "Units": [{"UnitNum": 1}]}]})");
+    SimulatedServer elsewhere(timers, plan, 1);
+    EXPECT_TRUE(elsewhere.AppAlarms());
+    bool isToldOfTheEnd = false;
+    const Subscription told = elsewhere.AlarmFlagChange.Subscribe(
+        [&](const std::string&, std::uint8_t, bool, bool) { isToldOfTheEnd = !elsewhere.AppAlarms(); });
+    elsewhere.Sites().Item("A").Units().Item(1).ClearAlarms();
+    EXPECT_TRUE(isToldOfTheEnd);
+    plan = ReadServerPlan(R"({"Sites": [{"NetName": "A", "SiteAlarms": true}]})");
+    SimulatedServer withoutUnits(timers, plan, 1);
+    EXPECT_TRUE(withoutUnits.Sites().Item("A").SiteAlarms());
+    EXPECT_TRUE(withoutUnits.AppAlarms());
+}
+
+TEST(TheSimulatedServer, SaysOfADeadSiteThatItIsDisconnected)
+{
+    Simulation simulation;
+    simulation.server.Start();
+    while (!simulation.isDown["Harbour"]) {
+        simulation.timers.Advance(second);
+    }
+    simulation.counts.clear();
+    simulation.Unit("Harbour", 2).RequestConfig();
+    simulation.timers.Advance(second / 2);
+    EXPECT_EQ(simulation.counts, (std::map<std::string, int>{{"Disconnected", 1}}));
+}
+
+TEST(TheSites, ComeAnewFromTheFirstFileThatIsThere)
+{
+    FakeFiles files;
+    FakeBoxes boxes;
+    const auto catalog = [](SitesFile& sites) {
+        TeskSiteList list;
+        sites.GetCatalog().ReloadSites();
+        sites.GetCatalog().GetSites(list);
+        std::string names;
+        for (const TeskSiteEntry& entry : list) {
+            names += entry.SiteName + ' ';
+        }
+        return names;
+    };
+    files.PutText("shared.json", R"({"Sites": [{"NetName": "A"}]})");
+    SitesFile sites(files, boxes, {"own.json", "shared.json"});
+    EXPECT_EQ(sites.Plan().sites.size(), 1U);
+    EXPECT_EQ(catalog(sites), "A ");
+    files.PutText("shared.json", R"({"Sites": [{"NetName": "A"}, {"NetName": "B", "CatalogOnly": true}]})");
+    EXPECT_EQ(catalog(sites), "A B ") << "added while the program runs";
+    EXPECT_TRUE(boxes.shown.empty());
     files.PutText("own.json", "{\n\"Sites\": 7}");
-    EXPECT_GE(LoadSites(files, boxes, paths).sites.size(), 4U);
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_NE(messages[0].find("own.json"), std::string::npos);
-    EXPECT_NE(messages[0].find("Line 2: "), std::string::npos) << messages[0];
+    EXPECT_EQ(catalog(sites) + catalog(sites), "A B A B ");
+    ASSERT_EQ(boxes.shown.size(), 1U) << "it is said once";
+    EXPECT_EQ(boxes.shown[0].text.find("The sites of the file \"own.json\" cannot be used. Line 2: "), 0U);
+    files.PutText("own.json", R"({"Sites": [{"NetName": "C"}]})");
+    EXPECT_EQ(catalog(sites), "C ");
+    files.PutText("own.json", "{\n\"Sites\": 7}");
+    EXPECT_EQ(catalog(sites), "C ");
+    EXPECT_EQ(boxes.shown.size(), 2U) << "it was mended in between";
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "tests/support/quoted.h"
 
+#include <algorithm>
+
 namespace quor {
 
 FakeUnit::FakeUnit(FakeServer& server, std::string site, std::uint8_t number)
@@ -30,11 +32,9 @@ TeskUnit& FakeSite::Item(std::uint8_t unitNum)
     throw Failure(failures::outOfRange);
 }
 
-void FakeSite::ForEach(const std::function<void(TeskUnit&)>& visit)
+bool FakeSite::AnyOf(const std::function<bool(TeskUnit&)>& isSo)
 {
-    for (FakeUnit& unit : m_units) {
-        visit(unit);
-    }
+    return std::ranges::any_of(m_units, isSo);
 }
 
 FakeSite& FakeServer::Add(const std::string& name)
@@ -72,11 +72,9 @@ TeskSite& FakeServer::Item(const std::string& netName)
     throw Failure(failures::invalidCall);
 }
 
-void FakeServer::ForEach(const std::function<void(TeskSite&)>& visit)
+bool FakeServer::AnyOf(const std::function<bool(TeskSite&)>& isSo)
 {
-    for (FakeSite& site : m_sites) {
-        visit(site);
-    }
+    return std::ranges::any_of(m_sites, isSo);
 }
 
 } // namespace quor

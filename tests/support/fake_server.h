@@ -67,17 +67,18 @@ public:
     std::string netName;
     bool siteAlarms = false;
     bool usingBackup = false;
+    bool fails = false; // where it is asked for its name
 
     FakeUnit& Add(std::uint8_t number) { return m_units.emplace_back(m_server, netName, number); }
 
     bool SiteAlarms() const override { return siteAlarms; }
     bool UsingBackup() const override { return usingBackup; }
-    std::string NetName() const override { return netName; }
+    std::string NetName() const override { return fails ? throw Failure(failures::internal) : netName; }
     TeskUnits& Units() override { return *this; }
 
 private:
     TeskUnit& Item(std::uint8_t unitNum) override;
-    void ForEach(const std::function<void(TeskUnit&)>& visit) override;
+    bool AnyOf(const std::function<bool(TeskUnit&)>& isSo) override;
 
     FakeServer& m_server;
     std::deque<FakeUnit> m_units;
@@ -113,7 +114,7 @@ public:
 
 private:
     TeskSite& Item(const std::string& netName) override;
-    void ForEach(const std::function<void(TeskSite&)>& visit) override;
+    bool AnyOf(const std::function<bool(TeskSite&)>& isSo) override;
 
     std::deque<FakeSite> m_sites;
 };

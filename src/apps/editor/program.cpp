@@ -1,6 +1,5 @@
 #include "apps/editor/program.h"
 
-#include "binding/simulator/sites_file.h"
 #include "editor/main_form.h"
 #include "qt/ports/qt_text.h"
 #include "qt/window/main_window.h"
@@ -31,11 +30,10 @@ std::string ConfigFolder()
 }
 
 // The user's own sites, else those that lie beside the program.
-ServerPlan Sites(Files& files, MessageBoxes& boxes)
+std::vector<std::string> SitesPaths()
 {
     const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quor-view-editor");
-    const std::string paths[] = {ConfigFolder() + "/sites.json", FromQt(QDir::cleanPath(shared)) + "/sites.json"};
-    return LoadSites(files, boxes, paths);
+    return {ConfigFolder() + "/sites.json", FromQt(QDir::cleanPath(shared)) + "/sites.json"};
 }
 
 constexpr std::uint64_t seed = 1; // the simulation is the same at each start
@@ -46,7 +44,8 @@ Program::Program(std::string tail)
     : m_login({m_files, m_forms, m_timers, m_boxes, m_hasher}, ConfigFolder() + "/users"),
       m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
                  StateFolder()),
-      m_server(m_timers, Sites(m_files, m_boxes), seed), m_application(Ports(), std::move(tail))
+      m_sites(m_files, m_boxes, SitesPaths()), m_server(m_timers, m_sites.Plan(), seed),
+      m_application(Ports(), std::move(tail))
 {
     m_shown = m_application.MainFormShown.Subscribe([this](frmMain& main) { ShowWindow(main); });
     m_ended = m_application.Ended.Subscribe([this] { Ended.Raise(); });
@@ -67,7 +66,7 @@ EditorPorts Program::Ports()
     m_theme.Apply(*qApp);
     QApplication::setWindowIcon(m_theme.Icon("application"));
     m_live.Server = &m_server;
-    m_live.CatalogHost = &m_server;
+    m_live.CatalogHost = &m_sites;
     m_live.Login = &m_login;
     m_live.Boxes = &m_boxes;
     m_live.ViewFiles = &m_files;

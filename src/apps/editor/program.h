@@ -5,6 +5,7 @@
 #include "base/event.h"
 #include "binding/live.h"
 #include "binding/simulator/simulated_server.h"
+#include "binding/simulator/sites_file.h"
 #include "editor/application.h"
 #include "login/user_login.h"
 #include "posix/disk_files.h"
@@ -73,6 +74,7 @@ private:
     QtSystemInfo m_systemInfo;
     ErrorReporter m_reporter;
     frmViewPBar m_progress{m_forms};
+    SitesFile m_sites;
     SimulatedServer m_server;
     Live m_live;
     Application m_application;

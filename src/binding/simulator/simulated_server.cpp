@@ -25,7 +25,8 @@ constexpr double backupShare = 0.35; // of the links that are found again
 } // namespace
 
 SimulatedSite::SimulatedSite(SimulatedServer& server, const SitePlan& plan, Randomness& randomness)
-    : m_server(server), m_netName(plan.netName), m_usingBackup(plan.usingBackup)
+    : m_server(server), m_netName(plan.netName), m_usingBackup(plan.usingBackup),
+      m_alarmsOfNoUnit(plan.siteAlarms && plan.units.empty())
 {
     for (const UnitPlan& unit : plan.units) {
         m_units.emplace_back(server, *this, unit, randomness);
@@ -37,7 +38,7 @@ SimulatedSite::SimulatedSite(SimulatedServer& server, const SitePlan& plan, Rand
 
 bool SimulatedSite::SiteAlarms() const
 {
-    return std::ranges::any_of(m_units, &SimulatedUnit::HasAlarm);
+    return m_alarmsOfNoUnit || std::ranges::any_of(m_units, &SimulatedUnit::HasAlarm);
 }
 
 void SimulatedSite::RaiseAlarmChange(const SimulatedUnit& unit)
@@ -56,11 +57,9 @@ TeskUnit& SimulatedSite::Item(std::uint8_t unitNum)
     return *found;
 }
 
-void SimulatedSite::ForEach(const std::function<void(TeskUnit&)>& visit)
+bool SimulatedSite::AnyOf(const std::function<bool(TeskUnit&)>& isSo)
 {
-    for (SimulatedUnit& unit : m_units) {
-        visit(unit);
-    }
+    return std::ranges::any_of(m_units, isSo);
 }
 
 void SimulatedSite::Step(double seconds, Randomness& randomness)
@@ -84,10 +83,15 @@ void SimulatedSite::StepLink(double seconds, Randomness& randomness)
         }
     } else if (isLost) {
         m_downLeft = randomness.Between(shortestLoss, longestLoss);
-        m_server.Disconnected.Raise(m_netName, linkLost);
+        RaiseLost();
     } else if (m_backupLeft > 0 && (m_backupLeft -= seconds) <= 0) {
         Connect(false);
     }
+}
+
+void SimulatedSite::RaiseLost() const
+{
+    m_server.Disconnected.Raise(m_netName, linkLost);
 }
 
 void SimulatedSite::Connect(bool usingBackup)
@@ -106,10 +110,9 @@ SimulatedServer::SimulatedServer(Timers& timers, const ServerPlan& plan, std::ui
 }
 
 SimulatedServer::SimulatedServer(Timers& timers, const ServerPlan& plan, std::uint64_t seed, Pace pace)
-    : m_randomness(seed), m_pace(pace), m_steps(timers.Make()), m_answers(timers.Make())
+    : m_randomness(seed), m_pace(pace), m_toldAlarms(plan.appAlarms), m_steps(timers.Make()), m_answers(timers.Make())
 {
     for (const SitePlan& site : plan.sites) {
-        m_catalog.push_back(site.netName);
         if (!site.catalogOnly) {
             m_sites.emplace_back(*this, site, m_randomness);
         }
@@ -124,14 +127,7 @@ SimulatedServer::~SimulatedServer() = default;
 
 bool SimulatedServer::AppAlarms() const
 {
-    return std::ranges::any_of(m_sites, &SimulatedSite::SiteAlarms);
-}
-
-void SimulatedServer::GetSites(TeskSiteList& list)
-{
-    for (const std::string& name : m_catalog) {
-        list.push_back({name});
-    }
+    return m_toldAlarms || std::ranges::any_of(m_sites, &SimulatedSite::SiteAlarms);
 }
 
 TeskSite& SimulatedServer::Item(const std::string& netName)
@@ -143,11 +139,9 @@ TeskSite& SimulatedServer::Item(const std::string& netName)
     return *found;
 }
 
-void SimulatedServer::ForEach(const std::function<void(TeskSite&)>& visit)
+bool SimulatedServer::AnyOf(const std::function<bool(TeskSite&)>& isSo)
 {
-    for (SimulatedSite& site : m_sites) {
-        visit(site);
-    }
+    return std::ranges::any_of(m_sites, isSo);
 }
 
 void SimulatedServer::Ask(SimulatedUnit& unit)

@@ -1,8 +1,7 @@
 #pragma once
-// A data server and a site catalogue that need nothing outside: what they hold comes from a plan, and moves along
-// plausible curves that are the same for the same seed and the same commands.
+// A data server that needs nothing outside: what it holds comes from a plan, and moves along plausible curves that are
+// the same for the same seed and the same commands.
 
-#include "binding/catalog.h"
 #include "binding/server.h"
 #include "binding/simulator/simulated_unit.h"
 #include "platform/timer.h"
@@ -10,6 +9,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quor {
@@ -24,24 +24,26 @@ public:
     TeskUnits& Units() override { return *this; }
 
     bool IsConnected() const noexcept { return m_downLeft <= 0; }
+    void RaiseLost() const;
     void RaiseAlarmChange(const SimulatedUnit& unit);
     void Step(double seconds, Randomness& randomness);
 
 private:
     TeskUnit& Item(std::uint8_t unitNum) override;
-    void ForEach(const std::function<void(TeskUnit&)>& visit) override;
+    bool AnyOf(const std::function<bool(TeskUnit&)>& isSo) override;
     void StepLink(double seconds, Randomness& randomness);
     void Connect(bool usingBackup);
 
     SimulatedServer& m_server;
     std::string m_netName;
     bool m_usingBackup;
+    bool m_alarmsOfNoUnit;   // told of a site that has no unit to say it
     double m_downLeft = 0;   // seconds without a link
     double m_backupLeft = 0; // seconds until the primary path is back
     std::deque<SimulatedUnit> m_units;
 };
 
-class SimulatedServer final : public TeskServer, public TeskSiteCatalog, public TeskCatalogHost, private TeskSites {
+class SimulatedServer final : public TeskServer, private TeskSites {
 public:
     struct Pace {
         int milliseconds = 1000; // between two steps, as timers count
@@ -65,20 +67,20 @@ public:
 
     TeskSites& Sites() override { return *this; }
     bool AppAlarms() const override;
-    TeskSiteCatalog& GetCatalog() override { return *this; }
-    void GetSites(TeskSiteList& list) override;
-    void ReloadSites() override {} // what is configured doesn't change
+
+    // The plan's alarms that are no site's end when somebody clears any. True if there were some.
+    bool EndToldAlarms() { return std::exchange(m_toldAlarms, false); }
 
 private:
     TeskSite& Item(const std::string& netName) override;
-    void ForEach(const std::function<void(TeskSite&)>& visit) override;
+    bool AnyOf(const std::function<bool(TeskSite&)>& isSo) override;
     void Step();
     void Answer();
 
     Randomness m_randomness;
     Pace m_pace;
     double m_seconds = 0;
-    std::vector<std::string> m_catalog;
+    bool m_toldAlarms;
     std::deque<SimulatedSite> m_sites;
     std::vector<SimulatedUnit*> m_asked;
     std::unique_ptr<Timer> m_steps;

@@ -3,6 +3,7 @@
 #include "binding/simulator/simulated_server.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quor {
 
@@ -178,8 +179,11 @@ void SimulatedUnit::RaiseAlarm()
 
 void SimulatedUnit::ClearAlarms()
 {
-    if (HasAlarm() && m_site.IsConnected()) {
-        m_alarmLeft = 0;
+    if (!m_site.IsConnected()) {
+        return;
+    }
+    const bool hadToldOnes = m_server.EndToldAlarms();
+    if (std::exchange(m_alarmLeft, 0) > 0 || hadToldOnes) {
         m_site.RaiseAlarmChange(*this);
     }
 }
@@ -256,11 +260,12 @@ void SimulatedUnit::EndMacro(std::uint8_t macro)
 
 void SimulatedUnit::Report() const
 {
-    if (m_site.IsConnected()) {
-        RaiseConfig();
-        RaiseValues();
-        RaiseFlags();
+    if (!m_site.IsConnected()) {
+        return m_site.RaiseLost();
     }
+    RaiseConfig();
+    RaiseValues();
+    RaiseFlags();
 }
 
 void SimulatedUnit::RaiseValues() const

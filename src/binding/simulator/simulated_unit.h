@@ -28,7 +28,7 @@ public:
     // Moves on by so many seconds, and raises what comes of it.
     void Step(double seconds, Randomness& randomness);
 
-    // Raises all that is to be known of the unit, unless the link is lost.
+    // Raises all that is to be known of the unit: where the link is lost, just that.
     void Report() const;
 
     bool EventsPending() const override { return m_capturesLeft > 0; }

@@ -7,6 +7,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quor {
 
@@ -33,19 +34,45 @@ ServerPlan BuiltInSites()
     return ReadServerPlan(builtInSites);
 }
 
-ServerPlan LoadSites(Files& files, MessageBoxes& boxes, std::span<const std::string> paths)
+SitesFile::SitesFile(Files& files, MessageBoxes& boxes, std::vector<std::string> paths)
+    : m_files(files), m_boxes(boxes), m_paths(std::move(paths))
 {
-    const auto path = std::ranges::find_if(paths, [&](const std::string& each) { return files.FileExists(each); });
-    if (path == paths.end()) {
-        return BuiltInSites();
+    Read();
+}
+
+SitesFile::~SitesFile() = default;
+
+void SitesFile::Read()
+{
+    m_trouble.clear();
+    const auto path = std::ranges::find_if(m_paths, [&](const std::string& each) { return m_files.FileExists(each); });
+    if (path != m_paths.end()) {
+        try {
+            m_plan = Load(m_files, *path);
+            m_isBuiltIn = false;
+        } catch (...) {
+            m_trouble = "The sites of the file \"" + *path + "\" cannot be used. " + CurrentFailure().Description() +
+                        "\n\nThe " + (m_isBuiltIn ? "built-in sites" : "sites that were read before") +
+                        " are used instead.";
+        }
+    } else if (!m_isBuiltIn) {
+        m_plan = BuiltInSites();
+        m_isBuiltIn = true;
     }
-    try {
-        return Load(files, *path);
-    } catch (...) {
-        boxes.Show("The sites of the file \"" + *path + "\" cannot be used. " + CurrentFailure().Description() +
-                       "\n\nThe built-in sites are used instead.",
-                   std::string(appTitle), BoxButtons::Ok);
-        return BuiltInSites();
+}
+
+void SitesFile::GetSites(TeskSiteList& list)
+{
+    for (const SitePlan& site : m_plan.sites) {
+        list.push_back({site.netName});
+    }
+}
+
+void SitesFile::ReloadSites()
+{
+    Read();
+    if (m_trouble != std::exchange(m_said, m_trouble) && !m_trouble.empty()) {
+        m_boxes.Show(m_trouble, std::string(appTitle), BoxButtons::Ok);
     }
 }
 
