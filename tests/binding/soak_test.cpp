@@ -34,7 +34,8 @@ void operator delete(void* block) noexcept
 
 void operator delete(void* block, std::size_t) noexcept
 {
-    operator delete(block);
+    blocksInUse -= block == nullptr ? 0 : 1;
+    std::free(block);
 }
 
 namespace quor {
