@@ -42,7 +42,6 @@ void clsBlnDataSource::Fields(FieldWalk& record)
 {
     record.AsByte(BlnDataType);
     record(Unit, Channel, Site);
-    Follow();
 }
 
 void clsBlnDataSource::Follow()

@@ -84,7 +84,9 @@ public:
     // Brings the source up to date; what it can't find out shows as false and muted.
     void RefreshData();
 
+    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
+    void Follow();
 
 private:
     void m_Srv_ConfigData(const ConfigDataEvent& event) override;
@@ -97,7 +99,6 @@ private:
     void m_Srv_MacroStatus(const std::string& netName, std::uint8_t unit, std::uint8_t macro, bool running) override;
     void m_Srv_Values(const ValuesEvent& event) override;
 
-    void Follow();
     bool IsOf(const std::string& netName, std::uint8_t unit) const { return netName == Site() && unit == Unit(); }
     bool WatchesLimits() const noexcept
     {

@@ -56,7 +56,6 @@ void clsCmdDataSource::Fields(FieldWalk& record)
 {
     record.AsByte(CmdDataType);
     record(Unit, Channel, CtrlClick, Site);
-    Follow();
 }
 
 void clsCmdDataSource::Follow()

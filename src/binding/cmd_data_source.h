@@ -63,7 +63,9 @@ public:
     bool CmdEnabled() const noexcept { return m_enabled; }
     const std::string& LockReason() const noexcept { return m_lockReason; }
 
+    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
+    void Follow();
 
 private:
     void m_Srv_ConfigData(const ConfigDataEvent& event) override;
@@ -73,7 +75,6 @@ private:
     void m_Login_LogOff();
     void m_Login_LogOn(bool blnSuccess);
 
-    void Follow();
     void RaiseLabel(const std::string& caption);
     void UpdateEnable();
     void UpdatePrivilege();

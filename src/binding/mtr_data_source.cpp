@@ -30,7 +30,6 @@ clsMtrDataSource::~clsMtrDataSource() = default;
 void clsMtrDataSource::Fields(FieldWalk& record)
 {
     record(Unit, Channel, DecimalPlaces, Site);
-    Follow();
 }
 
 void clsMtrDataSource::Follow()

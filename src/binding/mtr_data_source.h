@@ -61,14 +61,15 @@ public:
     }
 
     void RefreshData();
+    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
+    void Follow();
 
 private:
     void m_Srv_ConfigData(const ConfigDataEvent& event) override;
     void m_Srv_Values(const ValuesEvent& event) override;
     void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
 
-    void Follow();
     void RaiseUpdate(float value, bool mute);
     void RaiseDecimalPlaces();
     void RaiseLabel(const MeterLabel& label);

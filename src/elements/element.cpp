@@ -2,6 +2,8 @@
 
 #include "base/guard.h"
 #include "base/narrow.h"
+#include "binding/bln_data_source.h"
+#include "binding/mtr_data_source.h"
 #include "document/format/record.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
@@ -34,8 +36,25 @@ void Element::SaveToArray(std::vector<std::uint8_t>& buffer, std::int32_t& check
 void Element::ReadFromArray(std::span<const std::uint8_t> payload)
 {
     RecordReader reader(payload);
-    Fields(reader);
+    try {
+        Fields(reader);
+    } catch (...) {
+        BindSources();
+        throw;
+    }
+    BindSources();
     WriteControlProps();
+}
+
+void Element::BindSources()
+{
+    ClickAction.Follow();
+    if (clsBlnDataSource* source = StatusSource()) {
+        source->Follow();
+    }
+    if (clsMtrDataSource* source = MeterSource()) {
+        source->Follow();
+    }
 }
 
 std::int32_t Element::ScrollOffsetX() const noexcept

@@ -69,7 +69,8 @@ public:
     void SaveToArray(std::vector<std::uint8_t>& buffer, std::int32_t& checksum);
 
     // Takes the settings of a payload, but not its name, and imposes them on the widget. A payload that ends within the
-    // fixed fields fails with 9, and the element stays filled as far as it got.
+    // fixed fields fails with 9; the element stays filled as far as it got, and its sources hear what they are bound
+    // to.
     void ReadFromArray(std::span<const std::uint8_t> payload);
 
     // The record's fields in their order.
@@ -99,6 +100,8 @@ protected:
     void ShowExtents();
 
 private:
+    void BindSources();
+
     Widget* m_widget;
 };
 

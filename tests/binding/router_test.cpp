@@ -1,5 +1,6 @@
 #include "binding/bln_data_source.h"
 #include "binding/live.h"
+#include "document/format/record.h"
 #include "tests/support/fake_server.h"
 
 #include <gtest/gtest.h>
@@ -90,6 +91,20 @@ TEST_F(TheRouter, LetsAListenerMoveAndMakeOthersDuringAnEvent)
     EXPECT_EQ(born.front()->owner.updates, 0) << "it waits for the next event";
     Raise("Harbour");
     EXPECT_EQ(mover.owner.updates, 2);
+}
+
+TEST_F(TheRouter, KeepsThePlaceOfAListenerThatIsWritten)
+{
+    Watcher first(live);
+    Watcher second(live);
+    std::string order;
+    first.owner.onUpdate = [&] { order += '1'; };
+    second.owner.onUpdate = [&] { order += '2'; };
+    std::vector<std::uint8_t> record;
+    RecordWriter writer(record, 3);
+    first.source.Fields(writer);
+    Raise();
+    EXPECT_EQ(order, "12");
 }
 
 TEST_F(TheRouter, ForgetsSitesThatNobodyFollows)

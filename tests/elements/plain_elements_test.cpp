@@ -294,6 +294,22 @@ TEST(ACommandWithLed, LoadsWithTheLampAsItIs)
     EXPECT_TRUE(button.Shown().Active());
 }
 
+TEST(ALiveLamp, HearsTheServerByWhatItGotOfARecordThatEndsWithinItsSource)
+{
+    FakeServer server;
+    OnCanvas<clsLEDRect> whole;
+    whole.element.BlnDataSource.Set(&clsBlnDataSource::BlnDataType, watch::anyAlarms);
+    std::vector<std::uint8_t> record;
+    std::int32_t checksum = 0;
+    whole.element.SaveToArray(record, checksum);
+    OnCanvas<clsLEDRect> lamp(false, &server);
+    const std::span<const std::uint8_t> payload = std::span(record).subspan(3);
+    EXPECT_THROW(lamp.element.ReadFromArray(payload.first(payload.size() - 3)), Failure) << "ends behind the type";
+    server.appAlarms = true;
+    server.AlarmFlagChange.Raise("Ridge", 3, true, true);
+    EXPECT_TRUE(lamp.Shown().Active());
+}
+
 TEST(ACommandButton, FollowsTheServerInALiveView)
 {
     FakeServer server;
