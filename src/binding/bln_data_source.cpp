@@ -8,10 +8,14 @@
 #include "binding/sites.h"
 #include "binding/source_trace.h"
 
+#include <charconv>
+#include <cmath>
+
 namespace quor {
 
 namespace {
 
+// "True" and "False" in any case, or a decimal number without blanks.
 bool ToBoolean(const std::string& text)
 {
     if (SameText(text, "True")) {
@@ -20,9 +24,9 @@ bool ToBoolean(const std::string& text)
     if (SameText(text, "False")) {
         return false;
     }
-    std::size_t read = 0;
     double number = 0;
-    if (!IgnoreFailure([&] { number = std::stod(text, &read); }) || read != text.size()) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) {
         throw Failure(failures::typeMismatch);
     }
     return number != 0;
@@ -91,18 +95,18 @@ void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
     if (m_live.Trace != nullptr) {
         m_live.Trace->UpdateBlnData(*this, value, mute);
     }
-    UpdateBlnData.Raise(value, mute);
-    // The owner is last: it may end the source.
+    // Last: the owner may end the source.
     IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
 }
 
-void clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
+bool clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
 {
     if (m_live.Trace != nullptr) {
         m_live.Trace->LabelData(*this, on, off);
     }
-    LabelData.Raise(on, off);
+    const std::weak_ptr<char> life = Life();
     IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
+    return !life.expired();
 }
 
 void clsBlnDataSource::RefreshData()
@@ -120,16 +124,20 @@ void clsBlnDataSource::Refresh()
         break;
     case watch::primaryPath:
     case watch::backupPath:
-        RaiseLabel("Connected", "Not Connected");
-        SetValue(m_live.TheServer().Sites().Item(Site()).UsingBackup() == (BlnDataType() == watch::backupPath), false);
+        if (RaiseLabel("Connected", "Not Connected")) {
+            const bool isOnBackup = m_live.TheServer().Sites().Item(Site()).UsingBackup();
+            SetValue(isOnBackup == (BlnDataType() == watch::backupPath), false);
+        }
         break;
     case watch::siteAlarms:
-        RaiseLabel("Alarms Present on " + Site(), "No Alarms Present on " + Site());
-        SetValue(m_live.TheServer().Sites().Item(Site()).SiteAlarms(), false);
+        if (RaiseLabel("Alarms Present on " + Site(), "No Alarms Present on " + Site())) {
+            SetValue(m_live.TheServer().Sites().Item(Site()).SiteAlarms(), false);
+        }
         break;
     case watch::anyAlarms:
-        RaiseLabel("Alarm(s) Present", "No Alarms Present");
-        SetValue(m_live.TheServer().AppAlarms(), false);
+        if (RaiseLabel("Alarm(s) Present", "No Alarms Present")) {
+            SetValue(m_live.TheServer().AppAlarms(), false);
+        }
         break;
     default:
         if (!HasData) {
@@ -147,12 +155,10 @@ void clsBlnDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
     if (WatchesLimits()) {
         TakeLimits(event);
     }
-    const std::weak_ptr<char> life = Life();
-    Label(event);
-    if (life.expired()) {
-        return; // the captions' handler has ended this source
+    if (!Label(event)) {
+        return;
     }
-    if (WatchesLimits() && LastValue > NoData) {
+    if (WatchesLimits() && !(LastValue <= NoData)) { // what is no number is a value, too
         SetValue(IsOutside(), false);
     } else if (BlnDataType() == watch::macroRunning) {
         SetValue(ToBoolean(event.MacroNames.FromLower(Channel() - 1, 1)), false);
@@ -174,13 +180,13 @@ void clsBlnDataSource::TakeLimits(const ConfigDataEvent& event)
     take(watch::aboveSecondUpper, LimitSecondUpper, 3);
 }
 
-void clsBlnDataSource::Label(const ConfigDataEvent& event)
+bool clsBlnDataSource::Label(const ConfigDataEvent& event)
 {
     const std::int32_t index = Channel() - 1;
     const auto two = [&](const std::string& label, const char* on, const char* off) {
-        RaiseLabel(label + on, label + off);
+        return RaiseLabel(label + on, label + off);
     };
-    const auto meter = [&](const char* on, const char* off) { two(event.MtrLabels.FromLower(index), on, off); };
+    const auto meter = [&](const char* on, const char* off) { return two(event.MtrLabels.FromLower(index), on, off); };
     switch (BlnDataType()) {
     case watch::belowSecondLower:
         return meter(" is below 2nd lower limit", " is in tolerance");
@@ -211,7 +217,7 @@ void clsBlnDataSource::Label(const ConfigDataEvent& event)
     case watch::statusOn:
         return RaiseLabel(event.StatusLabels.FromLower(index, 1), event.StatusLabels.FromLower(index, 0));
     default: // alarms and links get no captions here, those of a unit's alarms from nowhere
-        return;
+        return true;
     }
 }
 
@@ -302,10 +308,8 @@ void clsBlnDataSource::m_Srv_Disconnected(const std::string& netName, std::int32
 
 bool clsBlnDataSource::OtherSiteAlarms(const std::string& netName) const
 {
-    bool found = false;
-    m_live.TheServer().Sites().ForEach(
-        [&](TeskSite& site) { found = found || (site.NetName() != netName && site.SiteAlarms()); });
-    return found;
+    return m_live.TheServer().Sites().AnyOf(
+        [&](const TeskSite& site) { return site.NetName() != netName && site.SiteAlarms(); });
 }
 
 void clsBlnDataSource::m_Srv_AlarmFlagChange(const std::string& netName, std::uint8_t unit, bool alarmsPending,

@@ -1,7 +1,6 @@
 #pragma once
 // What a status element watches, and the one Boolean that comes of it.
 
-#include "base/event.h"
 #include "base/property.h"
 #include "binding/router.h"
 #include "document/format/field_walk.h"
@@ -42,10 +41,10 @@ inline constexpr std::int32_t macroRunning = 17;
 inline constexpr std::int32_t statusOn = 18;
 } // namespace watch
 
-// The element that owns a source hears it without a subscription, behind those that have one. It may end the source;
-// they don't.
+// The element that owns a source and hears it. It may end the source while it hears.
 class BlnOwner {
 public:
+    // The value, and whether it isn't to be trusted.
     virtual void m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute) = 0;
     virtual void m_BlnDataSource_LabelData(const std::string& /*strCaptionOn*/, const std::string& /*strCaptionOff*/) {}
 
@@ -61,9 +60,6 @@ public:
     Property<"Unit", std::uint8_t> Unit;
     Property<"Channel", std::uint8_t> Channel; // from 1; a macro for macroRunning
     Property<"Site", std::string> Site;
-
-    Event<bool, bool> UpdateBlnData;                         // value, and whether it isn't to be trusted
-    Event<const std::string&, const std::string&> LabelData; // captions for on and off
 
     // Hears the server unless the program is in design mode now.
     clsBlnDataSource(Live& live, BlnOwner& owner);
@@ -106,10 +102,11 @@ private:
     }
     void SetValue(bool value, bool mute);
     void Refresh();
-    void Label(const ConfigDataEvent& event);
     std::weak_ptr<char> Life(); // expires with the source
     void RaiseUpdate(bool value, bool mute);
-    void RaiseLabel(const std::string& on, const std::string& off);
+    // False if the owner has ended the source by it.
+    [[nodiscard]] bool RaiseLabel(const std::string& on, const std::string& off);
+    [[nodiscard]] bool Label(const ConfigDataEvent& event);
     void TakeLimits(const ConfigDataEvent& event);
     float FirstLimit() const noexcept;
     bool IsOutside() const noexcept;

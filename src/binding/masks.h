@@ -7,13 +7,17 @@
 
 namespace quor {
 
-// The bit of a channel from 1. A channel that no mask has fails with 11, as the division by its power does.
+// The bit of a channel from 1. The mask is taken as a signed number, so that channels 17 to 31 read the sign of channel
+// 16. Fails with 11 for channel 0, whose power is 0, and with 6 from 32 on, where the power leaves 32 bits.
 inline bool BitOf(std::int16_t mask, std::uint8_t channel)
 {
-    if (channel < 1 || channel > 16) {
+    if (channel == 0) {
         throw Failure(failures::divisionByZero);
     }
-    return ((static_cast<std::uint16_t>(mask) >> (channel - 1U)) & 1U) != 0;
+    if (channel > 31) {
+        throw Failure(failures::overflow);
+    }
+    return ((std::int32_t{mask} >> (channel - 1)) & 1) != 0;
 }
 
 } // namespace quor

@@ -1,6 +1,7 @@
 #include "binding/mtr_data_source.h"
 
 #include "base/guard.h"
+#include "base/narrow.h"
 #include "binding/bln_data_source.h"
 #include "binding/live.h"
 #include "binding/masks.h"
@@ -13,9 +14,9 @@ namespace {
 
 // The counts of a 12-bit converter: signed for a meter that reads both ways, else unsigned.
 constexpr std::uint8_t bothWays = 1;
-constexpr float leastSigned = -2048;
-constexpr float mostSigned = 2047;
-constexpr float mostUnsigned = 4095;
+constexpr double leastSigned = -2048;
+constexpr double mostSigned = 2047;
+constexpr double mostUnsigned = 4095;
 
 } // namespace
 
@@ -79,11 +80,11 @@ void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
         return;
     }
     const std::int32_t index = Channel() - 1;
-    const float count = event.CalibConst.FromLower(index);
+    const double count = event.CalibConst.FromLower(index);
     const bool isSigned = event.MtrTypes.FromLower(index) == bothWays;
     const auto limit = [&](std::int32_t row) { return event.Limits.FromLower(index, row); };
-    RaiseLabel({event.MtrLabels.FromLower(index), isSigned ? count * leastSigned : 0,
-                count * (isSigned ? mostSigned : mostUnsigned), limit(0), limit(1), limit(2), limit(3)});
+    RaiseLabel({event.MtrLabels.FromLower(index), ToSingle(isSigned ? count * leastSigned : 0),
+                ToSingle(count * (isSigned ? mostSigned : mostUnsigned)), limit(0), limit(1), limit(2), limit(3)});
 }
 
 void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)

@@ -54,11 +54,6 @@ void Router::FollowAll(TeskServer& server, ServerListener& listener)
     m_all.Append(listener);
 }
 
-void Router::Leave(ServerListener& listener) noexcept
-{
-    static_cast<RingNode&>(listener).Leave();
-}
-
 Router::Site& Router::SiteOf(const std::string& name)
 {
     if (Site* known = FindSite(name)) {

@@ -2,7 +2,11 @@
 // Brings each event of the server to the sources that it can concern, and to no other.
 //
 // A source says what it follows: a unit of a site, a whole site, or all sites. A listener may leave, end others, or
-// follow something else while an event is under way; who comes new waits for the next event.
+// follow something else while an event is under way.
+//
+// The followers of one unit, of one site and of all sites are a ring each, and an event that concerns several walks one
+// ring after the other. Who comes new to a ring that is being walked waits for the next event, also who was in it and
+// binds itself anew; who moves to a ring whose turn is still to come is called there, even if it was called before.
 
 #include "base/event.h"
 #include "base/ring.h"
@@ -60,7 +64,6 @@ public:
     void FollowUnit(TeskServer& server, ServerListener& listener, const std::string& site, std::uint8_t unit);
     void FollowSite(TeskServer& server, ServerListener& listener, const std::string& site);
     void FollowAll(TeskServer& server, ServerListener& listener);
-    void Leave(ServerListener& listener) noexcept;
 
     // How many sites are known, those lately deserted too.
     std::size_t SiteCount() const noexcept { return m_sites.size(); }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace quor {
 namespace {
 
@@ -136,6 +138,73 @@ TEST_F(AStatusSource, IgnoresOtherSitesAndUnitsUnlessItWatchesThem)
     }
 }
 
+// By type: whether 9.5, 10, 15, 20, 50, 80, 85, 90 and 95 are outside of it.
+struct LimitCase {
+    std::vector<float> limits;
+    const char* outside[5];
+};
+
+const LimitCase limitCases[] = {
+    {{10, 20, 80, 90}, {"100000000", "111000000", "000000111", "000000001", "111000111"}},
+    {{20, 10, 90, 80}, {"111000000", "100000000", "000000001", "000000111", "111000111"}},
+};
+
+TEST_F(AStatusSource, ComparesAValueWithEachLimitByItself)
+{
+    for (const LimitCase& each : limitCases) {
+        ConfigDataEvent config = ConfigOf("Ridge", 2);
+        config.Limits = {each.limits, 4};
+        for (std::int32_t type = watch::belowSecondLower; type <= watch::outsideLimits; ++type) {
+            const auto source = Watch(type);
+            server.ConfigData.Raise(config);
+            owner.Take();
+            for (const float value : {9.5F, 10.0F, 15.0F, 20.0F, 50.0F, 80.0F, 85.0F, 90.0F, 95.0F}) {
+                server.Values.Raise(ValuesOf("Ridge", 2, value, 0));
+            }
+            EXPECT_EQ(owner.Take(), each.outside[type - 1]) << "type " << type;
+        }
+    }
+}
+
+TEST_F(AStatusSource, PassesNoLimitThatIsNotKnown)
+{
+    for (std::int32_t type = watch::belowSecondLower; type <= watch::outsideLimits; ++type) {
+        for (std::size_t unknown = 0; unknown < 4; ++unknown) {
+            ConfigDataEvent config = ConfigOf("Ridge", 2);
+            std::vector<float> limits = {10, 20, 80, 90};
+            limits[unknown] = NoData;
+            config.Limits = {limits, 4};
+            const auto source = Watch(type);
+            const auto after = [&](float value) {
+                server.Values.Raise(ValuesOf("Ridge", 2, value, 0));
+                return owner.Take();
+            };
+            EXPECT_EQ(after(-20000) + after(95), "00") << "nothing is known yet of type " << type;
+            server.ConfigData.Raise(config);
+            owner.Take();
+            // For all four it is the second lower alone that must be known.
+            const std::size_t asked = type == watch::outsideLimits ? 0 : static_cast<std::size_t>(type - 1);
+            const bool isUpper = type == watch::aboveFirstUpper || type == watch::aboveSecondUpper;
+            EXPECT_EQ(after(isUpper ? 95 : -20000), unknown == asked ? "0" : "1") << type << ' ' << unknown;
+        }
+    }
+}
+
+TEST_F(AStatusSource, TakesAFlagThatIsABooleanOrANumberAndNoOther)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"True", "1"}, {"fALSE", "0"}, {"-1", "1"}, {"0", "0"}, {"2.5e-3", "1"}, {"", ""},    {"yes", ""},
+        {"nan", ""},   {"inf", ""},    {"0x1", ""}, {" 1", ""}, {"1 ", ""},      {"0,5", ""}, {"1e999", ""},
+    };
+    const auto source = Watch(watch::macroRunning);
+    for (const auto& [flag, expected] : cases) {
+        ConfigDataEvent config = ConfigOf("Ridge", 2);
+        config.MacroNames = {{"Warm up", flag}, 2};
+        server.ConfigData.Raise(config);
+        EXPECT_EQ(owner.Take(), std::string("[Warm up (Running)|Warm up (Idle)]") + expected) << flag;
+    }
+}
+
 TEST_F(AStatusSource, WorksOutALimitWhicheverOfValueAndLimitComesFirst)
 {
     const auto source = Watch(watch::belowSecondLower);
@@ -151,6 +220,9 @@ TEST_F(AStatusSource, WorksOutALimitWhicheverOfValueAndLimitComesFirst)
     EXPECT_EQ(owner.Take(), "1");
     server.ConfigData.Raise(ConfigOf("Ridge", 2));
     EXPECT_EQ(owner.Take(), "[Power is below 2nd lower limit|Power is in tolerance]") << "that was no value";
+    server.Values.Raise(ValuesOf("Ridge", 2, std::numeric_limits<float>::quiet_NaN(), 0));
+    server.ConfigData.Raise(ConfigOf("Ridge", 2));
+    EXPECT_EQ(owner.Take(), "0[Power is below 2nd lower limit|Power is in tolerance]0") << "below no limit";
 }
 
 TEST_F(AStatusSource, RefreshesFromWhatTheServerKnowsAndAsksForTheRest)
@@ -169,6 +241,13 @@ TEST_F(AStatusSource, RefreshesFromWhatTheServerKnowsAndAsksForTheRest)
         EXPECT_EQ(owner.Take(), expected) << "type " << type;
     }
     EXPECT_EQ(server.calls, std::vector<std::string>{"Sites.Item(\"Ridge\").Units.Item(2).RequestConfig"});
+    const auto bound = Watch(watch::statusOn);
+    server.Values.Raise(ValuesOf("Ridge", 2, 0, 1));
+    bound->RefreshData();
+    server.Disconnected.Raise("Ridge", 0);
+    bound->RefreshData();
+    EXPECT_EQ(owner.Take(), "1m0m");
+    EXPECT_EQ(server.calls.size(), 1U) << "it has had data and doesn't ask again";
     const auto lost = Watch(watch::primaryPath);
     lost->Set(&clsBlnDataSource::Site, "Nowhere");
     lost->RefreshData();
@@ -177,9 +256,19 @@ TEST_F(AStatusSource, RefreshesFromWhatTheServerKnowsAndAsksForTheRest)
 
 TEST_F(AStatusSource, EndsAHandlerSilentlyWhereAChannelIsOutOfReach)
 {
-    for (const int channel : {0, 17, 255}) {
+    for (const int channel : {0, 32, 255}) {
         const auto source = Watch(watch::statusOn, static_cast<std::uint8_t>(channel));
         EXPECT_EQ(AllEvents("Ridge", 2), "///0m////") << channel;
+    }
+}
+
+TEST_F(AStatusSource, ReadsTheSignOfTheMaskBehindItsSixteenChannels)
+{
+    for (const int channel : {17, 31}) {
+        const auto source = Watch(watch::statusOn, static_cast<std::uint8_t>(channel));
+        EXPECT_EQ(AllEvents("Ridge", 2), "/0//0m////") << channel;
+        server.Values.Raise(ValuesOf("Ridge", 2, 0, -32768));
+        EXPECT_EQ(owner.Take(), "1m") << channel;
     }
 }
 

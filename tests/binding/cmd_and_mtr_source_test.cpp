@@ -3,6 +3,7 @@
 #include "binding/live.h"
 #include "binding/mtr_data_source.h"
 #include "tests/support/fake_boxes.h"
+#include "tests/support/fake_files.h"
 #include "tests/support/fake_login.h"
 #include "tests/support/fake_server.h"
 
@@ -16,13 +17,14 @@ struct ASource : testing::Test {
     FakeLogin login;
     FakeBoxes boxes;
     Live live;
+    FakeUnit& unit = server.Add("Ridge").Add(2);
 
     ASource()
     {
         live.Server = &server;
         live.Login = &login;
         live.Boxes = &boxes;
-        server.Add("Ridge").Add(2);
+        unit.name = "Exciter";
     }
 };
 
@@ -36,17 +38,18 @@ struct Action {
     bool needsSite;
     bool needsRemote;
     const char* call;
+    const char* captions; // of a refresh, then of a configuration
 };
 
 const Action everyAction[] = {
-    {actions::commandA, 1, true, true, "Commands.Item(3).IssueA"},
-    {actions::commandB, 1, true, true, "Commands.Item(3).IssueB"},
-    {actions::runMacro, 2, true, true, "RunMacro(4)"},
-    {actions::stopMacro, 2, true, true, "StopMacro(4)"},
-    {actions::stopAllMacros, 2, true, true, "StopAllMacros"},
-    {actions::clearSiteAlarms, 3, true, false, "ClearAlarms"},
-    {actions::clearUnitAlarms, 3, true, false, "ClearAlarms"},
-    {actions::clearAllAlarms, 3, true, false, "ClearAlarms"},
+    {actions::commandA, 1, true, true, "Commands.Item(3).IssueA", "|Raise"},
+    {actions::commandB, 1, true, true, "Commands.Item(3).IssueB", "|Lower"},
+    {actions::runMacro, 2, true, true, "RunMacro(4)", "|Run: Warm up"},
+    {actions::stopMacro, 2, true, true, "StopMacro(4)", "|Stop: Warm up"},
+    {actions::stopAllMacros, 2, true, true, "StopAllMacros", "Stop Macros on Exciter|"},
+    {actions::clearSiteAlarms, 3, true, false, "ClearAlarms", "Clear Alarms on Ridge|"},
+    {actions::clearUnitAlarms, 3, true, false, "ClearAlarms", "Clear Alarms on Exciter|"},
+    {actions::clearAllAlarms, 3, true, false, "ClearAlarms", "Clear All Alarms|"},
 };
 
 TEST_F(ASource, LocksAnActionForTheFirstConditionThatFailsAndRunsItOtherwise)
@@ -86,6 +89,46 @@ TEST_F(ASource, LocksAnActionForTheFirstConditionThatFailsAndRunsItOtherwise)
     }
 }
 
+TEST_F(ASource, NamesItsActionAndAsksForItsLabelUntilItIsKnown)
+{
+    ConfigDataEvent config{"Ridge", 2, {}, {}, {}, {}, {}, {}, {}};
+    config.CmdLabels = {{"", "", "", "", "", "", "Raise", "Lower"}, 2};
+    config.MacroNames = {{"", "", "", "", "", "", "Warm up", "True"}, 2};
+    unit.localMode = true;
+    for (const Action& action : everyAction) {
+        clsCmdDataSource source(live);
+        std::string captions;
+        const Subscription heard = source.LabelData.Subscribe([&](const std::string& text) { captions += text; });
+        source.Set(&clsCmdDataSource::CmdDataType, action.type);
+        source.Set(&clsCmdDataSource::Site, "Ridge");
+        source.Set(&clsCmdDataSource::Unit, 2);
+        source.Set(&clsCmdDataSource::Channel, 4);
+        source.RefreshData();
+        EXPECT_EQ(source.LockReason(), action.type == actions::stopAllMacros ? local : "") << action.type;
+        captions += '|';
+        server.ConfigData.Raise(config);
+        EXPECT_EQ(captions, action.captions) << action.type;
+        const auto asks = static_cast<std::size_t>(captions.front() == '|' ? 1 : 0);
+        source.RefreshData();
+        EXPECT_EQ(std::exchange(server.calls, {}).size(), asks) << action.type;
+    }
+}
+
+TEST_F(ASource, NamesTheViewThatItOpensByItsTitle)
+{
+    FakeFiles files;
+    live.ViewFiles = &files;
+    files.PutText("damaged.qvw", "QUOR4VIEW");
+    clsCmdDataSource source(live);
+    std::string caption;
+    const Subscription heard = source.LabelData.Subscribe([&](const std::string& text) { caption = text; });
+    source.Set(&clsCmdDataSource::CmdDataType, actions::openView);
+    source.Set(&clsCmdDataSource::Site, "damaged.qvw");
+    source.RefreshData();
+    EXPECT_EQ(caption, "ERROR - Invalid File");
+    EXPECT_TRUE(source.CmdEnabled());
+}
+
 TEST_F(ASource, AsksForTheCtrlKeyBeforeItSpeaksOfALock)
 {
     clsCmdDataSource source(live);
@@ -120,20 +163,25 @@ TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
     source.Set(&clsMtrDataSource::Site, "Ridge");
     source.Set(&clsMtrDataSource::Unit, 2);
     source.Set(&clsMtrDataSource::Channel, 1);
-    for (const std::uint8_t type : {std::uint8_t{1}, std::uint8_t{2}}) {
+    const auto configure = [&](std::uint8_t type, float count) {
         ConfigDataEvent config{"Ridge", 2, {}, {}, {}, {}, {}, {}, {}};
         config.Limits = {{10, 20, 80, 90}, 4};
         config.MtrLabels = ServerArray<std::string>({"Power"});
-        config.CalibConst = ServerArray<float>({0.5F});
+        config.CalibConst = ServerArray<float>({count});
         config.MtrTypes = ServerArray<std::uint8_t>({type});
         server.ConfigData.Raise(config);
-    }
+    };
+    configure(1, 0.5F);
+    configure(2, 0.5F);
     ASSERT_EQ(owner.labels.size(), 2U);
     EXPECT_EQ(owner.labels[0].sngMin, -1024);
     EXPECT_EQ(owner.labels[0].sngMax, 1023.5F);
     EXPECT_EQ(owner.labels[1].sngMin, 0);
     EXPECT_EQ(owner.labels[1].sngMax, 2047.5F);
     EXPECT_EQ(owner.labels[1].sngSecondUpper, 90);
+    configure(1, 3e35F);
+    configure(2, 3e35F);
+    EXPECT_EQ(owner.labels.size(), 2U) << "a scale that is no number is told to nobody";
 
     server.Values.Raise({"Ridge", 2, 0, 0, 0, 0, 1, ServerArray<float>({42})});
     source.RefreshData();

@@ -68,6 +68,10 @@ TEST_F(TheRouter, BearsThatTheCaptionsEndTheirSource)
     };
     Ender ender;
     ender.source = std::make_unique<clsBlnDataSource>(live, ender);
+    ender.source->Set(&clsBlnDataSource::BlnDataType, watch::anyAlarms);
+    ender.source->RefreshData();
+    EXPECT_EQ(ender.source, nullptr);
+    ender.source = std::make_unique<clsBlnDataSource>(live, ender);
     ender.source->Set(&clsBlnDataSource::BlnDataType, watch::macroRunning);
     ender.source->Set(&clsBlnDataSource::Channel, 1);
     ender.source->Set(&clsBlnDataSource::Site, "Ridge");
