@@ -26,6 +26,15 @@ struct ASource : testing::Test {
         live.Boxes = &boxes;
         unit.name = "Exciter";
     }
+
+    static void Start(clsCmdDataSource& source, std::int32_t action)
+    {
+        source.Set(&clsCmdDataSource::CmdDataType, action);
+        source.Set(&clsCmdDataSource::Site, "Ridge");
+        source.Set(&clsCmdDataSource::Unit, 2);
+        source.Set(&clsCmdDataSource::Channel, 4);
+        source.RefreshData();
+    }
 };
 
 constexpr std::string_view offLine = "The site/unit is not connected.";
@@ -56,11 +65,7 @@ TEST_F(ASource, LocksAnActionForTheFirstConditionThatFailsAndRunsItOtherwise)
 {
     for (const Action& action : everyAction) {
         clsCmdDataSource source(live);
-        source.Set(&clsCmdDataSource::CmdDataType, action.type);
-        source.Set(&clsCmdDataSource::Site, "Ridge");
-        source.Set(&clsCmdDataSource::Unit, 2);
-        source.Set(&clsCmdDataSource::Channel, 4);
-        source.RefreshData();
+        Start(source, action.type);
         EXPECT_TRUE(source.CmdEnabled()) << action.type;
         server.calls.clear();
         source.RunCommand(0);
@@ -99,11 +104,7 @@ TEST_F(ASource, NamesItsActionAndAsksForItsLabelUntilItIsKnown)
         clsCmdDataSource source(live);
         std::string captions;
         const Subscription heard = source.LabelData.Subscribe([&](const std::string& text) { captions += text; });
-        source.Set(&clsCmdDataSource::CmdDataType, action.type);
-        source.Set(&clsCmdDataSource::Site, "Ridge");
-        source.Set(&clsCmdDataSource::Unit, 2);
-        source.Set(&clsCmdDataSource::Channel, 4);
-        source.RefreshData();
+        Start(source, action.type);
         EXPECT_EQ(source.LockReason(), action.type == actions::stopAllMacros ? local : "") << action.type;
         captions += '|';
         server.ConfigData.Raise(config);
@@ -179,7 +180,7 @@ TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
     EXPECT_EQ(owner.labels[1].sngMin, 0);
     EXPECT_EQ(owner.labels[1].sngMax, 2047.5F);
     EXPECT_EQ(owner.labels[1].sngSecondUpper, 90);
-    configure(1, 3e35F);
+    configure(1, 1.662e35F); // times 2,047 it would fit
     configure(2, 3e35F);
     EXPECT_EQ(owner.labels.size(), 2U) << "a scale that is no number is told to nobody";
 

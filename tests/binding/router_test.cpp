@@ -60,7 +60,7 @@ TEST_F(TheRouter, BearsThatTheCaptionsEndTheirSource)
 {
     struct Ender final : BlnOwner {
         std::unique_ptr<clsBlnDataSource> source;
-        void m_BlnDataSource_UpdateBlnData(bool /*value*/, bool /*mute*/) override {}
+        void m_BlnDataSource_UpdateBlnData(bool /*value*/, bool /*mute*/) override { ADD_FAILURE() << "it is gone"; }
         void m_BlnDataSource_LabelData(const std::string& /*on*/, const std::string& /*off*/) override
         {
             source.reset();

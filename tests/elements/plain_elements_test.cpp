@@ -310,19 +310,5 @@ TEST(ALiveLamp, HearsTheServerByWhatItGotOfARecordThatEndsWithinItsSource)
     EXPECT_TRUE(lamp.Shown().Active());
 }
 
-TEST(ACommandButton, FollowsTheServerInALiveView)
-{
-    FakeServer server;
-    server.Add("Ridge").Add(3).macros[4] = "Warm up";
-    OnCanvas<clsCommand> button(false, &server);
-    auto& action = button.element.ClickAction;
-    action.Set(&clsCmdDataSource::CmdDataType, actions::runMacro);
-    action.Set(&clsCmdDataSource::Site, "Ridge");
-    action.Set(&clsCmdDataSource::Unit, 3);
-    action.Set(&clsCmdDataSource::Channel, 5);
-    server.Disconnected.Raise("Ridge", 0);
-    EXPECT_FALSE(button.Shown().Enabled());
-}
-
 } // namespace
 } // namespace quor
