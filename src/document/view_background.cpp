@@ -36,6 +36,14 @@ void clsCustView::SetBackground(const std::string& path, std::int32_t mode)
     RepaintAll();
 }
 
+// The canvas may show the ground of the view before, or of the file that failed; a save writes what it shows.
+void clsCustView::ShowPlainGround()
+{
+    Set(&clsCustView::BGColor, colors::buttonFace);
+    Set(&clsCustView::BGPicture, std::string());
+    Set(&clsCustView::BGPicMode, picture_modes::centered);
+}
+
 void clsCustView::HideBackground()
 {
     m_canvas.SetPicture(nullptr, m_canvas.PictureMode());

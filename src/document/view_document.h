@@ -109,6 +109,7 @@ private:
     void Written(const decltype(BGPicture)&);
     void SetBackground(const std::string& path, std::int32_t mode);
     void HideBackground();
+    void ShowPlainGround();
     void ShowMessage(const std::string& path, std::string_view words);
 
     bool Open(const std::string& path, std::unique_ptr<OpenFile>& file);

@@ -27,8 +27,8 @@ bool clsCustView::LoadFile(const std::string& path)
           [&] { isLoaded = Open(path, file); });
     file.reset();
     m_ports.progress.CloseMe();
-    if (m_verdict == LoadVerdict::Failure) {
-        IgnoreFailure([&] { HideBackground(); });
+    if (!isLoaded) {
+        IgnoreFailure([&] { ShowPlainGround(); });
     }
     return isLoaded;
 }

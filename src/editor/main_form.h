@@ -90,6 +90,8 @@ public:
     // A key on the canvas or a widget. Delete (46) asks for the deletion, Escape (27) gives up a drag or a sizing; no
     // other one does anything.
     void KeyDown(std::int16_t code);
+    // The commands on the selection, at the pointer.
+    void ShowToolPopup();
 
     // Sizing (main_size.cpp): from the press on a handle to the release. The distance is the pointer's since the press.
     void BeginSizing(std::size_t handle);

@@ -83,7 +83,7 @@ void frmMain::Release(const CanvasTarget& target, MouseButton button, float /*x*
     case CanvasTarget::What::Element:
         Guard(m_ports.reporter, Ref("frmMain.Widget_MouseUp"), editWords, [&] {
             if (button == MouseButton::Right) {
-                m_bars->PopupBand("bndToolPopup");
+                ShowToolPopup();
             }
         });
         break;
@@ -107,7 +107,12 @@ void frmMain::Canvas_Release(bool isBackground, MouseButton button)
     if (!isBackground) {
         ReleaseControl();
     }
-    m_bars->PopupBand("bndToolPopup");
+    ShowToolPopup();
+}
+
+void frmMain::ShowToolPopup()
+{
+    Guard(m_ports.reporter, Ref("frmMain.Widget_MouseUp"), editWords, [&] { m_bars->PopupBand("bndToolPopup"); });
 }
 
 void frmMain::ssScroll_Click()

@@ -31,8 +31,9 @@ struct CanvasTarget {
     float top = 0;
 };
 
-// The foremost at that place: visible handles, widgets, the background image, the canvas.
-CanvasTarget HitTest(const Canvas& canvas, float x, float y) noexcept;
+// The foremost at that place: visible handles, widgets, the background image, the canvas. A widget is pressed on 7 x 7
+// pixels at least, and one that can't be scrolled to at the canvas's edge. `shown` is what the user sees of the canvas.
+CanvasTarget HitTest(const Canvas& canvas, const Area& shown, float x, float y) noexcept;
 
 // The outline that follows the pointer.
 struct DragOutline {

@@ -63,14 +63,14 @@ constexpr EditorTool toolRows[] = {
 
     {{52, "miToolbox", "&Toolbox", "View Toolbox", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolbox", "bndToolbox"); }},
     {{51, "miToolProps", "Tool &Properties", "View Tool Properties", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolProps", "bndObjProps"); }},
-    {{49, "miGrid", "&Grid", "View Grid", "View"}, [](frmMain& main) { main.ToggleGrid(); }},
+    {{49, "miGrid", "&Grid", "View Grid", "View", Enabled, "Ctrl+G"}, [](frmMain& main) { main.ToggleGrid(); }},
 
     {{48, "miOrder", "&Order", "", "Format", Enabled, "", "bndOrder"}},
     {{57, "miAlignToGrid", "Align to &Grid", "", "Format", Disabled}, [](frmMain& main) { main.AlignToGrid(); }},
     {{58, "miSizeToGrid", "Size to Gri&d", "", "Format", Disabled}, [](frmMain& main) { main.SizeToGrid(); }},
-    {{32, "miSnapToGrid", "&Snap to Grid", "", "Format"}, [](frmMain& main) { main.ToggleSnap(); }},
-    {{31, "miBringFront", "Bring to &Front", "", "Format", Disabled}, [](frmMain& main) { main.ReorderControl(true); }},
-    {{30, "miSendBack", "Send to &Back", "", "Format", Disabled}, [](frmMain& main) { main.ReorderControl(false); }},
+    {{32, "miSnapToGrid", "&Snap to Grid", "", "Format", Enabled, "Ctrl+Shift+G"}, [](frmMain& main) { main.ToggleSnap(); }},
+    {{31, "miBringFront", "Bring to &Front", "", "Format", Disabled, "Ctrl+Shift+F", "", KeyScope::Canvas}, [](frmMain& main) { main.ReorderControl(true); }},
+    {{30, "miSendBack", "Send to &Back", "", "Format", Disabled, "Ctrl+Shift+B", "", KeyScope::Canvas}, [](frmMain& main) { main.ReorderControl(false); }},
 
     {{36, insertTools[0], "Text Meter", "", "Tools"}, Insert<0>},
     {{34, insertTools[1], "Angular Meter", "", "Tools"}, Insert<1>},

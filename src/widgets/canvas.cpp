@@ -22,7 +22,22 @@ bool IsPlain(const Area& area) noexcept
     constexpr float far = 1e6F; // twips
     return area.left > -far && area.top > -far && area.left + area.width < far && area.top + area.height < far;
 }
+
+GridFamily FamilyOf(float step, float end, float length) noexcept
+{
+    return {step, length, step > 0 ? static_cast<int>(end / step) : 0};
+}
 } // namespace
+
+GridFamily HorizontalLines(const GridLines& grid) noexcept
+{
+    return FamilyOf(grid.stepY, grid.height, grid.width);
+}
+
+GridFamily VerticalLines(const GridLines& grid) noexcept
+{
+    return FamilyOf(grid.stepX, grid.width, grid.height);
+}
 
 Area United(const Area& one, const Area& other) noexcept
 {
@@ -180,16 +195,6 @@ void Canvas::Unlink(Widget& widget) noexcept
 {
     (widget.m_below == nullptr ? m_back : widget.m_below->m_above) = widget.m_above;
     (widget.m_above == nullptr ? m_front : widget.m_above->m_below) = widget.m_below;
-}
-
-Widget* Canvas::WidgetAt(float x, float y) const noexcept
-{
-    for (Widget* widget = m_front; widget != nullptr; widget = widget->m_below) {
-        if (widget->Visible() && Contains(widget->Bounds(), x, y)) {
-            return widget;
-        }
-    }
-    return nullptr;
 }
 
 void Canvas::SetHandle(std::size_t index, const GrabHandle& handle)

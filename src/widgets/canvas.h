@@ -64,6 +64,17 @@ struct GridLines {
     friend bool operator==(const GridLines&, const GridLines&) = default;
 };
 
+// The lines of one direction: the first lies a step from the view's edge, as the others lie from one another.
+struct GridFamily {
+    float step;
+    float length;
+    int count;
+
+    float PlaceOf(int line) const { return static_cast<float>(line) * step; } // lines count from 1
+};
+GridFamily HorizontalLines(const GridLines& grid) noexcept;
+GridFamily VerticalLines(const GridLines& grid) noexcept;
+
 class Canvas {
 public:
     static constexpr float handleSize = 105; // twips
@@ -106,8 +117,6 @@ public:
     void Detach(Widget& widget) noexcept;
     void BringToFront(Widget& widget);
     void SendToBack(Widget& widget);
-    // The frontmost visible widget at that place, or null.
-    Widget* WidgetAt(float x, float y) const noexcept;
 
     const std::array<GrabHandle, handleCount>& Handles() const noexcept { return m_handles; }
     void SetHandle(std::size_t index, const GrabHandle& handle);

@@ -10,6 +10,7 @@ namespace quor {
 namespace {
 
 struct TheMainForm : EditorFixture {
+    static constexpr Color green{0x0000FF00};
     int ends = 0;
     Subscription ending = main.Unloaded.Subscribe([this] { ++ends; });
 
@@ -18,14 +19,26 @@ struct TheMainForm : EditorFixture {
         return {element.ObjLeft(), element.ObjTop(), element.ObjWidth(), element.ObjHeight()};
     }
 
-    // Two lamps over a picture, in a file in which both have one name.
+    void ExpectTheGroundOfANewView()
+    {
+        EXPECT_EQ(main.ssScroll().Picture(), nullptr);
+        EXPECT_EQ(main.ssScroll().BackColor(), colors::buttonFace);
+        EXPECT_EQ(main.View().BGColor(), colors::buttonFace) << "a save writes what is shown";
+        EXPECT_EQ(main.View().BGPicture(), "");
+    }
+
+    // Two lamps over a picture on green, which are opened, and then a file in which both have one name.
     void PutBrokenView(const std::string& path)
     {
         files.Put("back.bmp", {1});
         Insert<clsLEDRound>();
         Insert<clsLEDRound>();
         main.View().Set(&clsCustView::BGPicture, std::string("back.bmp"));
+        main.View().Set(&clsCustView::BGColor, green);
         ASSERT_TRUE(main.SaveView(path));
+        main.NewView();
+        main.OpenView(path);
+        ASSERT_EQ(main.ssScroll().BackColor(), green);
         FakeFiles::Bytes bytes = files.Get(path);
         const std::size_t lastLetter = bytes.size() - 6;
         ASSERT_EQ(bytes[lastLetter], '2');
@@ -62,8 +75,8 @@ TEST_F(TheMainForm, ShowsNothingOfAViewThatFailsToLoad)
     reporter.Announce(Ref("clsCustView.LoadFile"));
     main.OpenView("a.qvw");
     EXPECT_EQ(reporter.reports.back().number, failures::keyInUse);
-    EXPECT_EQ(main.ssScroll().Picture(), nullptr);
-    EXPECT_EQ(main.ssScroll().WidgetAt(200, 200), nullptr);
+    ExpectTheGroundOfANewView();
+    EXPECT_EQ(HitTest(main.ssScroll(), {}, 200, 200).widget, nullptr);
 }
 
 TEST_F(TheMainForm, ShowsNothingOfTheOldViewBesideAFileThatIsNone)
@@ -71,7 +84,7 @@ TEST_F(TheMainForm, ShowsNothingOfTheOldViewBesideAFileThatIsNone)
     PutBrokenView("a.qvw");
     files.PutText("b.qvw", "no view");
     main.OpenView("b.qvw");
-    EXPECT_EQ(main.ssScroll().Picture(), nullptr);
+    ExpectTheGroundOfANewView();
 }
 
 TEST_F(TheMainForm, SizesAtThePlaceInTheViewWhenTheCanvasScrollsMeanwhile)

@@ -20,7 +20,7 @@ struct AnyEdit : EditorFixture {
                           : main.View().CtlOrder().Item(static_cast<std::size_t>(Draw(1, static_cast<int>(count))));
     }
 
-    CanvasTarget At(float x, float y) { return HitTest(main.ssScroll(), x, y); }
+    CanvasTarget At(float x, float y) { return HitTest(main.ssScroll(), {}, x, y); }
 
     void Drag(const Element& element)
     {

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QRegion>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quor {
@@ -60,11 +61,11 @@ void PaintGround(QPainter& painter, const Canvas& canvas, const QSize& view, con
     }
 }
 
-// The lines of one family that cross the dirty part: each at a multiple of the step, up to the last.
-void PaintGridLines(QPainter& painter, const QRectF& dirty, Qt::Orientation orientation, float step, float last,
-                    float length, const QPointF& origin)
+// The lines of one family that cross the dirty part.
+void PaintGridLines(QPainter& painter, const QRectF& dirty, Qt::Orientation orientation, const GridFamily& family,
+                    const QPointF& origin)
 {
-    if (step <= 0) {
+    if (family.count == 0) {
         return;
     }
     const QColor shadow = ToQt(Resolve(colors::buttonShadow));
@@ -72,12 +73,12 @@ void PaintGridLines(QPainter& painter, const QRectF& dirty, Qt::Orientation orie
     const qreal offset = isHorizontal ? origin.y() : origin.x();
     const qreal from = (isHorizontal ? dirty.top() : dirty.left()) - offset;
     const qreal to = (isHorizontal ? dirty.bottom() : dirty.right()) - offset;
-    const qreal pitch = qreal{step} / twipsPerPixelX;
-    const auto end = static_cast<int>(std::floor(std::min(to, qreal{last} / twipsPerPixelX) / pitch));
+    const qreal pitch = qreal{family.step} / twipsPerPixelX;
+    const qreal extent = qreal{family.length} / twipsPerPixelX;
+    const int end = static_cast<int>(std::min<qreal>(family.count, std::floor(to / pitch)));
     for (int line = std::max(1, static_cast<int>(std::floor(from / pitch))); line <= end; ++line) {
-        const qreal extent = qreal{length} / twipsPerPixelX;
-        const QRectF area = isHorizontal ? QRectF(origin.x(), offset + line * pitch, extent, 1)
-                                         : QRectF(offset + line * pitch, origin.y(), 1, extent);
+        const qreal place = offset + qreal{family.PlaceOf(line)} / twipsPerPixelX;
+        const QRectF area = isHorizontal ? QRectF(origin.x(), place, extent, 1) : QRectF(place, origin.y(), 1, extent);
         DrawRule(painter, area, orientation, WithAlpha(shadow, line % 10 == 0 ? tenthLineOpacity : gridOpacity));
     }
 }
@@ -89,8 +90,8 @@ void PaintGrid(QPainter& painter, const Canvas& canvas, const QRectF& dirty)
         return;
     }
     const QPointF origin = ScrolledOrigin(canvas);
-    PaintGridLines(painter, dirty, Qt::Horizontal, grid.stepY, grid.height, grid.width, origin);
-    PaintGridLines(painter, dirty, Qt::Vertical, grid.stepX, grid.width, grid.height, origin);
+    PaintGridLines(painter, dirty, Qt::Horizontal, HorizontalLines(grid), origin);
+    PaintGridLines(painter, dirty, Qt::Vertical, VerticalLines(grid), origin);
 }
 
 void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area, const CanvasLook& look)
@@ -131,13 +132,14 @@ std::size_t PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& v
                          const CanvasLook& look)
 {
     std::size_t painted = 0;
-    const Area dirty = TwipsOf(region.boundingRect().adjusted(-2, -2, 2, 2));
+    const auto margin = static_cast<int>(std::ceil(1 / std::min<qreal>(1, painter.deviceTransform().m11())));
+    const Area dirty = TwipsOf(region.boundingRect().adjusted(-2 * margin, -2 * margin, 2 * margin, 2 * margin));
     for (const Widget* widget = canvas.Back(); widget != nullptr; widget = widget->Above()) {
         if (!widget->Visible() || !Overlap(widget->Bounds(), dirty)) {
             continue;
         }
         const QRectF area = PixelsOf(widget->Bounds());
-        if (!IsPaintable(area) || !region.intersects(area.toAlignedRect().adjusted(-1, -1, 1, 1))) {
+        if (!IsPaintable(area) || !region.intersects(area.toAlignedRect().adjusted(-margin, -margin, margin, margin))) {
             continue;
         }
         ++painted;

@@ -22,8 +22,10 @@ namespace quor {
 
 namespace {
 
-constexpr int handleReach = 9; // pixels: handles and frame stand this far outside their widget at most
-constexpr int scrollStep = 20; // pixels
+constexpr int handleReach = 9;      // pixels: handles and frame stand this far outside their widget at most
+constexpr int scrollStep = 20;      // pixels
+constexpr int edgeWidth = 12;       // pixels in which what is dragged scrolls the canvas
+constexpr int edgeScrollPause = 60; // ms
 
 float Twips(qreal pixels)
 {
@@ -73,6 +75,8 @@ CanvasView::CanvasView(frmMain& main, const Theme& theme, QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     horizontalScrollBar()->setSingleStep(scrollStep * static_cast<int>(twipsPerPixelX));
     verticalScrollBar()->setSingleStep(scrollStep * static_cast<int>(twipsPerPixelY));
+    m_edgeTimer.setInterval(edgeScrollPause);
+    connect(&m_edgeTimer, &QTimer::timeout, this, &CanvasView::ScrollAtEdge);
     m_subscriptions.push_back(m_canvas.Changed.Subscribe([this](const Area& area) { Repaint(area); }));
     m_subscriptions.push_back(m_canvas.Scrolled.Subscribe([this] { FollowScroll(); }));
     m_subscriptions.push_back(m_main.DragChanged.Subscribe([this] { FollowDrag(); }));
@@ -91,7 +95,9 @@ bool CanvasView::event(QEvent* event)
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::WindowDeactivate && IsBusy()) {
+    // A dialog that opens at a press gets the release, too.
+    const bool losesMouse = event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked;
+    if (losesMouse && IsBusy()) {
         m_main.CancelDrag();
     }
     return QAbstractScrollArea::event(event);
@@ -165,13 +171,16 @@ void CanvasView::scrollContentsBy(int /*dx*/, int /*dy*/)
     const auto onPixels = [](int twips, float perPixel) {
         return static_cast<std::int32_t>(qRound(static_cast<float>(twips) / perPixel) * static_cast<int>(perPixel));
     };
+    const QPoint before(m_canvas.ScrollOffsetX(), m_canvas.ScrollOffsetY());
     m_canvas.ScrollTo(onPixels(horizontalScrollBar()->value(), twipsPerPixelX),
                       onPixels(verticalScrollBar()->value(), twipsPerPixelY));
+    m_pressedAt += (QPointF(before) - QPointF(m_canvas.ScrollOffsetX(), m_canvas.ScrollOffsetY())) / twipsPerPixelX;
 }
 
 CanvasTarget CanvasView::TargetAt(const QPointF& position) const
 {
-    return HitTest(m_canvas, Twips(position.x()), Twips(position.y()));
+    const Area shown{0, 0, Twips(viewport()->width()), Twips(viewport()->height())};
+    return HitTest(m_canvas, shown, Twips(position.x()), Twips(position.y()));
 }
 
 bool CanvasView::IsInside(const QPointF& position) const
@@ -193,16 +202,43 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF position = WholePixel(event->position());
+    FollowPointer(WholePixel(event->position()));
+    if (!IsBusy()) {
+        ShowCursor(TargetAt(m_pointer));
+    }
+}
+
+void CanvasView::FollowPointer(const QPointF& position)
+{
     if (m_main.IsSizing()) {
         m_pointer = position;
         m_main.SizeBy(Twips(position.x() - m_pressedAt.x()), Twips(position.y() - m_pressedAt.y()));
-    } else if (m_main.IsDragging()) {
-        ShowOutline(IsInside(position) ? m_main.OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt,
-                    position);
     } else {
-        ShowCursor(TargetAt(position));
+        const bool isOver = m_main.IsDragging() && IsInside(position);
+        ShowOutline(isOver ? m_main.OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt, position);
     }
+    if (!IsBusy()) {
+        m_edgeTimer.stop();
+    } else if (!m_edgeTimer.isActive()) {
+        m_edgeTimer.start();
+    }
+}
+
+// While something is dragged or sized there, so that it gets to what can't be seen yet.
+void CanvasView::ScrollAtEdge()
+{
+    const auto scroll = [](QScrollBar& bar, qreal place, int length) {
+        if (place < edgeWidth) {
+            bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
+        } else if (place >= length - edgeWidth) {
+            bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        }
+    };
+    if (m_main.IsSizing() || (m_main.IsDragging() && IsInside(m_pointer))) {
+        scroll(*horizontalScrollBar(), m_pointer.x(), viewport()->width());
+        scroll(*verticalScrollBar(), m_pointer.y(), viewport()->height());
+    }
+    FollowPointer(m_pointer);
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event)
@@ -212,18 +248,13 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
     }
     m_held = Qt::NoButton;
     const QPointF position = WholePixel(event->position());
-    const CanvasTarget target = TargetAt(position);
-    const float x = Twips(position.x()) - target.left;
-    const float y = Twips(position.y()) - target.top;
     if (m_main.IsDragging()) {
-        if (IsInside(position)) {
-            m_main.Drop(target, x, y);
-        } else {
-            m_main.CancelDrag();
-        }
+        DropAt(position);
     } else {
-        m_main.Release(target, ButtonOf(event->button()), x, y);
-        const bool isClick = target.what == CanvasTarget::What::Canvas && m_pressed.what == CanvasTarget::What::Canvas;
+        m_main.Release(m_pressed, ButtonOf(event->button()), Twips(position.x()) - m_pressed.left,
+                       Twips(position.y()) - m_pressed.top);
+        const bool isClick =
+            m_pressed.what == CanvasTarget::What::Canvas && TargetAt(position).what == CanvasTarget::What::Canvas;
         if (isClick && event->button() == Qt::LeftButton) {
             m_main.ssScroll_Click();
         }
@@ -235,17 +266,18 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
 
 void CanvasView::TrackDrag(const QPointF& global)
 {
-    const QPointF position = WholePixel(viewport()->mapFromGlobal(global));
-    const bool isOver = m_main.IsDragging() && IsInside(position);
-    ShowOutline(isOver ? m_main.OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt, position);
+    FollowPointer(WholePixel(viewport()->mapFromGlobal(global)));
 }
 
 void CanvasView::EndDrag(const QPointF& global)
 {
-    const QPointF position = WholePixel(viewport()->mapFromGlobal(global));
-    if (!m_main.IsDragging()) {
-        return;
+    if (m_main.IsDragging()) {
+        DropAt(WholePixel(viewport()->mapFromGlobal(global)));
     }
+}
+
+void CanvasView::DropAt(const QPointF& position)
+{
     if (!IsInside(position)) {
         m_main.CancelDrag();
         return;
@@ -264,6 +296,15 @@ void CanvasView::keyPressEvent(QKeyEvent* event)
         m_main.abViewEdit().KeyDown.Raise(canvas_keys::del);
     } else {
         event->ignore();
+    }
+}
+
+void CanvasView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard && !IsBusy()) {
+        m_main.ShowToolPopup();
+    } else {
+        event->ignore(); // the mouse opens it at the release
     }
 }
 

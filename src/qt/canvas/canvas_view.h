@@ -6,6 +6,7 @@
 
 #include <QAbstractScrollArea>
 #include <QPointF>
+#include <QTimer>
 
 #include <optional>
 #include <vector>
@@ -39,6 +40,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
@@ -48,6 +50,9 @@ private:
     void RepaintSelectionFrame();
     void FollowScroll();
     void FollowDrag();
+    void FollowPointer(const QPointF& position);
+    void ScrollAtEdge();
+    void DropAt(const QPointF& position);
     void ShowOutline(std::optional<DragOutline> outline, const QPointF& pointer);
     QRect OutlinePlace() const;
     CanvasTarget TargetAt(const QPointF& position) const;
@@ -59,11 +64,12 @@ private:
     const Theme& m_theme;
     bool m_isFollowing = false;            // the bars move after the model, not the other way
     Qt::MouseButton m_held = Qt::NoButton; // that began what is going on
-    QPointF m_pressedAt;                   // pixels of the view
+    QPointF m_pressedAt;                   // pixels of the view, scrolled with the canvas
     CanvasTarget m_pressed;
     QPointF m_pointer;
     std::optional<DragOutline> m_outline;
     QRectF m_shownFrame;
+    QTimer m_edgeTimer; // runs while something is dragged at the edge
     std::uint64_t m_painted = 0;
     std::vector<Subscription> m_subscriptions;
 };
