@@ -5,6 +5,7 @@
 #include "document/format/container.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
+#include "elements/mtr_linear.h"
 #include "forms/bars.h"
 #include "forms/form.h"
 #include "support/frm_view_pbar.h"
@@ -62,7 +63,11 @@ void PrintElement(Stage& stage, const Arguments& arguments)
 {
     bool isFound = false;
     FieldPrinter printer(PrintNamed(stage, arguments[2], isFound));
-    stage.ElementOf(arguments[1]).Fields(printer);
+    Element& element = stage.ElementOf(arguments[1]);
+    element.Fields(printer);
+    if (auto* meter = dynamic_cast<clsMtrLinear*>(&element)) { // which has two settings that no record holds
+        static_cast<FieldWalk&>(printer)(meter->PointerColor, meter->TickVals);
+    }
     MustBeFound(isFound, arguments[2]);
 }
 
@@ -186,11 +191,11 @@ void PrintClipboard(Stage& stage, const Arguments&)
     stage.out.Text(stage.clipboard.text);
 }
 
-void PrintGridLines(Stage& stage, std::string_view family, float step, float end, float length, bool visible)
+void PrintGridLines(Stage& stage, std::string_view name, const GridFamily& family, bool visible)
 {
-    for (int index = 1; step > 0 && static_cast<float>(index) * step <= end; ++index) {
-        stage.out.Line("line " + std::string(family) + '(' + std::to_string(index) + ')' +
-                       Number("place", static_cast<float>(index) * step) + Number("length", length) +
+    for (int line = 1; line <= family.count; ++line) {
+        stage.out.Line("line " + std::string(name) + '(' + std::to_string(line) + ')' +
+                       Number("place", family.PlaceOf(line)) + Number("length", family.length) +
                        Flag("visible", visible));
     }
 }
@@ -198,8 +203,8 @@ void PrintGridLines(Stage& stage, std::string_view family, float step, float end
 void PrintGrid(Stage& stage, const Arguments&)
 {
     const GridLines& grid = stage.CanvasInUse().Grid();
-    PrintGridLines(stage, "lnGridX", grid.stepY, grid.height, grid.width, grid.visible);
-    PrintGridLines(stage, "lnGridY", grid.stepX, grid.width, grid.height, grid.visible);
+    PrintGridLines(stage, "lnGridX", HorizontalLines(grid), grid.visible);
+    PrintGridLines(stage, "lnGridY", VerticalLines(grid), grid.visible);
 }
 
 void PrintBands(Stage& stage, const Arguments&)
