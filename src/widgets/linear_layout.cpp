@@ -61,6 +61,7 @@ void PlaceNumbers(LinearLayout& layout, const LinearRoom& room) noexcept
     const double highStart = isStartLow ? layout.endLow : layout.startLow;
     const double gap = layout.isVertical ? partedBy / 2 : partedBy;
     layout.doNumbersFit = layout.doNumbersFit && lowEnd + gap * room.scale <= highStart;
+    layout.doNumbersFit = room.doNumbersFit.value_or(layout.doNumbersFit);
 }
 
 } // namespace

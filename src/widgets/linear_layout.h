@@ -6,6 +6,8 @@
 
 #include "widgets/gauge_scale.h"
 
+#include <optional>
+
 namespace quor {
 
 class LinearGauge;
@@ -18,7 +20,8 @@ struct LinearRoom {
     double edge;      // the width of its border
     double startSize; // of the number at the start of the scale, along; 0 for none
     double endSize;
-    double numberSize; // of the larger one, across; 0 for none
+    double numberSize;                               // of the larger one, across; 0 for none
+    std::optional<bool> doNumbersFit = std::nullopt; // where that is decided at another scale
 };
 
 struct LinearLayout {

@@ -33,7 +33,35 @@ bool TurnsRight(std::span<const Point> points) noexcept
     return twiceArea > 0;
 }
 
+// What lies at the inner side of a line: where the distance isn't less than 0.
+template <class Distance> std::vector<Point> Within(std::span<const Point> polygon, Distance distance)
+{
+    std::vector<Point> inside;
+    Point from = polygon.empty() ? Point{} : polygon.back();
+    for (const Point& to : polygon) {
+        const double before = distance(from);
+        const double after = distance(to);
+        if ((before < 0) != (after < 0)) {
+            const double way = before / (before - after);
+            inside.push_back({from.x + way * (to.x - from.x), from.y + way * (to.y - from.y)});
+        }
+        if (after >= 0) {
+            inside.push_back(to);
+        }
+        from = to;
+    }
+    return inside;
+}
+
 } // namespace
+
+std::vector<Point> Clipped(std::span<const Point> polygon, const Extent& box)
+{
+    std::vector<Point> part = Within(polygon, [&](const Point& point) { return point.x - box.left; });
+    part = Within(part, [&](const Point& point) { return box.right - point.x; });
+    part = Within(part, [&](const Point& point) { return point.y - box.top; });
+    return Within(part, [&](const Point& point) { return box.bottom - point.y; });
+}
 
 Extent BoundsOf(std::span<const Point> points) noexcept
 {

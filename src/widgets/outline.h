@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <vector>
 
 namespace quor {
 
@@ -21,6 +22,9 @@ struct Extent {
 };
 
 Extent BoundsOf(std::span<const Point> points) noexcept; // of one point at least
+
+// What of a polygon lies within the box. Parts that only its sides join stay joined, along the edge of the box.
+std::vector<Point> Clipped(std::span<const Point> polygon, const Extent& box);
 
 // A closed line through few points.
 class Outline {

@@ -4,6 +4,7 @@
 
 #include "document/view_document.h"
 #include "widgets/round_led.h"
+#include "widgets/text_label.h"
 
 #include <QEvent>
 #include <QImage>
@@ -111,6 +112,41 @@ TEST(CanvasPicture, TheGridHasFaintLinesAndEachTenthIsStronger)
     EXPECT_EQ(image.pixel(0, 5), face) << "none on the axes";
     desk.Main().ssScroll().ScrollTo(45, 0);
     ExpectNear(Shown(desk).pixel(7, 5), Over(face, shadow, 0.12), "it scrolls");
+}
+
+TEST(CanvasPicture, TheGridEndsWhereTheCanvasDoes)
+{
+    Desk desk;
+    Canvas& canvas = desk.Main().ssScroll();
+    canvas.SetScrollMaxima(105 * 15, 85 * 15);
+    desk.Main().LoadGrid();
+    desk.Main().ShowGrid();
+    const QImage image = Shown(desk);
+    EXPECT_NE(image.pixel(100, 5), face);
+    EXPECT_NE(image.pixel(5, 80), face);
+    for (const QPoint& beyond : {QPoint(110, 5), QPoint(5, 90), QPoint(107, 80), QPoint(100, 87)}) {
+        EXPECT_EQ(image.pixel(beyond), face) << beyond.x() << ", " << beyond.y();
+    }
+}
+
+TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
+{
+    Desk desk;
+    desk.Main().HideGrid();
+    desk.DragTool(10, {100, 100});
+    Widget& label = *desk.Main().ssScroll().Back();
+    static_cast<TextLabel&>(label).Set(&TextLabel::Caption, "");
+    desk.Click({400, 300});
+    for (const float width : {60.0F, 50'000.0F}) {
+        label.Move(100 * 15, 100 * 15, width * 15, 20 * 15);
+        const QImage image = Shown(desk);
+        int dashes = 0;
+        for (int x = 100; x < 160; ++x) {
+            dashes += image.pixel(x, 100) != face ? 1 : 0;
+        }
+        EXPECT_NEAR(dashes, 30, 4) << width;
+        EXPECT_EQ(image.pixel(130, 110), face);
+    }
 }
 
 TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)

@@ -14,8 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace {
 
 using namespace quor;
@@ -48,10 +46,6 @@ bool IsDark(QRgb pixel)
 bool IsRed(QRgb pixel)
 {
     return qRed(pixel) > 200 && qGreen(pixel) < 60 && qBlue(pixel) < 60;
-}
-bool IsLit(QRgb pixel)
-{
-    return qGreen(pixel) > qRed(pixel) + 100;
 }
 
 QRect BoxOf(const QImage& image, IsInk isInk)
@@ -215,70 +209,6 @@ TEST(TextLabelPicture, WrapsBetweenWordsAndAtItsBreaks)
     EXPECT_EQ(lines(), 3);
 }
 
-TEST(TextLabelPicture, DisabledItIsPale)
-{
-    TextLabel label = LabelOf("HHH");
-    Font bold;
-    bold.Size = 300'000;
-    bold.SetBold(true);
-    label.Set(&TextLabel::Font, bold);
-    label.Set(&Widget::Enabled, false);
-    const QImage image = Drawn("ctlStatusLabel", label, {105, 50});
-    int darkest = 255;
-    for (int x = 0; x < image.width(); ++x) {
-        darkest = std::min(darkest, qGray(image.pixel(x, 15)));
-    }
-    EXPECT_NEAR(darkest, 255 * 0.55, 3);
-}
-
-TEST(TextLabelPicture, OnlyWithoutTextGroundAndBorderThereIsNothingToSee)
-{
-    TextLabel label = LabelOf("");
-    label.Move(0, 0, 1500, 300);
-    label.Set(&TextLabel::BackStyle, std::int16_t{0});
-    EXPECT_EQ(BoxOf(Drawn("ctlLabel", label, {100, 20}), [](QRgb pixel) { return pixel != white; }), QRect());
-}
-
-TEST(Edges, LieOnWholePixelsInTheirShades)
-{
-    TextLabel sunken = LabelOf("");
-    sunken.Set(&TextLabel::BorderStyle, std::int16_t{1});
-    TextLabel flat = sunken;
-    sunken.Set(&TextLabel::Appearance, std::int16_t{1});
-    Panel lowered;
-    lowered.Set(&Panel::BackColor, Color{0x00808080});
-    lowered.Set(&Panel::BevelStyle, panel_bevels::lowered);
-    Panel raised = lowered;
-    raised.Set(&Panel::BevelStyle, panel_bevels::raised);
-    struct Shade {
-        int over;
-        double share;
-    };
-    const struct {
-        const char* array;
-        const Widget& widget;
-        QRgb ground;
-        Shade outerTop, innerTop, innerBottom, outerBottom;
-    } cases[] = {{"ctlLabel", flat, white, {0, 0.3}, {0, 0}, {0, 0}, {0, 0.3}},
-                 {"ctlLabel", sunken, white, {0, 0.42}, {0, 0.12}, {255, 0.55}, {0, 0.16}},
-                 {"ctlBlnPic", lowered, 0xFF808080, {0, 0.42}, {0, 0.12}, {255, 0.55}, {0, 0.16}},
-                 {"ctlPicture", raised, 0xFF808080, {0, 0.16}, {255, 0.85}, {0, 0.12}, {0, 0.42}}};
-    for (const auto& each : cases) {
-        for (const int scale : {1, 2}) {
-            const QImage image = Drawn(each.array, each.widget, {40, 30}, scale);
-            const auto shade = [&](const Shade& wanted) { return Laid(each.ground, wanted.over, wanted.share); };
-            for (int line = 0; line < scale; ++line) {
-                const int last = image.height() - 1 - line;
-                ExpectNear(image.pixel(20 * scale, line), shade(each.outerTop), "outer top");
-                ExpectNear(image.pixel(line, 15 * scale), shade(each.outerTop), "outer left");
-                ExpectNear(image.pixel(20 * scale, scale + line), shade(each.innerTop), "inner top");
-                ExpectNear(image.pixel(20 * scale, last - scale), shade(each.innerBottom), "inner bottom");
-                ExpectNear(image.pixel(20 * scale, last), shade(each.outerBottom), "outer bottom");
-            }
-        }
-    }
-}
-
 TEST(PanelPicture, CaptionAndPictureKeepSixPixelsFromTheEdgeAndFourFromEachOther)
 {
     const PictureRef picture = RedPicture({20, 16});
@@ -336,47 +266,6 @@ TEST(PanelPicture, ThePictureFillsItsPanelAsItIsTold)
         EXPECT_EQ(IsRed(tiled.pixel(x, 70)), (x - 2) % 20 >= 10) << x;
     }
     EXPECT_EQ(tiled.pixel(1, 40), Laid(ground, 0, 0.12)) << "the bevel stays clear";
-}
-
-TEST(PushButtonPicture, CatchesTheLightAndIsFlatAndPaleWhileItIsLocked)
-{
-    PushButton button;
-    button.Set(&PushButton::Caption, "HHH");
-    const QImage free = Drawn("ctlCommand", button, {105, 25});
-    button.Set(&Widget::Enabled, false);
-    const QImage locked = Drawn("ctlCommand", button, {105, 25});
-    ExpectNear(free.pixel(10, 2), Laid(face, 255, 0.42), "top");
-    ExpectNear(free.pixel(10, 22), Laid(face, 255, 0.13), "bottom");
-    for (int y = 1; y < 24; ++y) {
-        ExpectNear(locked.pixel(10, y), Laid(face, 255, 0.22), "locked");
-    }
-    EXPECT_FALSE(BoxOf(free.copy(10, 5, 85, 15), IsDark).isNull());
-    EXPECT_TRUE(BoxOf(locked.copy(10, 5, 85, 15), IsDark).isNull());
-    EXPECT_GT(qGray(free.pixel(0, 0)), 240) << "the corners are round";
-}
-
-TEST(SwitchLedPicture, ItsLampIsAtItsSideAndLivesOnALockedButton)
-{
-    const struct {
-        std::int32_t side;
-        QRect lamp;
-    } cases[] = {{lamp_sides::bottom, {34, 21, 36, 6}},
-                 {lamp_sides::top, {34, 6, 36, 6}},
-                 {lamp_sides::left, {7, 6, 6, 20}},
-                 {lamp_sides::right, {92, 6, 6, 20}}};
-    for (const auto& each : cases) {
-        for (const bool isEnabled : {true, false}) {
-            SwitchLed button;
-            button.Set(&SwitchLed::LEDAlignment, each.side);
-            button.Set(&SwitchLed::Active, true);
-            button.Set(&SwitchLed::Caption, "On");
-            button.Set(&Widget::Enabled, isEnabled);
-            const QImage image = Drawn("ctlCmdLED", button, {105, 33});
-            EXPECT_EQ(BoxOf(image, IsLit), each.lamp.adjusted(1, 1, -1, -1)) << each.side;
-            button.Set(&SwitchLed::LEDColor, colors::buttonFace);
-            EXPECT_TRUE(BoxOf(Drawn("ctlCmdLED", button, {105, 33}), IsLit).isNull()) << "muted";
-        }
-    }
 }
 
 // Whatever the size and the scale.

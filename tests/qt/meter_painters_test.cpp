@@ -123,25 +123,6 @@ struct DialCase {
 };
 constexpr DialCase dials[] = {{225, 270, false}, {225, 270, true}, {180, 180, false}, {90, 360, false}, {0, 90, true}};
 
-TEST(AnAngularMeterPicture, ShowsEachSectionWhereItLies)
-{
-    for (const DialCase& dial : dials) {
-        AngularGauge gauge = PlainDial();
-        gauge.Set(&AngularGauge::ArcStartDegrees, dial.start);
-        gauge.Set(&AngularGauge::ArcRangeDegrees, dial.range);
-        gauge.Set(&ScaleGauge::ReverseScaleFlag, dial.isReversed);
-        gauge.Set(&AngularGauge::PointerMargin, std::int16_t{30});
-        const QImage image = Drawn(gauge);
-        for (int section = 0; section < 5; ++section) {
-            const double way = (dial.isReversed ? 4 - section : section) * 0.2 + 0.1;
-            const double angle = (dial.start - dial.range * way) * std::numbers::pi / 180;
-            const QPointF place(52.5 + 37.5 * std::cos(angle), 52.5 - 37.5 * std::sin(angle));
-            EXPECT_EQ(image.pixel(place.toPoint()), AsSeen(sections[static_cast<std::size_t>(section)]))
-                << section << " of " << dial.start << ", " << dial.range;
-        }
-    }
-}
-
 TEST(AnAngularMeterPicture, TurnsItsPointerToTheValueAndParksItBeyondTheEnds)
 {
     const struct {
@@ -278,18 +259,6 @@ TEST(AMeterPicture, ShowsItsNumbersWholeWhereverTheyHang)
         const QImage image = Drawn(band, {41, 210}, scale);
         EXPECT_NEAR(NumbersIn(image).width(), 18 * scale, 2) << "100 beside a band that gave way";
     }
-}
-
-TEST(AMeterPicture, LeavesTheGroundWhereItIsTransparent)
-{
-    AngularGauge dial = PlainDial();
-    dial.Set(&ScaleGauge::Transparent, true);
-    dial.Set(&ScaleGauge::BackGroundColor, Color{0});
-    dial.Set(&ScaleGauge::BorderStyle, bevels::raised);
-    EXPECT_EQ(Drawn(dial).pixel(0, 0), ground);
-    EXPECT_EQ(Drawn(dial).pixel(104, 52), ground);
-    dial.Set(&ScaleGauge::Transparent, false);
-    EXPECT_EQ(Drawn(dial).pixel(50, 100), 0xFF000000);
 }
 
 TEST(ANumberPicture, NeverShowsAPartOfANumber)

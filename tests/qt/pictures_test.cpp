@@ -116,6 +116,12 @@ TEST(QtPictures, ReadTheFormatsOfViewsAndNoOther)
         ASSERT_TRUE(image.save(path, format));
         EXPECT_EQ(Load(path), 0) << format;
     }
+    const QByteArray gif =
+        QByteArray::fromHex("47494638396101000100800000ff0000ffffff2c00000000010001000002024401003b");
+    EXPECT_EQ(LoadBytes(gif), 0) << "gif";
+    QByteArray cursor = Contents(directory.filePath(QStringLiteral("picture.dib"))); // an icon as yet
+    cursor[2] = 2;
+    EXPECT_EQ(LoadBytes(cursor), 0) << "cur";
     const QString other = directory.filePath("picture.png");
     ASSERT_TRUE(image.save(other, "xpm"));
     EXPECT_EQ(Load(other), failures::invalidPicture);

@@ -62,10 +62,33 @@ TEST_F(Render, StatusElementsShowTheStateAndTheScaleIsTheSize)
     EXPECT_EQ(Rendered("round_led.qvw", {"--size", "50x40", "--scale", "1.5"}).size(), QSize(75, 60));
 }
 
+// To the last row and column, whatever the size is rounded to.
 TEST_F(Render, AnEmptyViewIsItsGround)
 {
-    const QImage image = Rendered("empty.qvw", {});
-    EXPECT_EQ(image.pixel(0, 0), image.pixel(image.width() - 1, image.height() - 1));
+    for (const std::vector<std::string>& options : {std::vector<std::string>{},
+                                                    {"--scale", "1.405", "--size", "1000x700"},
+                                                    {"--scale", "0.33", "--size", "100x101"},
+                                                    {"--scale", "7.77", "--size", "31x17"}}) {
+        const QImage image = Rendered("empty.qvw", options);
+        QImage ground(image.size(), image.format());
+        ground.fill(0xFFC0C0C0);
+        EXPECT_EQ(image, ground) << image.width() << " x " << image.height();
+    }
+}
+
+TEST_F(Render, AScaleBelowOneShrinksTheWholeView)
+{
+    const QImage whole = Rendered("transmitter_site.qvw", {});
+    const QImage half = Rendered("transmitter_site.qvw", {"--scale", "0.5"});
+    const QImage expected = whole.scaled(half.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    double difference = 0;
+    for (int y = 0; y < half.height(); ++y) {
+        for (int x = 0; x < half.width(); ++x) {
+            difference += std::abs(qGray(half.pixel(x, y)) - qGray(expected.pixel(x, y)));
+        }
+    }
+    EXPECT_NEAR(half.width(), whole.width() / 2, 1);
+    EXPECT_LT(difference / half.width() / half.height(), 8);
 }
 
 TEST_F(Render, RefusesInOneLineAndWritesNothing)

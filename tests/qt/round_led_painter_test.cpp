@@ -1,6 +1,5 @@
 // The round lamp is measured in pictures of it.
 
-#include "qt/painters/painters.h"
 #include "qt/painters/round_led_painter.h"
 #include "widgets/round_led.h"
 
@@ -10,10 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
-#include <cstdlib>
-#include <limits>
 
 namespace {
 
@@ -95,16 +91,6 @@ TEST(RoundLedPicture, TheBezelGrowsWithTheDiameter)
     }
 }
 
-TEST(RoundLedPicture, RaisedAndLoweredCatchTheLightAtOppositeSides)
-{
-    const QImage raised = Drawn(MakeLamp(false, bevels::raised), {60, 60}, 1);
-    const QImage lowered = Drawn(MakeLamp(false, bevels::lowered), {60, 60}, 1);
-    const QPoint upperLeft(10, 10);
-    const QPoint lowerRight(49, 49);
-    EXPECT_GT(qGray(raised.pixel(upperLeft)), qGray(raised.pixel(lowerRight)) + 60);
-    EXPECT_LT(qGray(lowered.pixel(upperLeft)), qGray(lowered.pixel(lowerRight)) - 60);
-}
-
 TEST(RoundLedPicture, OnlyALitLampSpillsOntoTheInnerHalfOfItsBezel)
 {
     const QImage lit = Drawn(MakeLamp(true, bevels::lowered), {60, 60});
@@ -147,37 +133,6 @@ TEST(RoundLedPicture, TheReflectionIsACrescentAtTheUpperLeft)
     }
 }
 
-TEST(RoundLedPicture, ItIsSymmetricAndStaysInsideItsCircleAtAnySizeAndScale)
-{
-    const QSize sizes[] = {{1, 1}, {2, 2}, {3, 3}, {10, 10}, {17, 17}, {60, 17}, {17, 60}, {1000, 1000}};
-    for (const qreal scale : {1.0, 1.5, 2.0}) {
-        for (const QSize& size : sizes) {
-            const QImage image = Drawn(MakeLamp(true, bevels::none), size, scale, 4);
-            const int margin = static_cast<int>(4 * scale);
-            const QSize device = (QSizeF(size) * scale).toSize();
-            const QPointF center(margin + device.width() / 2.0, margin + device.height() / 2.0);
-            const qreal radius = std::min(device.width(), device.height()) / 2.0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    const bool isOutside = std::hypot(x + 0.5 - center.x(), y + 0.5 - center.y()) > radius + 1.5;
-                    ASSERT_FALSE(isOutside && image.pixel(x, y) != ground)
-                        << size.width() << " x " << size.height() << " at " << scale << ": " << x << ", " << y;
-                }
-            }
-            EXPECT_NE(Middle(image), ground);
-            if (size.width() == size.height()) {
-                const QImage turned = image.mirrored(true, true);
-                int worst = 0;
-                for (int i = 0; i < image.width(); ++i) {
-                    worst = std::max(worst, std::abs(qGreen(image.pixel(i, image.height() / 2)) -
-                                                     qGreen(turned.pixel(i, image.height() / 2))));
-                }
-                EXPECT_LE(worst, image.width() % 2 == 0 ? 12 : 6) << size.width() << " at " << scale;
-            }
-        }
-    }
-}
-
 // At 1.5 the edges of a lamp at a whole place lie on device pixels: its first column is as strong as it can be.
 TEST(RoundLedPicture, EdgesLieOnDevicePixelsAtOneAndAHalf)
 {
@@ -187,44 +142,6 @@ TEST(RoundLedPicture, EdgesLieOnDevicePixelsAtOneAndAHalf)
         EXPECT_LT(qGray(image.pixel(end, 15)), 70);
         EXPECT_LT(qGray(image.pixel(15, end)), 70);
     }
-}
-
-TEST(RoundLedPicture, AnOpaqueLampFillsItsCornersWithButtonFace)
-{
-    RoundLed led = MakeLamp(true, bevels::none);
-    led.Set(&RoundLed::Transparent, false);
-    EXPECT_EQ(Drawn(led, {20, 20}).pixel(0, 0), 0xFFD5D9DE);
-}
-
-TEST(Painters, AreFoundByTheArrayOfTheirKind)
-{
-    EXPECT_NE(PainterFor("ctlLEDRound"), nullptr);
-    EXPECT_EQ(PainterFor("ctlNothing"), nullptr);
-}
-
-// Places and sizes of a file can be any numbers, or none.
-TEST(RoundLedPicture, ComesAtOnceAtAnyPlaceAndSize)
-{
-    QImage image(400, 300, QImage::Format_RGB32);
-    image.fill(ground);
-    const RoundLed led = MakeLamp(true, bevels::lowered, true);
-    const qreal beyond = std::numeric_limits<qreal>::infinity();
-    const std::array values = {
-        std::numeric_limits<qreal>::quiet_NaN(), beyond, -beyond, 3e37, -3e37, 1e9, 2e6, 32'700.0, -100.0};
-    QElapsedTimer time;
-    time.start();
-    for (const qreal place : values) {
-        for (const qreal size : values) {
-            for (const QRectF& area : {QRectF(place, place, size, size), QRectF(10, 10, size, size),
-                                       QRectF(-size / 2, -size / 2, size, size)}) {
-                QPainter painter(&image);
-                if (IsPaintable(area)) {
-                    PaintRoundLed(painter, led, area);
-                }
-            }
-        }
-    }
-    EXPECT_LT(time.elapsed(), 10'000);
 }
 
 } // namespace

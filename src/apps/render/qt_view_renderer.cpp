@@ -46,13 +46,13 @@ public:
         Start();
         const QSize size(width, height);
         QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
-        image.setDevicePixelRatio(scale);
         QPainter painter(&image);
-        PaintCanvas(painter, canvas, size, QRect(QPoint(0, 0), size), {.isEdited = false});
+        painter.scale(scale, scale); // the image's own ratio can't be below 1
+        const QRect all(QPoint(0, 0), size);
+        PaintCanvas(painter, canvas, size, all.adjusted(0, 0, 1, 1), {.isEdited = false}); // the size may be rounded up
         painter.end();
         QBuffer file;
         file.open(QIODevice::WriteOnly);
-        image.setDevicePixelRatio(1);
         image.save(&file, "png");
         return {file.data().begin(), file.data().end()};
     }

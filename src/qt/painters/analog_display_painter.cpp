@@ -16,6 +16,8 @@ namespace quor {
 
 namespace {
 
+constexpr qreal blank = 3; // pixels beside the number
+
 TextSide SideOf(std::int32_t alignment)
 {
     return alignment == number_alignments::left    ? TextSide::Left
@@ -23,21 +25,22 @@ TextSide SideOf(std::int32_t alignment)
                                                    : TextSide::Center;
 }
 
-// What it shows, as far as it fits: a part of a number would be another number.
-TextBlock TextIn(const QPainter& painter, const AnalogDisplay& display, qreal scale, qreal room)
+// What it shows, as far as it fits in the room in device-independent pixels: a part of a number would be another
+// number.
+std::string TextIn(const QPainter& painter, const AnalogDisplay& display, qreal room)
 {
-    const auto laidOut = [&](const std::string& text) {
-        return TextBlock(painter, text, display.Font(), scale, std::nullopt);
+    const auto width = [&](const std::string& text) {
+        return TextBlock(painter, text, display.Font(), 1, std::nullopt).Width();
     };
     if (display.ErrorActive()) {
-        return laidOut(display.ErrorText());
+        return display.ErrorText();
     }
-    const TextBlock number = laidOut(NumberText(display.DisplayValue(), display.DisplayPrecision()));
-    if (number.Width() <= room) {
+    std::string number = NumberText(display.DisplayValue(), display.DisplayPrecision());
+    if (width(number) <= room) {
         return number;
     }
-    const qreal mark = std::max<qreal>(1, laidOut("#").Width());
-    return laidOut(std::string(static_cast<std::size_t>(std::clamp<qreal>(room / mark, 1, 100)), '#'));
+    const qreal mark = std::max<qreal>(1, width("#"));
+    return std::string(static_cast<std::size_t>(std::clamp<qreal>(room / mark, 1, 100)), '#');
 }
 
 } // namespace
@@ -54,8 +57,10 @@ void PaintAnalogDisplay(QPainter& painter, const AnalogDisplay& display, const Q
         return;
     }
     painter.setClipRect(inside, Qt::IntersectClip);
-    const QRectF room = inside.adjusted(space.Line(3), 0, -space.Line(3), 0);
-    const TextBlock text = TextIn(painter, display, space.Scale(), std::max<qreal>(room.width(), 0));
+    const QRectF room = inside.adjusted(space.Whole(blank), 0, -space.Whole(blank), 0);
+    const qreal kept = blank + (edge == EdgeStyle::None ? 0 : 2);
+    const TextBlock text(painter, TextIn(painter, display, std::max<qreal>(space.Size().width() - 2 * kept, 0)),
+                         display.Font(), space.Scale(), std::nullopt);
     text.Draw(painter, room.left(), room.right(), text.MiddleBaseline(space.Area().top(), space.Area().height()),
               SideOf(display.Alignment()), ToQt(Resolve(display.FontColor())));
 }

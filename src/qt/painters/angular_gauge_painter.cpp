@@ -5,7 +5,6 @@
 #include "qt/painters/gauge_painting.h"
 #include "qt/painters/mixing.h"
 #include "qt/painters/smooth_fills.h"
-#include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/angular_gauge.h"
 
@@ -98,29 +97,40 @@ void PaintRings(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
     fills.Draw();
 }
 
+qreal DigitHeight(const LaidNumbers& numbers)
+{
+    return std::max<qreal>(1, std::round(numbers.start.Height()));
+}
+
+// Within so much of the gauge's edge.
+HungNumbers Hung(const AngularGauge& gauge, const ArcLayout& arc, const LaidNumbers& numbers, const QSizeF& size,
+                 qreal kept)
+{
+    return HangNumbers(arc, gauge.TickLabelMargin(), numbers.start.Width(), numbers.end.Width(), DigitHeight(numbers),
+                       {kept, kept, size.width() - kept, size.height() - kept});
+}
+
 void PaintNumbers(QPainter& painter, const DeviceSpace& space, const ArcLayout& arc, const AngularGauge& gauge)
 {
-    if (!gauge.TickValuesVisible()) {
+    const LaidNumbers numbers = LayNumbers(painter, gauge, space.Scale());
+    if (numbers.start.IsEmpty()) {
         return;
     }
-    const EndNumbers texts = NumbersOf(gauge);
-    const TextBlock start(painter, texts.start, gauge.TickLabelFont(), space.Scale(), std::nullopt);
-    const TextBlock end(painter, texts.end, gauge.TickLabelFont(), space.Scale(), std::nullopt);
-    const qreal digits = std::max<qreal>(1, std::round(start.Height()));
-    const qreal kept = space.Line(EdgeOf(gauge) == EdgeStyle::None ? 1 : 3);
-    const QSizeF size = space.Area().size();
-    const HungNumbers places = HangNumbers(arc, gauge.TickLabelMargin(), start.Width(), end.Width(), digits,
-                                           {kept, kept, size.width() - kept, size.height() - kept});
-    if (!places.doFit) {
+    const qreal kept = EdgeOf(gauge) == EdgeStyle::None ? 1 : 3;
+    const QSizeF& size = space.Size();
+    const ArcLayout plain = ArcOf(gauge, size.width(), size.height(), 1);
+    if (!Hung(gauge, plain, LayNumbers(painter, gauge, 1), size, kept).doFit) {
         return;
     }
+    const HungNumbers places = Hung(gauge, arc, numbers, space.Area().size(), space.Line(kept));
+    const qreal digits = DigitHeight(numbers);
     const QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
     const auto draw = [&](const TextBlock& text, const HungNumber& place) {
         const qreal left = space.Area().left() + place.left;
         text.Draw(painter, left, left + text.Width(), space.Area().top() + place.top + digits, TextSide::Left, color);
     };
-    draw(start, places.start);
-    draw(end, places.end);
+    draw(numbers.start, places.start);
+    draw(numbers.end, places.end);
 }
 
 void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge, bool isLight)
@@ -175,17 +185,24 @@ void PaintHub(QPainter& painter, const QRectF& disc, const ArcLayout& arc, qreal
     }
 }
 
-// A picture of the hub, and where it lies.
-void KeepHub(AngularStill& still, const AngularGauge& gauge, qreal line)
+// Where the hub lies; empty for none.
+QRectF HubDisc(const Dial& dial, const AngularGauge& gauge)
 {
     constexpr qreal mostRadius = 500;
-    const qreal radius = std::min<qreal>(gauge.HubSize() / 2.0, mostRadius) * still.arc.scale;
-    if (!gauge.ShowHub() || radius <= 0) {
-        return;
-    }
-    const QRectF disc = Dial{still.arc, {}, {}, line}.Circle(radius);
+    const qreal radius = std::min<qreal>(gauge.HubSize() / 2.0, mostRadius) * dial.arc.scale;
+    return gauge.ShowHub() && radius > 0 ? dial.Circle(radius) : QRectF();
+}
+
+// A picture of the hub, and where it lies, unless it would be too large.
+void KeepHub(AngularStill& still, const AngularGauge& gauge, qreal line)
+{
+    constexpr qint64 mostPixels = qint64{1} << 20;
+    const QRectF disc = HubDisc({still.arc, {}, {}, line}, gauge);
     const qreal reach = std::ceil(3 * still.arc.scale); // of the shadow
     const QRect box = disc.adjusted(-1, -1, reach, reach).toAlignedRect();
+    if (disc.isEmpty() || qint64{box.width()} * box.height() > mostPixels) {
+        return;
+    }
     still.hub = QImage(box.size(), QImage::Format_ARGB32_Premultiplied);
     still.hub.fill(Qt::transparent);
     still.hubPlace = box.topLeft();
@@ -226,7 +243,12 @@ void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const QRect
     const AngularStill still = AngularFaces().Paint(painter, space, gauge, !gauge.Transparent());
     const Dial dial{still.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
     PaintPointer(painter, dial, gauge, still.isPointerLight);
-    if (!still.hub.isNull()) {
+    if (still.hub.isNull()) {
+        if (const QRectF disc = HubDisc(dial, gauge); !disc.isEmpty()) {
+            painter.setClipRect(dial.inside, Qt::IntersectClip);
+            PaintHub(painter, disc, still.arc, dial.line, ToQt(Resolve(gauge.HubColor())));
+        }
+    } else {
         const QPointF place = dial.origin + still.hubPlace;
         if (!dial.inside.contains(QRectF(place, still.hub.size()))) {
             painter.setClipRect(dial.inside, Qt::IntersectClip);

@@ -12,7 +12,7 @@ class AngularGauge;
 struct AngularStill {
     ArcLayout arc; // in device pixels
     bool isPointerLight;
-    QImage hub; // drawn over the pointer
+    QImage hub; // drawn over the pointer; null for one that isn't kept
     QPointF hubPlace;
     qsizetype Bytes() const { return hub.sizeInBytes(); }
 };

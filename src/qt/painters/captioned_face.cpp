@@ -47,7 +47,12 @@ void PaintContents(QPainter& painter, const DeviceSpace& space, const FaceConten
     FacePlan plan = PlanOf(space, contents);
     std::optional<qreal> wrapWidth;
     if (contents.wraps) {
-        wrapWidth = CaptionRoom(plan.face, plan.gaps, plan.picture, plan.picturePlace);
+        FaceSize picture;
+        if (contents.picture != nullptr) {
+            picture = {qreal(contents.picture->PixelWidth()), qreal(contents.picture->PixelHeight())};
+        }
+        wrapWidth =
+            CaptionRoom({space.Size().width(), space.Size().height()}, contents.gaps, picture, plan.picturePlace);
     }
     const TextBlock text(painter, contents.caption, contents.font, space.Scale(), wrapWidth);
     plan.caption = {text.Width(), text.Height()};

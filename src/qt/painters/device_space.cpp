@@ -7,7 +7,7 @@
 
 namespace quor {
 
-DeviceSpace::DeviceSpace(QPainter& painter, const QRectF& area) : m_painter(painter)
+DeviceSpace::DeviceSpace(QPainter& painter, const QRectF& area) : m_painter(painter), m_size(area.size())
 {
     painter.save();
     const QTransform toDevice = painter.deviceTransform();

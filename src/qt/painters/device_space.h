@@ -6,6 +6,9 @@
 
 namespace quor {
 
+// In device pixels, beyond all pictures: the toolkit takes seconds for curves farther away, so they are cut there.
+inline constexpr QRectF reachable(-2'000, -2'000, 34'000, 34'000);
+
 class DeviceSpace {
 public:
     // The area is in the painter's coordinates before, in device pixels after.
@@ -16,6 +19,8 @@ public:
 
     // With the edges rounded to whole pixels.
     const QRectF& Area() const noexcept { return m_area; }
+    // The area's, in device-independent pixels. What fits and where lines break is decided by it, at every scale alike.
+    const QSizeF& Size() const noexcept { return m_size; }
 
     // Device pixels for a length, a whole number and at least 1.
     qreal Line(qreal length) const;
@@ -27,6 +32,7 @@ public:
 
 private:
     QPainter& m_painter;
+    QSizeF m_size;
     QRectF m_area;
     qreal m_scale;
 };

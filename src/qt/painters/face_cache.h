@@ -70,14 +70,13 @@ template <class Kind, class Still>
 auto FaceCache<Kind, Still>::Drawn(const Kind& widget, const QSize& size, qreal scale, bool isOpaque) const -> Face
 {
     QImage picture(size, isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    picture.setDevicePixelRatio(scale);
     if (!isOpaque) {
         picture.fill(Qt::transparent);
     }
     QPainter painter(&picture);
+    painter.scale(scale, scale); // the picture's own ratio can't be below 1
     Still still = m_draw(painter, widget, QRectF(QPointF(0, 0), QSizeF(size) / scale));
     painter.end();
-    picture.setDevicePixelRatio(1); // it is painted pixel by pixel
     return {std::move(picture), std::move(still)};
 }
 

@@ -4,6 +4,7 @@
 #include "qt/painters/device_space.h"
 #include "qt/painters/mixing.h"
 #include "qt/ports/qt_text.h"
+#include "widgets/gauge_scale.h"
 #include "widgets/scale_gauge.h"
 
 #include <QPainter>
@@ -29,6 +30,16 @@ void PaintGround(QPainter& painter, const DeviceSpace& space, const ScaleGauge& 
         painter.fillRect(space.Area(), ground);
         PaintEdge(painter, space, EdgeOf(gauge), ground);
     }
+}
+
+LaidNumbers LayNumbers(const QPainter& painter, const ScaleGauge& gauge, qreal scale)
+{
+    const bool areShown = gauge.TickValuesVisible() && gauge.TickLabelFont().Size > 0;
+    const EndNumbers texts = areShown ? NumbersOf(gauge) : EndNumbers{};
+    const auto laidOut = [&](const std::string& text) {
+        return TextBlock(painter, text, gauge.TickLabelFont(), scale, std::nullopt);
+    };
+    return {laidOut(texts.start), laidOut(texts.end)};
 }
 
 bool IsLight(const QColor& color)

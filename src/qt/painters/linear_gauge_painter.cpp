@@ -6,7 +6,6 @@
 #include "qt/painters/mixing.h"
 #include "qt/painters/rounded.h"
 #include "qt/painters/smooth_fills.h"
-#include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/linear_gauge.h"
 
@@ -18,6 +17,8 @@
 namespace quor {
 
 namespace {
+
+constexpr qint64 mostPixels = qint64{1} << 20; // of a picture that is kept
 
 // A gauge laid out in device pixels, with places along and across its scale turned into the picture's.
 struct Scale {
@@ -36,33 +37,28 @@ struct Scale {
     }
 };
 
-struct Numbers {
-    TextBlock start;
-    TextBlock end;
-};
-
-Numbers NumbersFor(const QPainter& painter, const DeviceSpace& space, const LinearGauge& gauge)
-{
-    const EndNumbers texts =
-        gauge.TickValuesVisible() && gauge.TickLabelFont().Size > 0 ? NumbersOf(gauge) : EndNumbers{};
-    return {TextBlock(painter, texts.start, gauge.TickLabelFont(), space.Scale(), std::nullopt),
-            TextBlock(painter, texts.end, gauge.TickLabelFont(), space.Scale(), std::nullopt)};
-}
-
-LinearLayout LayOut(const DeviceSpace& space, const LinearGauge& gauge, const Numbers& numbers)
+// What the gauge is laid out in, at that size and scale.
+LinearRoom RoomOf(const LinearGauge& gauge, const LaidNumbers& numbers, const QSizeF& size, qreal scale, qreal line)
 {
     const bool isVertical = gauge.Orientation() == orientations::vertical;
-    const QSizeF size = space.Area().size();
     LinearRoom room{};
     room.along = isVertical ? size.height() : size.width();
     room.across = isVertical ? size.width() : size.height();
-    room.scale = space.Scale();
-    room.edge = EdgeOf(gauge) == EdgeStyle::None ? 0 : 2 * space.Line(1);
+    room.scale = scale;
+    room.edge = EdgeOf(gauge) == EdgeStyle::None ? 0 : 2 * line;
     const qreal digits = std::round(numbers.start.Height());
-    const qreal widest = std::max(numbers.start.Width(), numbers.end.Width());
     room.startSize = isVertical ? digits : numbers.start.Width();
     room.endSize = isVertical ? digits : numbers.end.Width();
-    room.numberSize = isVertical ? widest : digits;
+    room.numberSize = isVertical ? numbers.Widest() : digits;
+    return room;
+}
+
+LinearLayout LayOut(const QPainter& painter, const DeviceSpace& space, const LinearGauge& gauge,
+                    const LaidNumbers& numbers)
+{
+    const LinearRoom plain = RoomOf(gauge, LayNumbers(painter, gauge, 1), space.Size(), 1, 1);
+    LinearRoom room = RoomOf(gauge, numbers, space.Area().size(), space.Scale(), space.Line(1));
+    room.doNumbersFit = LayOut(gauge, plain).doNumbersFit;
     return LayOut(gauge, room);
 }
 
@@ -90,17 +86,16 @@ void PaintBand(QPainter& painter, const Scale& scale, const LinearGauge& gauge)
     FillRing(painter, scale.Box(low, high, layout.bandLow, layout.bandHigh), 0, scale.line, BlackAt(0.32));
 }
 
-void PaintNumbers(QPainter& painter, const Scale& scale, const Numbers& numbers, const LinearGauge& gauge)
+void PaintNumbers(QPainter& painter, const Scale& scale, const LaidNumbers& numbers, const LinearGauge& gauge)
 {
     const LinearLayout& layout = scale.layout;
     if (!layout.doNumbersFit) {
         return;
     }
     const QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
-    const qreal widest = std::max(numbers.start.Width(), numbers.end.Width());
     const auto draw = [&](const TextBlock& text, qreal along) {
         const QPointF corner = scale.At(along, layout.numberLow);
-        const qreal room = layout.isVertical ? widest : text.Width();
+        const qreal room = layout.isVertical ? numbers.Widest() : text.Width();
         const TextSide side = layout.areNumbersLow ? TextSide::Right : TextSide::Left;
         text.Draw(painter, corner.x(), corner.x() + room, corner.y() + std::round(text.Height()), side, color);
     };
@@ -163,7 +158,7 @@ void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const Line
     }
 }
 
-// A picture of the pointer, all across the inside of the gauge.
+// A picture of the pointer, all across the inside of the gauge, unless it would be too large.
 void KeepPointer(LinearStill& still, const DeviceSpace& space, const LinearGauge& gauge)
 {
     const QRectF inside = InsideEdge(space, EdgeOf(gauge)).translated(-space.Area().topLeft());
@@ -175,7 +170,7 @@ void KeepPointer(LinearStill& still, const DeviceSpace& space, const LinearGauge
     const int length = static_cast<int>(2 * still.pointerMargin + line);
     const QSize size =
         isVertical ? QSize(static_cast<int>(inside.width()), length) : QSize(length, static_cast<int>(inside.height()));
-    if (size.isEmpty()) {
+    if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) {
         return;
     }
     still.pointer = QImage(size, QImage::Format_ARGB32_Premultiplied);
@@ -191,8 +186,8 @@ LinearStill DrawLinearFace(QPainter& painter, const LinearGauge& gauge, const QR
     const DeviceSpace space(painter, area);
     PaintGround(painter, space, gauge);
     painter.setClipRect(InsideEdge(space, EdgeOf(gauge)), Qt::IntersectClip);
-    const Numbers numbers = NumbersFor(painter, space, gauge);
-    const Scale scale{LayOut(space, gauge, numbers), space.Area().topLeft(), space.Line(1), space.Scale()};
+    const LaidNumbers numbers = LayNumbers(painter, gauge, space.Scale());
+    const Scale scale{LayOut(painter, space, gauge, numbers), space.Area().topLeft(), space.Line(1), space.Scale()};
     PaintBand(painter, scale, gauge);
     PaintNumbers(painter, scale, numbers, gauge);
     LinearStill still{scale.layout, {}, 0};
@@ -217,6 +212,12 @@ void PaintLinearGauge(QPainter& painter, const LinearGauge& gauge, const QRectF&
     const LinearStill still = LinearFaces().Paint(painter, space, gauge, !gauge.Transparent());
     const QRectF inside = InsideEdge(space, EdgeOf(gauge));
     const qreal low = still.layout.Marked(PointerPlace(gauge), space.Line(1), space.Scale()) - still.pointerMargin;
+    if (still.pointer.isNull()) {
+        painter.setClipRect(inside, Qt::IntersectClip);
+        const Scale scale{still.layout, space.Area().topLeft(), space.Line(1), space.Scale()};
+        PaintPointer(painter, scale, low + still.pointerMargin, gauge, inside);
+        return;
+    }
     const QPointF place = still.layout.isVertical ? QPointF(inside.left(), space.Area().top() + low)
                                                   : QPointF(space.Area().left() + low, inside.top());
     if (!inside.contains(QRectF(place, still.pointer.size()))) {

@@ -11,7 +11,7 @@ class LinearGauge;
 // What is kept beside the face.
 struct LinearStill {
     LinearLayout layout; // in device pixels
-    QImage pointer;
+    QImage pointer;      // null for one that isn't kept
     qreal pointerMargin; // from the first pixel of the line in it to what it marks
     qsizetype Bytes() const { return pointer.sizeInBytes(); }
 };

@@ -83,7 +83,7 @@ bool PaintsNothing(const Widget& widget)
 
 bool IsPaintable(const QRectF& area)
 {
-    constexpr qreal far = 32'767; // the toolkit takes seconds for curves beyond it
+    constexpr qreal far = 1'000'000; // the toolkit's whole numbers hold eight times it
     return area.left() > -far && area.top() > -far && area.right() < far && area.bottom() < far;
 }
 

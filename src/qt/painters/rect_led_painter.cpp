@@ -53,7 +53,7 @@ void PaintLegend(QPainter& painter, const RectLed& led, const DeviceSpace& space
     const qreal inset = space.Whole(legendInset);
     std::optional<qreal> wrapWidth;
     if (led.CaptionWordWrap()) {
-        wrapWidth = box.width() - 2 * inset;
+        wrapWidth = space.Size().width() - 2 * legendInset;
     }
     const TextBlock text(painter, led.Caption(), led.CenterLabelFont(), space.Scale(), wrapWidth);
     const QColor color = ToQt(Resolve(led.Active() ? led.CaptionOnColor() : led.CaptionOffColor()));

@@ -2,7 +2,9 @@
 
 #include "qt/painters/device_space.h"
 #include "qt/painters/kept_picture.h"
+#include "qt/painters/lamp_face.h"
 #include "qt/painters/mixing.h"
+#include "qt/painters/smooth_fills.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/round_led.h"
 
@@ -35,6 +37,9 @@ struct Lamp {
         return QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius).toAlignedRect();
     }
 
+    // So large that at most a part of it shows, without rim and reflection.
+    bool IsVast() const { return !reachable.contains(Place()); }
+
     PictureKey Key() const
     {
         PictureKey key(QLatin1StringView("lamp"));
@@ -63,13 +68,12 @@ Lamp LampOf(const RoundLed& led, const DeviceSpace& space, const QRectF& area)
         bezel = std::min(space.Line(BezelWidth(std::min(area.width(), area.height()))), std::floor((diameter - 1) / 2));
     }
     lamp.lens = lamp.radius - bezel;
-    lamp.rim = lamp.lens < 2 ? 0 : space.Line(1);
+    lamp.rim = lamp.lens < 2 || lamp.IsVast() ? 0 : space.Line(1);
     lamp.isLit = led.Active();
     lamp.reflects = led.ShowReflection();
-    const Color shown = led.Active() ? led.ActiveColor() : led.InactiveColor();
-    const bool isWorkedOut = !led.Active() && led.AutoInactiveColor();
-    lamp.isMuted = !isWorkedOut && shown == colors::buttonFace;
-    lamp.color = ToQt(isWorkedOut ? UnlitColor(Resolve(led.ActiveColor())) : Resolve(shown));
+    const LampColors colors{led.Active(), led.ActiveColor(), led.InactiveColor(), led.AutoInactiveColor()};
+    lamp.isMuted = IsMuted(colors);
+    lamp.color = ShownColor(colors);
     return lamp;
 }
 
@@ -77,7 +81,17 @@ void FillDisc(QPainter& painter, const Lamp& lamp, qreal radius, const QBrush& b
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
-    painter.drawEllipse(lamp.center, radius, radius);
+    if (!lamp.IsVast()) {
+        painter.drawEllipse(lamp.center, radius, radius);
+        return;
+    }
+    constexpr int corners = 8'192;
+    std::vector<Point> disc;
+    for (int corner = 0; corner < corners; ++corner) {
+        const double angle = 2 * std::numbers::pi * corner / corners;
+        disc.push_back({lamp.center.x() + radius * std::cos(angle), lamp.center.y() + radius * std::sin(angle)});
+    }
+    painter.drawPolygon(ReachablePart(disc, {}));
 }
 
 // From the light's side of a disc to the other.

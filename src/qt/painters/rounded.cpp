@@ -1,5 +1,7 @@
 #include "qt/painters/rounded.h"
 
+#include "qt/painters/device_space.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -16,7 +18,7 @@ void FillRounded(QPainter& painter, const QRectF& box, qreal radius, const QBrus
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
-    painter.drawRoundedRect(box, radius, radius);
+    painter.drawRoundedRect(box & reachable, radius, radius);
 }
 
 void FillRing(QPainter& painter, const QRectF& box, qreal radius, qreal width, const QBrush& brush)
@@ -27,9 +29,9 @@ void FillRing(QPainter& painter, const QRectF& box, qreal radius, qreal width, c
         return;
     }
     QPainterPath ring;
-    ring.addRoundedRect(box, radius, radius);
+    ring.addRoundedRect(box & reachable, radius, radius);
     const qreal innerRadius = std::max<qreal>(0, radius - width);
-    ring.addRoundedRect(inner, innerRadius, innerRadius);
+    ring.addRoundedRect(inner & reachable.adjusted(width, width, -width, -width), innerRadius, innerRadius);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(ring, brush);
 }

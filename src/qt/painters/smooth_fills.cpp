@@ -1,5 +1,7 @@
 #include "qt/painters/smooth_fills.h"
 
+#include "qt/painters/device_space.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -44,6 +46,16 @@ template <class Value> int AfterZeros(const Value* values, int from, int end)
 
 } // namespace
 
+QPolygonF ReachablePart(std::span<const Point> polygon, const QPointF& shift)
+{
+    const QRectF box = reachable.translated(-shift);
+    QPolygonF part;
+    for (const Point& point : Clipped(polygon, {box.left(), box.top(), box.right(), box.bottom()})) {
+        part.append(shift + QPointF(point.x, point.y));
+    }
+    return part;
+}
+
 // Many small polygons share the memory of few.
 SmoothFills::Scratch& SmoothFills::ScratchOfThread()
 {
@@ -79,10 +91,7 @@ void SmoothFills::Trace(std::span<const Point> polygon, const QPointF& shift)
         return;
     }
     if (m_picture.isNull()) {
-        m_polygon.clear();
-        for (const Point& point : polygon) {
-            m_polygon.append(shift + QPointF(point.x, point.y));
-        }
+        m_polygon = ReachablePart(polygon, shift);
         return;
     }
     std::fill(m_scratch.touched.begin(), m_scratch.touched.end(), Touched{m_stride, 0});

@@ -18,6 +18,9 @@ class QPainter;
 
 namespace quor {
 
+// What the toolkit can fill of a polygon in device pixels that is moved by so much.
+QPolygonF ReachablePart(std::span<const Point> polygon, const QPointF& shift);
+
 class SmoothFills {
 public:
     // For polygons within the bounds, of which only what lies in the area shows. Both and all points are in the

@@ -45,37 +45,42 @@ QString WithoutBlanksBehind(const QString& text)
 
 TextBlock::TextBlock(const QPainter& painter, const std::string& text, const Font& font, qreal scale,
                      std::optional<qreal> wrapWidth)
-    : m_font(ViewFont(font, scale, *painter.device())), m_scale(scale), m_size(PixelSizeOf(font) * scale),
-      m_lineHeight(std::ceil(lineShare * m_size))
+    : m_scale(scale), m_size(PixelSizeOf(font) * scale), m_shrunk(std::min<qreal>(1, m_size)),
+      m_font(ViewFont(font, scale / m_shrunk, *painter.device())),
+      m_lineHeight(std::ceil(lineShare * PixelSizeOf(font)) * scale)
 {
     if (text.empty()) {
         return;
     }
+    const QFont plain = wrapWidth && scale != 1 ? ViewFont(font, 1, *painter.device()) : m_font;
     for (const QString& paragraph : ParagraphsOf(ToQt(text))) {
-        AddLines(painter, paragraph, wrapWidth);
+        AddLines(painter, paragraph, plain, wrapWidth);
     }
     for (const Line& line : m_lines) {
         m_width = std::max(m_width, std::ceil(line.width));
     }
 }
 
-void TextBlock::AddLines(const QPainter& painter, const QString& paragraph, std::optional<qreal> wrapWidth)
+// `plain` is the font at the scale of 1.
+void TextBlock::AddLines(const QPainter& painter, const QString& paragraph, const QFont& plain,
+                         std::optional<qreal> wrapWidth)
 {
     const QFontMetricsF metrics(m_font, painter.device());
-    const qreal whole = metrics.horizontalAdvance(paragraph);
-    if (!wrapWidth || whole <= *wrapWidth) {
-        m_lines.push_back({paragraph, whole});
+    const auto add = [&](const QString& text) {
+        m_lines.push_back({text, m_shrunk * metrics.horizontalAdvance(text)});
+    };
+    if (!wrapWidth || QFontMetricsF(plain, painter.device()).horizontalAdvance(paragraph) <= *wrapWidth) {
+        add(paragraph);
         return;
     }
-    QTextLayout layout(paragraph, m_font, painter.device());
+    QTextLayout layout(paragraph, plain, painter.device());
     QTextOption wrapping;
     wrapping.setWrapMode(QTextOption::WordWrap);
     layout.setTextOption(wrapping);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(std::max<qreal>(1, *wrapWidth));
-        const QString shown = WithoutBlanksBehind(paragraph.mid(line.textStart(), line.textLength()));
-        m_lines.push_back({shown, metrics.horizontalAdvance(shown)});
+        add(WithoutBlanksBehind(paragraph.mid(line.textStart(), line.textLength())));
     }
     layout.endLayout();
 }
@@ -108,17 +113,31 @@ void TextBlock::Draw(QPainter& painter, qreal left, qreal right, qreal baseline,
     for (const Line& line : m_lines) {
         const qreal free = std::max<qreal>(0, right - left - line.width);
         const qreal shift = side == TextSide::Left ? 0 : side == TextSide::Right ? free : free / 2;
-        const QPointF start(HalvesUp(left + shift), baseline);
-        if (outline.isValid()) {
-            QPainterPath letters;
-            letters.addText(start, m_font, line.text);
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.strokePath(letters, QPen(outline, 2 * m_scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const QPointF start(HalvesUp(left + shift), HalvesUp(baseline));
+        if (m_shrunk == 1) {
+            DrawLine(painter, line, start, color, outline);
+        } else {
+            const QTransform before = painter.transform();
+            painter.translate(start);
+            painter.scale(m_shrunk, m_shrunk);
+            DrawLine(painter, line, {}, color, outline);
+            painter.setTransform(before);
         }
-        painter.setPen(color);
-        painter.drawText(start, line.text);
         baseline += m_lineHeight;
     }
+}
+
+void TextBlock::DrawLine(QPainter& painter, const Line& line, const QPointF& start, const QColor& color,
+                         const QColor& outline) const
+{
+    if (outline.isValid()) {
+        QPainterPath letters;
+        letters.addText(start, m_font, line.text);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.strokePath(letters, QPen(outline, 2 * m_scale / m_shrunk, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+    painter.setPen(color);
+    painter.drawText(start, line.text);
 }
 
 } // namespace quor

@@ -19,7 +19,8 @@ enum class TextSide { Left, Right, Center };
 
 class TextBlock {
 public:
-    // Wrapped between words at that width, if there is one; a word that is wider stands out.
+    // Wrapped between words at that width in device-independent pixels, if there is one; a word that is wider stands
+    // out. Lines break at the same words at every scale.
     TextBlock(const QPainter& painter, const std::string& text, const Font& font, qreal scale,
               std::optional<qreal> wrapWidth);
 
@@ -31,15 +32,15 @@ public:
     // From the top of the first line's capitals to the baseline of the last line.
     qreal Height() const noexcept;
 
-    // The first baseline, a whole number, of a text that stands in the middle of that height.
+    // The first baseline of a text that stands in the middle of that height.
     qreal MiddleBaseline(qreal top, qreal height) const noexcept;
     // The first baseline of a text whose first line starts there.
     qreal TopBaseline(qreal top) const noexcept;
     // The first baseline of a text whose capitals reach up to there.
     qreal CapsBaseline(qreal top) const noexcept;
 
-    // Each line at its side of the room between left and right; a wider one begins at the left. The outline, if it is a
-    // colour, is a pixel around each letter.
+    // Each line at its side of the room between left and right, on a whole pixel; a wider one begins at the left. The
+    // outline, if it is a colour, is a pixel around each letter.
     void Draw(QPainter& painter, qreal left, qreal right, qreal baseline, TextSide side, const QColor& color,
               const QColor& outline = QColor()) const;
 
@@ -48,11 +49,15 @@ private:
         QString text;
         qreal width;
     };
-    void AddLines(const QPainter& painter, const QString& paragraph, std::optional<qreal> wrapWidth);
+    void AddLines(const QPainter& painter, const QString& paragraph, const QFont& plain,
+                  std::optional<qreal> wrapWidth);
+    void DrawLine(QPainter& painter, const Line& line, const QPointF& start, const QColor& color,
+                  const QColor& outline) const;
 
-    QFont m_font;
     qreal m_scale;
-    qreal m_size; // of the font
+    qreal m_size;   // of the font
+    qreal m_shrunk; // what letters are drawn smaller than in the font, which has a pixel at least
+    QFont m_font;
     qreal m_lineHeight;
     qreal m_width = 0;
     std::vector<Line> m_lines;

@@ -48,7 +48,7 @@ void PaintCaption(QPainter& painter, const TextLabel& label, const DeviceSpace& 
     const QRectF room = space.Area().adjusted(inset, inset, -inset, -inset);
     std::optional<qreal> wrapWidth;
     if (label.WordWrap()) {
-        wrapWidth = room.width();
+        wrapWidth = space.Size().width() - 2 * InsetOf(edge);
     }
     const TextBlock text(painter, label.Caption(), label.Font(), space.Scale(), wrapWidth);
     const QRectF& box = space.Area();

@@ -86,8 +86,10 @@ QFont ViewFont(const Font& font, qreal scale, const QPaintDevice& device)
     shown.setItalic(font.Italic);
     shown.setUnderline(font.Underline);
     shown.setStrikeOut(font.Strikethrough);
-    // Caps and baselines on whole pixels, widths as they are.
-    shown.setHintingPreference(QFont::PreferVerticalHinting);
+    // Caps and baselines on whole pixels, widths as they are; hinted letters that are shrunk to a few pixels grow
+    // wider.
+    constexpr qreal fewPixels = 8;
+    shown.setHintingPreference(scale < 1 && pixels < fewPixels ? QFont::PreferNoHinting : QFont::PreferVerticalHinting);
     shown.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return shown;
 }
