@@ -24,13 +24,19 @@ struct TheCanvas : EditorFixture {
 TEST_F(TheCanvas, HasSevenPixelsOfEachElementToPress)
 {
     constexpr float side = 105; // seven pixels
-    constexpr Area lamps[] = {{3000, 3000, 0, 0}, {3000, 3000, 15, 300},    {0, 3000, 0, 0},       {-900, 3000, 300, 300},
-                              {3000, -900, 9, 9}, {-300, -300, 310, 310}, {31'000, 3000, 60, 60}, {3000, 4e6F, 255, 255}};
+    constexpr Area lamps[] = {{3000, 3000, 0, 0},     {3000, 3000, 15, 300}, {0, 3000, 0, 0},
+                              {-900, 3000, 300, 300}, {3000, -900, 9, 9},    {-300, -300, 310, 310},
+                              {31'000, 3000, 60, 60}, {3000, 4e6F, 255, 255}};
     const float right = static_cast<float>(main.ssScroll().ScrollMaxX());
     const float bottom = static_cast<float>(main.ssScroll().ScrollMaxY());
-    const Area pressed[] = {{2947.5F, 2947.5F, side, side}, {2955, 3000, side, 300},           {0, 2947.5F, side, side},
-                            {0, 3000, side, 300},           {2952, 0, side, side},             {0, 0, side, side},
-                            {right - side, 2977.5F, side, side}, {3000, bottom - side, 255, side}};
+    const Area pressed[] = {{2947.5F, 2947.5F, side, side},
+                            {2955, 3000, side, 300},
+                            {0, 2947.5F, side, side},
+                            {0, 3000, side, 300},
+                            {2952, 0, side, side},
+                            {0, 0, side, side},
+                            {right - side, 2977.5F, side, side},
+                            {3000, bottom - side, 255, side}};
     for (std::size_t i = 0; i < std::size(lamps); ++i) {
         const Widget* lamp = Lamp(lamps[i]).MyControl();
         const Area& area = pressed[i];

@@ -5,8 +5,8 @@
 #include "document/view_document.h"
 #include "elements/picture.h"
 
-#include <QContextMenuEvent>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
@@ -141,7 +141,8 @@ TEST(CanvasMouse, OrderAndGridHaveTheirKeys)
     EXPECT_FALSE(desk.Main().GridVisible());
     desk.Key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
     desk.Drag({122, 112}, {129, 119});
-    EXPECT_TRUE(desk.Elements().last().contains(" 127,117 ")) << desk.Elements().last().toStdString() << ", without the snap";
+    EXPECT_TRUE(desk.Elements().last().contains(" 127,117 "))
+        << desk.Elements().last().toStdString() << ", without the snap";
     desk.Key(Qt::Key_G, Qt::ControlModifier); // the settings outlive the desk
     desk.Key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(desk.Main().GridVisible());

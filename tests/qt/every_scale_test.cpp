@@ -130,12 +130,14 @@ TEST_F(EveryKind, ShowsItsNumbersWholeOrNotAtAllAtEveryScale)
         gauge->Set(&ScaleGauge::TickLabelColorValue, magenta);
         gauge->Set(&ScaleGauge::PositionMax, 1'000);
     }
-    for (const Widget* widget : {static_cast<Widget*>(&display), static_cast<Widget*>(&dial), static_cast<Widget*>(&band)}) {
+    for (const Widget* widget :
+         {static_cast<Widget*>(&display), static_cast<Widget*>(&dial), static_cast<Widget*>(&band)}) {
         for (int width = 40; width <= 100; width += 10) {
             const QSize size(width, widget == &dial ? 100 : 40);
             const double plain = pinks(PictureOf(*widget, QRect(QPoint(0, 0), size), size));
             for (const qreal scale : {0.3, 0.5, 0.7, 1.3, 4.0}) {
-                const double shown = pinks(PictureOf(*widget, QRect(QPoint(0, 0), size), size, scale)) / (scale * scale);
+                const double shown =
+                    pinks(PictureOf(*widget, QRect(QPoint(0, 0), size), size, scale)) / (scale * scale);
                 EXPECT_NEAR(shown, plain, 0.55 * plain + 2) << widget->Name() << ' ' << width << " at " << scale;
             }
         }
@@ -154,8 +156,8 @@ TEST_F(EveryKind, ShowsWhatIsVisibleOfIt)
             label->Set(&TextLabel::BackStyle, std::int16_t{1});
         }
         for (const qreal scale : {1.0, 8.0}) {
-            for (const QRectF& area : {QRectF(2, 2, 100'000, 100'000), QRectF(2, 2, 100'000, 36), QRectF(2, 2, 56, 100'000),
-                                       QRectF(-99'970, -99'980, 100'000, 100'000)}) {
+            for (const QRectF& area : {QRectF(2, 2, 100'000, 100'000), QRectF(2, 2, 100'000, 36),
+                                       QRectF(2, 2, 56, 100'000), QRectF(-99'970, -99'980, 100'000, 100'000)}) {
                 ASSERT_TRUE(IsPaintable(area));
                 const QImage image = PictureOf(widget, area, view, scale, 0xFFFF00FF);
                 int shown = 0;

@@ -68,16 +68,6 @@ TEST(RoundLedPicture, ALitCoreIsPalerThanItsColorAndTheColorStandsAroundIt)
     EXPECT_NEAR(qGreen(body), 200, 4);
 }
 
-TEST(RoundLedPicture, UnlitItShowsFortyPercentOfItsColorOrTheOneThatIsSet)
-{
-    RoundLed led = MakeLamp(false, bevels::none);
-    EXPECT_NEAR(qGreen(Middle(Drawn(led, {101, 101}))), 80, 3);
-    led.Set(&RoundLed::InactiveColor, Color{0x000000FF});
-    EXPECT_NEAR(qGreen(Middle(Drawn(led, {101, 101}))), 80, 3) << "the set colour is ignored while it is automatic";
-    led.Set(&RoundLed::AutoInactiveColor, false);
-    EXPECT_NEAR(qRed(Middle(Drawn(led, {101, 101}))), 255, 8);
-}
-
 TEST(RoundLedPicture, TheBezelGrowsWithTheDiameter)
 {
     const struct {

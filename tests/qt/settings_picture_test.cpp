@@ -41,8 +41,7 @@ struct Change {
     std::function<void(Widget&)> write;
 };
 
-template <class W, FixedString Name, class T>
-Change With(Property<Name, T> W::*property, std::type_identity_t<T> value)
+template <class W, FixedString Name, class T> Change With(Property<Name, T> W::*property, std::type_identity_t<T> value)
 {
     return {std::string(Property<Name, T>::name), [=](Widget& widget) { widget.Set(property, value); }};
 }
@@ -89,7 +88,7 @@ struct Measures {
     double amount = 0;
     double right = 0; // their middle's place, from the picture's
     double down = 0;
-    double far = 0; // their mean distance from the picture's middle
+    double far = 0;   // their mean distance from the picture's middle
     double light = 0; // of all pixels
     double lit = 0;   // how much lighter all is at the upper left
 };
@@ -148,11 +147,12 @@ protected:
     template <class W, FixedString Name>
     void CheckFont(const char* array, Property<Name, Font> W::*font, const std::vector<Change>& base)
     {
-        Check(array, base, {{With(font, [](Font& each) { each.SetBold(true); }), more},
-                            {With(font, [](Font& each) { each.Size = 120'000; }), more},
-                            {With(font, [](Font& each) { each.Italic = true; }), other},
-                            {With(font, [](Font& each) { each.Underline = true; }), down},
-                            {With(font, [](Font& each) { each.Strikethrough = true; }), more}});
+        Check(array, base,
+              {{With(font, [](Font& each) { each.SetBold(true); }), more},
+               {With(font, [](Font& each) { each.Size = 120'000; }), more},
+               {With(font, [](Font& each) { each.Italic = true; }), other},
+               {With(font, [](Font& each) { each.Underline = true; }), down},
+               {With(font, [](Font& each) { each.Strikethrough = true; }), more}});
     }
 
     void CheckLabel(const char* array);
