@@ -65,6 +65,7 @@ TEST_F(TheCanvas, RefusesAPressBeyondSixteenBitsOfALamp)
     const CanvasTarget target{CanvasTarget::What::Element, led.MyControl()};
     reporter.Announce(Ref("frmMain.Widget_MouseDown"));
     main.Press(target, MouseButton::Left, 32'768, 10);
+    ASSERT_FALSE(reporter.reports.empty());
     EXPECT_EQ(reporter.reports.back().number, failures::overflow);
     EXPECT_EQ(main.SelectedWidget(), nullptr);
     EXPECT_FALSE(main.IsDragging());
