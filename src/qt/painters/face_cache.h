@@ -49,9 +49,9 @@ template <class Kind, class Still>
 Still FaceCache<Kind, Still>::Paint(QPainter& painter, const DeviceSpace& space, const Kind& widget, bool isOpaque)
 {
     constexpr qreal bytesPerPixel = 4;
-    constexpr qsizetype leastFaces = 4;
+    constexpr qreal leastFaces = 4;
     const QRectF& area = space.Area();
-    if (bytesPerPixel * area.width() * area.height() > static_cast<qreal>(m_faces.maxCost() / leastFaces)) {
+    if (leastFaces * bytesPerPixel * area.width() * area.height() > static_cast<qreal>(m_faces.maxCost())) {
         return PaintAfresh(painter, space, widget);
     }
     const QSize size = area.size().toSize();

@@ -13,7 +13,7 @@ namespace quor {
 
 namespace {
 
-constexpr qint64 mostPixels = 256 * 256; // beyond it, the empty ones cost more than is won
+constexpr qint64 mostPixels = qint64{256} * 256; // beyond it, the empty ones cost more than is won
 
 constexpr int narrow = 16;      // pixels of a row that are not worth looking for empty ones
 constexpr int whole = 255 << 8; // the cover of a pixel that is covered wholly
