@@ -195,7 +195,7 @@ public:
                  {.height = 26, .items = {{.control = &chkLong, .x = 116, .orX = 12}}}});
     }
 
-    Label& lblStyle = Make<Label>("lblViewProps(0)", "Bevel Style:");
+    Label& lblStyle = Make<Label>("lblViewProps(0)", "Bevel Style:", LabelRole::Caption);
     ListBox& cboStyle = Make<ListBox>("cboStyle", std::vector<std::string>{"None", "Raised"});
     Label& lblColor = Make<Label>("lblViewProps(1)", "On Color:");
     Swatch& clrOn = Make<Swatch>("clrOn");
