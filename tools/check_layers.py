@@ -36,7 +36,7 @@ FOREIGN = [
     (re.compile(r"emf2svg\.h"), ("apps/metafile",)),
     (re.compile(r"nlohmann/.*"), ("apps",)),
     (re.compile(r"sodium\.h"), ("apps",)),
-    (re.compile(r"(unistd|fcntl|termios|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
+    (re.compile(r"(unistd|fcntl|termios|pwd|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
 ]
 
 STANDARD = re.compile(r"[a-z_0-9]+")

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -23,6 +24,7 @@ class Forms;
 class MessageBoxes;
 class OpenFile;
 class Reporter;
+class ScratchFile;
 class Timer;
 class Timers;
 class frmViewPBar;
@@ -76,6 +78,10 @@ public:
     // True if the target was written; a failure has been told to the user and leaves the target as it was.
     bool SaveFile(const std::string& path);
 
+    // Saves to a scratch file, which is the caller's to delete. Gives its path, empty after a failure, which has been
+    // told to the user.
+    std::string SaveScratch();
+
     // New, empty collections and a new order.
     void ClearAll();
 
@@ -116,6 +122,7 @@ private:
     LoadVerdict Examine(ContainerReader& reader);
     void ReadRecords(ContainerReader& reader);
     void ReadRecord(const RecordView& record, std::string_view name);
+    bool Save(const std::function<void(const ScratchFile&)>& copy);
     void WriteContainer(OpenFile& file);
 
     void AskToUpgrade(const std::string& path, const std::string& name, int version);

@@ -4,31 +4,35 @@
 #include "document/format/container.h"
 #include "document/format/record.h"
 #include "document/view_document.h"
+#include "platform/scratch_file.h"
 
 namespace quor {
 
 bool clsCustView::SaveFile(const std::string& path)
 {
-    Files& files = m_ports.files;
-    std::string scratch;
-    std::unique_ptr<OpenFile> file;
-    const bool isSaved =
-        Guard(m_ports.reporter, Ref("clsCustView.SaveFile"), "Unable to save the custom view file.", [&] {
-            const std::string name = files.TempFolder() + "/" + files.TempName();
-            if (files.FileExists(name)) {
-                files.DeleteFile(name);
-            }
-            file = files.Open(name, OpenMode::Scratch);
-            scratch = name;
-            WriteContainer(*file);
-            file->Close();
-            file.reset();
-            files.CopyFile(scratch, path);
-            files.DeleteFile(scratch);
-        });
-    if (!isSaved && !scratch.empty()) {
-        file.reset();
-        IgnoreFailure([&] { files.DeleteFile(scratch); });
+    return Save([&](const ScratchFile& scratch) { m_ports.files.CopyFile(scratch.Path(), path); });
+}
+
+std::string clsCustView::SaveScratch()
+{
+    std::string path;
+    const bool isSaved = Save([&](const ScratchFile& scratch) {
+        path = scratch.PathBeside();
+        m_ports.files.CopyScratch(scratch.Path(), path);
+    });
+    return isSaved ? path : std::string();
+}
+
+bool clsCustView::Save(const std::function<void(const ScratchFile&)>& copy)
+{
+    constexpr RefNumber ref = Ref("clsCustView.SaveFile");
+    ScratchFile scratch(m_ports.files);
+    const bool isSaved = Guard(m_ports.reporter, ref, "Unable to save the custom view file.", [&] {
+        scratch.Fill([this](OpenFile& file) { WriteContainer(file); });
+        copy(scratch);
+    });
+    if (isSaved) {
+        GuardToLog(m_ports.reporter, ref, "The custom view file is saved.", [&] { scratch.Delete(); });
     }
     return isSaved;
 }

@@ -36,9 +36,10 @@ void clsCustView::StartUpgrade(const std::string& path, int version)
     }
 }
 
-void clsCustView::FinishUpgrade(std::span<const std::uint8_t> bytes, const std::string& path)
+void clsCustView::FinishUpgrade(std::span<const std::uint8_t> bytes, const std::string& link)
 {
     Files& files = m_ports.files;
+    const std::string path = files.FollowLinks(link); // else the link would become the backup
     const std::string backup = BackupPath(path);
     if (backup == path) {
         throw Failure(failures::pathFileAccess, "The backup would have the name of the file itself.");
@@ -47,10 +48,10 @@ void clsCustView::FinishUpgrade(std::span<const std::uint8_t> bytes, const std::
         files.DeleteFile(backup);
     }
     files.MoveFile(path, backup);
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Create);
+    const std::unique_ptr<OpenFile> file = files.OpenLike(path, backup);
     file->Write(0, bytes);
     file->Close();
-    FilePath = path;
+    FilePath = link;
     m_LoadViewTimer = m_ports.timers.Make();
     m_reload = m_LoadViewTimer->Fired.Subscribe([this] { m_LoadViewTimer_Timer(); });
     m_LoadViewTimer->SetInterval(reloadDelay);

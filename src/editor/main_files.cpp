@@ -129,22 +129,13 @@ bool frmMain::QuerySave()
 
 std::int32_t frmMain::GetCurrentChecksum()
 {
+    Files& files = m_ports.files;
+    const std::string path = m_view->SaveScratch();
     std::int32_t checksum = 0;
-    IgnoreFailure([&] {
-        Files& files = m_ports.files;
-        const std::string name = files.TempFolder() + "/" + files.TempName();
-        if (!m_view->SaveFile(name)) {
-            // It may have failed behind the copy.
-            if (files.FileExists(name)) {
-                files.DeleteFile(name);
-            }
-            return;
-        }
-        std::int32_t found = 0;
-        const bool isRead = IgnoreFailure([&] { found = ReadChecksumAtEnd(*files.Open(name, OpenMode::Read)); });
-        files.DeleteFile(name);
-        checksum = isRead ? found : 0;
-    });
+    if (!path.empty()) {
+        IgnoreFailure([&] { checksum = ReadChecksumAtEnd(*files.Open(path, OpenMode::Read)); });
+        IgnoreFailure([&] { files.DeleteFile(path); });
+    }
     return checksum;
 }
 

@@ -41,9 +41,19 @@ public:
     virtual bool FileExists(const std::string& path) = 0;
     virtual std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) = 0;
 
-    // Replaces the target in one step: it is whole at any moment, the old file or the new one. A target that is
-    // read-only fails with 70 and stays; links are followed; permissions and owner of an old target are kept.
+    // A new file with the permissions and the owner of another; its bytes outlive a loss of power once it is closed.
+    // Fails with 75 if the path exists.
+    virtual std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) = 0;
+
+    // Replaces the target in one step: it is whole at any moment, the old file or the new one. (In a folder that takes
+    // no new file the target is written in place; a failure puts the old bytes back.) A target that is read-only fails
+    // with 70 and stays; links are followed, other names of the target keep the old file; permissions and owner of an
+    // old target are kept.
     virtual void CopyFile(const std::string& from, const std::string& to) = 0;
+
+    // Of a scratch file to another, which doesn't exist yet. Neither is written again or outlives a loss of power, so
+    // they may share their bytes.
+    virtual void CopyScratch(const std::string& from, const std::string& to) = 0;
 
     // Fails with 75 if the target exists.
     virtual void MoveFile(const std::string& from, const std::string& to) = 0;
@@ -51,8 +61,14 @@ public:
     // Also if the file is read-only.
     virtual void DeleteFile(const std::string& path) = 0;
 
+    // The path behind a chain of symbolic links; the path itself where it is none.
+    virtual std::string FollowLinks(const std::string& path) = 0;
+
     // The system's folder for temporary files, without a separator at its end.
     virtual std::string TempFolder() = 0;
+
+    // Another one, for when that one can't take a file. Empty if there is none.
+    virtual std::string SpareFolder() = 0;
 
     // A bare name that can't be guessed.
     virtual std::string TempName() = 0;

@@ -59,9 +59,16 @@ Descriptor::Descriptor(std::string path, int flags, unsigned mode) : m_path(std:
     }
     m_number = open(m_path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode);
     Check(m_number);
+    if ((flags & O_EXCL) != 0) {
+        return; // a new file is a regular one
+    }
     struct stat status {};
-    if (fstat(m_number, &status) != 0 || !S_ISREG(status.st_mode)) {
+    const int error = fstat(m_number, &status) == 0 ? 0 : errno;
+    if (error != 0 || !S_ISREG(status.st_mode)) {
         close(m_number);
+        if (error != 0) {
+            Fail(error, m_path);
+        }
         throw Failure(failures::pathFileAccess, "This is no regular file.");
     }
 }

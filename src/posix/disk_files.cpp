@@ -3,11 +3,11 @@
 #include "base/guard.h"
 #include "posix/descriptor.h"
 #include "posix/safe_replace.h"
+#include "posix/scratch.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,10 +18,17 @@ namespace {
 
 using posix::Descriptor;
 
-// Writes that follow each other are gathered.
+// What writes and the close of a file do.
+enum class Writing { Direct, Gathered, Lasting };
+
+// Gathered writes are those that follow each other; lasting ones are gathered, and on the disk once it is closed.
 class DiskFile final : public OpenFile {
 public:
-    DiskFile(Descriptor file, bool gathers) : m_file(std::move(file)), m_capacity(gathers ? gatheredSize : 0) {}
+    DiskFile(Descriptor file, Writing writing)
+        : m_file(std::move(file)), m_capacity(writing == Writing::Direct ? 0 : gatheredSize),
+          m_lasts(writing == Writing::Lasting)
+    {
+    }
     DiskFile(const DiskFile&) = delete;
     DiskFile& operator=(const DiskFile&) = delete;
     ~DiskFile() override
@@ -62,6 +69,9 @@ public:
     void Close() override
     {
         Flush();
+        if (m_lasts) {
+            posix::FlushNew(m_file);
+        }
         m_file.Close();
     }
 
@@ -79,6 +89,7 @@ private:
 
     Descriptor m_file;
     std::size_t m_capacity;
+    bool m_lasts;
     std::int64_t m_start = 0; // where the pending bytes belong
     std::size_t m_size = 0;   // how many there are
     std::unique_ptr<std::uint8_t[]> m_pending;
@@ -105,26 +116,31 @@ std::unique_ptr<OpenFile> DiskFiles::Open(const std::string& path, OpenMode mode
     constexpr unsigned all = 0666;
     switch (mode) {
     case OpenMode::Read:
-        return std::make_unique<DiskFile>(Descriptor(path, O_RDONLY), false);
+        return std::make_unique<DiskFile>(Descriptor(path, O_RDONLY), Writing::Direct);
     case OpenMode::Create:
-        return std::make_unique<DiskFile>(OpenAnew(path), true);
+        return std::make_unique<DiskFile>(OpenAnew(path), Writing::Gathered);
     case OpenMode::Scratch:
         return std::make_unique<DiskFile>(Descriptor(path, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, S_IRUSR | S_IWUSR),
-                                          true);
+                                          Writing::Gathered);
     case OpenMode::Append:
-        return std::make_unique<DiskFile>(Descriptor(path, O_RDWR | O_CREAT | O_APPEND, all), false);
+        return std::make_unique<DiskFile>(Descriptor(path, O_RDWR | O_CREAT | O_APPEND, all), Writing::Direct);
     }
     posix::Fail(EINVAL, path);
 }
 
+std::unique_ptr<OpenFile> DiskFiles::OpenLike(const std::string& path, const std::string& model)
+{
+    return std::make_unique<DiskFile>(posix::CreateLike(path, model), Writing::Lasting);
+}
+
 void DiskFiles::CopyFile(const std::string& from, const std::string& to)
 {
-    // Scratch files are written once and needn't outlive a loss of power, so a copy of one to another may share its
-    // bytes.
-    const bool isScratch = posix::HasRandomName(from) && posix::HasRandomName(to);
-    if (!isScratch || !posix::LinkScratch(from, to)) {
-        posix::ReplaceFile(from, to);
-    }
+    posix::ReplaceFile(from, to);
+}
+
+void DiskFiles::CopyScratch(const std::string& from, const std::string& to)
+{
+    posix::CopyScratch(from, to);
 }
 
 void DiskFiles::MoveFile(const std::string& from, const std::string& to)
@@ -153,14 +169,19 @@ void DiskFiles::DeleteFile(const std::string& path)
     }
 }
 
+std::string DiskFiles::FollowLinks(const std::string& path)
+{
+    return posix::FollowLinks(path);
+}
+
 std::string DiskFiles::TempFolder()
 {
-    const char* named = std::getenv("TMPDIR");
-    std::string folder = named == nullptr ? "" : named;
-    while (folder.size() > 1 && folder.ends_with('/')) {
-        folder.pop_back();
-    }
-    return folder.empty() ? "/tmp" : folder;
+    return posix::TempFolder();
+}
+
+std::string DiskFiles::SpareFolder()
+{
+    return posix::SpareFolder();
 }
 
 std::string DiskFiles::TempName()

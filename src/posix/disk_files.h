@@ -11,10 +11,14 @@ class DiskFiles final : public Files {
 public:
     bool FileExists(const std::string& path) override; // true for all that is no folder
     std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
+    std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) override;
     void CopyFile(const std::string& from, const std::string& to) override;
+    void CopyScratch(const std::string& from, const std::string& to) override;
     void MoveFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
-    std::string TempFolder() override; // TMPDIR, or /tmp
+    std::string FollowLinks(const std::string& path) override;
+    std::string TempFolder() override;  // TMPDIR, or /tmp
+    std::string SpareFolder() override; // the user's folder for state
     std::string TempName() override;
 };
 

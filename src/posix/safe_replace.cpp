@@ -1,15 +1,16 @@
 #include "posix/safe_replace.h"
 
 #include "base/failure.h"
-#include "posix/descriptor.h"
+#include "posix/attributes.h"
+#include "posix/scratch.h"
 
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <fcntl.h>
+#include <memory>
 #include <string_view>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -18,31 +19,13 @@ namespace quor::posix {
 
 namespace {
 
-constexpr std::size_t randomBytes = 16;
-constexpr std::string_view namePrefix = "quor";
-constexpr std::string_view nameSuffix = ".tmp";
-constexpr std::string_view digits = "0123456789abcdef";
+constexpr int newFile = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW;
+constexpr unsigned ownerOnly = S_IRUSR | S_IWUSR;
 
 std::string FolderOf(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
     return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
-
-// The path that the last link of a chain of links names; it need not exist.
-std::string FollowLinks(std::string path)
-{
-    constexpr int mostLinks = 40;
-    for (int links = 0; links < mostLinks; ++links) {
-        std::array<char, PATH_MAX> buffer;
-        const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
-        if (length < 0) {
-            return path;
-        }
-        const std::string target(buffer.data(), static_cast<std::size_t>(length));
-        path = target.starts_with('/') ? target : FolderOf(path) + target;
-    }
-    Fail(ELOOP, path);
 }
 
 // The file that is to be replaced, if it is there.
@@ -70,58 +53,38 @@ struct Target {
     bool exists = false;
 };
 
-// A file beside another that goes again unless it takes the other's place.
-class Successor {
+// A new file that goes again unless it is kept.
+class NewFile {
 public:
-    Successor(const std::string& path, const Target& target)
-        : m_path(path), m_file(FolderOf(path) + "." + RandomName(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW,
-                               target.exists ? S_IRUSR | S_IWUSR : 0666)
+    explicit NewFile(const std::string& path, unsigned mode = ownerOnly) : m_file(path, newFile, mode) {}
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+    ~NewFile()
     {
-    }
-    Successor(const Successor&) = delete;
-    Successor& operator=(const Successor&) = delete;
-    ~Successor()
-    {
-        if (!m_isPlaced) {
-            unlink(m_file.Path().c_str());
+        if (!m_isKept) {
+            unlink(m_path.c_str());
         }
     }
 
-    const Descriptor& File() const noexcept { return m_file; }
-
-    void TakeOver(const struct stat& status)
-    {
-        if (fchown(m_file.Number(), status.st_uid, status.st_gid) != 0) {
-            // Only a privileged user gives a file away; the group may still be one's own.
-            static_cast<void>(fchown(m_file.Number(), static_cast<uid_t>(-1), status.st_gid) == 0);
-        }
-        m_file.Check(fchmod(m_file.Number(), status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
-    }
-
-    void TakePlace()
-    {
-        m_file.Check(fsync(m_file.Number()));
-        m_file.Close();
-        m_file.Check(rename(m_file.Path().c_str(), m_path.c_str()));
-        m_isPlaced = true;
-        FlushFolder();
-    }
+    Descriptor& File() noexcept { return m_file; }
+    const std::string& Path() const noexcept { return m_path; }
+    void Keep() noexcept { m_isKept = true; }
 
 private:
-    // Makes the change of name last. The new file stands already, so a file system that can't do it is no failure.
-    void FlushFolder() const
-    {
-        const int folder = open(FolderOf(m_path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (folder >= 0) {
-            fsync(folder);
-            close(folder);
-        }
-    }
-
-    std::string m_path;
     Descriptor m_file;
-    bool m_isPlaced = false;
+    std::string m_path = m_file.Path();
+    bool m_isKept = false;
 };
+
+// Makes a change of name last. The file stands already, so a file system that can't do it is no failure.
+void FlushFolderOf(const std::string& path)
+{
+    const int folder = open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder >= 0) {
+        fsync(folder);
+        close(folder);
+    }
+}
 
 void CopyBytes(const Descriptor& from, const Descriptor& to)
 {
@@ -134,34 +97,91 @@ void CopyBytes(const Descriptor& from, const Descriptor& to)
     }
 }
 
+void ReplaceByName(const Descriptor& source, const std::string& path, const Target& target)
+{
+    constexpr unsigned all = 0666;
+    NewFile successor(FolderOf(path) + "." + RandomName(), target.exists ? ownerOnly : all);
+    CopyBytes(source, successor.File());
+    if (target.exists) {
+        TakeOverAttributes(path, target.status, successor.File());
+    }
+    successor.File().Check(fsync(successor.File().Number()));
+    successor.File().Close();
+    successor.File().Check(rename(successor.Path().c_str(), path.c_str()));
+    successor.Keep();
+    FlushFolderOf(path);
+}
+
+// The bytes of the target, flushed to a file of their own in the folder.
+std::unique_ptr<NewFile> OldBytes(const Descriptor& target, const std::string& folder)
+{
+    constexpr std::size_t longestName = 200; // of the 255 that a name may have
+    const std::string& path = target.Path();
+    std::string random = RandomName();
+    random.resize(random.rfind('.'));
+    auto old = std::make_unique<NewFile>(folder + '/' + path.substr(path.rfind('/') + 1).substr(0, longestName) + '.' +
+                                         random + ".old");
+    CopyBytes(target, old->File());
+    FlushNew(old->File());
+    return old;
+}
+
+std::unique_ptr<NewFile> OldBytes(const Descriptor& target)
+{
+    try {
+        return OldBytes(target, TempFolder());
+    } catch (const Failure&) {
+        const std::string spare = SpareFolder();
+        if (spare.empty()) {
+            throw;
+        }
+        return OldBytes(target, spare);
+    }
+}
+
+void Overwrite(const Descriptor& target, const Descriptor& source)
+{
+    CopyBytes(source, target);
+    target.Check(ftruncate(target.Number(), source.Size()));
+    target.Check(fsync(target.Number()));
+}
+
+void WriteInPlace(const Descriptor& source, const std::string& path)
+{
+    const Descriptor target(path, O_RDWR);
+    const std::unique_ptr<NewFile> old = OldBytes(target);
+    try {
+        Overwrite(target, source);
+    } catch (const Failure& failure) {
+        try {
+            Overwrite(target, old->File());
+        } catch (const Failure&) {
+            old->Keep();
+            throw Failure(failure.Number(), failure.Description() + " The old file is kept as " + old->Path() + ".");
+        }
+        throw;
+    }
+}
+
 } // namespace
 
-std::string RandomName()
+std::string FollowLinks(std::string path)
 {
-    std::array<unsigned char, randomBytes> random;
-    if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size())) {
-        Fail(EIO, {});
+    constexpr int mostLinks = 40;
+    for (int links = 0; links < mostLinks; ++links) {
+        std::array<char, PATH_MAX> buffer;
+        const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
+        if (length < 0) {
+            if (errno == EINVAL || errno == ENOENT) { // no link, or nothing as yet
+                return path;
+            }
+            Fail(errno, path);
+        }
+        const std::string_view target(buffer.data(), static_cast<std::size_t>(length));
+        path = target.starts_with('/') ? std::string() : FolderOf(path);
+        path += target;
     }
-    std::string name(namePrefix);
-    for (const unsigned char byte : random) {
-        name += digits[byte >> 4U];
-        name += digits[byte & 15U];
-    }
-    return name.append(nameSuffix);
-}
-
-bool HasRandomName(const std::string& path)
-{
-    std::string_view name = path;
-    name.remove_prefix(path.rfind('/') + 1);
-    return name.size() == namePrefix.size() + 2 * randomBytes + nameSuffix.size() && name.starts_with(namePrefix) &&
-           name.ends_with(nameSuffix) &&
-           name.find_first_not_of(digits, namePrefix.size()) == name.size() - nameSuffix.size();
-}
-
-bool LinkScratch(const std::string& from, const std::string& to) noexcept
-{
-    return link(from.c_str(), to.c_str()) == 0;
+    Fail(ELOOP, path);
 }
 
 void ReplaceFile(const std::string& from, const std::string& to)
@@ -172,12 +192,46 @@ void ReplaceFile(const std::string& from, const std::string& to)
     }
     const std::string path = FollowLinks(to);
     const Target target(path);
-    Successor successor(path, target);
-    CopyBytes(source, successor.File());
-    if (target.exists) {
-        successor.TakeOver(target.status);
+    try {
+        ReplaceByName(source, path, target);
+    } catch (const Failure& failure) {
+        if (!target.exists || failure.Number() != failures::permissionDenied) {
+            throw;
+        }
+        WriteInPlace(source, path);
     }
-    successor.TakePlace();
+    SweepLeftOvers(FolderOf(path));
+    SweepLeftOvers(FolderOf(from));
+}
+
+void CopyScratch(const std::string& from, const std::string& to)
+{
+    if (link(from.c_str(), to.c_str()) == 0) {
+        return;
+    }
+    const Descriptor source(from, O_RDONLY);
+    NewFile copy(to);
+    CopyBytes(source, copy.File());
+    copy.File().Close();
+    copy.Keep();
+}
+
+Descriptor CreateLike(const std::string& path, const std::string& model)
+{
+    struct stat status {};
+    if (stat(model.c_str(), &status) != 0) {
+        Fail(errno, model);
+    }
+    NewFile file(path);
+    TakeOverAttributes(model, status, file.File());
+    file.Keep();
+    return std::move(file.File());
+}
+
+void FlushNew(const Descriptor& file)
+{
+    file.Check(fsync(file.Number()));
+    FlushFolderOf(file.Path());
 }
 
 } // namespace quor::posix

@@ -57,6 +57,27 @@ TEST_F(TheMainForm, EndsOnceWhenTheSessionEndsDuringItsQuestion)
     EXPECT_EQ(ends, 1);
 }
 
+TEST_F(TheMainForm, FindsAChangeAlsoWhereScratchFilesMakeTrouble)
+{
+    Insert<clsLEDRound>();
+    const std::int32_t checksum = main.GetCurrentChecksum();
+    const std::vector<std::string> before = files.Paths();
+    files.spareFolder = "spare";
+    for (const char* call : {"open", "write"}) { // the folder for temporary files is full
+        files.planned.Plan(call, 1, 75);
+        EXPECT_EQ(main.GetCurrentChecksum(), checksum) << call;
+        EXPECT_EQ(files.Paths(), before) << call;
+    }
+    for (const int nth : {1, 2}) { // what isn't needed any more can't be deleted
+        files.planned.Plan("delete", nth, 70);
+        if (nth == 1) {
+            reporter.Announce(Ref("clsCustView.SaveFile"));
+        }
+        EXPECT_EQ(main.GetCurrentChecksum(), checksum) << nth;
+    }
+    EXPECT_TRUE(reporter.reports.empty());
+}
+
 TEST_F(TheMainForm, SurvivesTheEndOfTheSessionInTheMiddleOfALoad)
 {
     Insert<clsLEDRound>();

@@ -1,4 +1,5 @@
 #include "base/failure.h"
+#include "platform/scratch_file.h"
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
 
@@ -14,6 +15,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
 
@@ -21,6 +23,8 @@ namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* accessList = "system.posix_acl_access";
 
 class OnDisk : public testing::Test {
 protected:
@@ -58,6 +62,20 @@ protected:
         } catch (const Failure& failure) {
             return failure.Number();
         }
+    }
+
+    // No file grows over a million bytes.
+    template <class Body> static std::int32_t FailureWithSmallFiles(Body&& body)
+    {
+        rlimit before{};
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{1'000'000, before.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const std::int32_t failure = FailureOf(body);
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+        std::signal(SIGXFSZ, handler);
+        return failure;
     }
 
     static mode_t ModeOf(const std::string& path)
@@ -179,6 +197,94 @@ TEST_F(OnDisk, ACopyKeepsPermissionsOwnerAndLinksOfItsTarget)
     EXPECT_EQ(EntryCount(), 6U);
 }
 
+std::string Attribute(const std::string& path, const char* name)
+{
+    char value[100];
+    const ssize_t size = getxattr(path.c_str(), name, value, sizeof value);
+    return {value, static_cast<std::size_t>(std::max<ssize_t>(size, 0))};
+}
+
+// The owner and user 1234 read and write, the group and others nothing; as the system keeps it, little-endian.
+std::string AccessList()
+{
+    const std::string none(4, '\377'); // the number where an entry needs none
+    std::string list("\2\0\0\0", 4);
+    list += std::string("\1\0\6\0", 4) + none;
+    list += std::string("\2\0\6\0\322\4\0\0", 8);
+    list += std::string("\4\0\0\0", 4) + none;
+    list += std::string("\20\0\6\0", 4) + none;
+    return list + std::string("\40\0\0\0", 4) + none;
+}
+
+TEST_F(OnDisk, AFileAfterAnOldOneKeepsAccessListAndUserAttributes)
+{
+    const std::string list = AccessList();
+    const std::string target = Put("target", "old");
+    const bool hasLists = setxattr(target.c_str(), accessList, list.data(), list.size(), 0) == 0;
+    const bool hasAttributes = setxattr(target.c_str(), "user.note", "mine", 4, 0) == 0;
+    const mode_t mode = ModeOf(target);
+    files.CopyFile(Put("source", "new"), target);
+    const auto converted = files.OpenLike(Path("converted"), target);
+    for (const std::string& path : {target, Path("converted")}) {
+        EXPECT_EQ(ModeOf(path), mode);
+        EXPECT_EQ(Attribute(path, accessList), hasLists ? list : "");
+        EXPECT_EQ(Attribute(path, "user.note"), hasAttributes ? "mine" : "");
+    }
+    EXPECT_EQ(FailureOf([&] { files.OpenLike(Path("source"), target); }), failures::pathFileAccess);
+}
+
+TEST_F(OnDisk, AListThatAFolderGivesNewFilesIsNoneOfAnOldFile)
+{
+    const std::string target = Put("target", "old");
+    const std::string list = AccessList();
+    setxattr(m_folder.c_str(), "system.posix_acl_default", list.data(), list.size(), 0);
+    files.CopyFile(Put("source", "new"), target);
+    EXPECT_EQ(Attribute(target, accessList), "");
+}
+
+// A target of an ordinary user, in a folder in which that user makes no files.
+class InAClosedFolder : public OnDisk {
+protected:
+    InAClosedFolder()
+    {
+        constexpr uid_t nobody = 65'534;
+        fs::create_directory(Path("temp"));
+        setenv("TMPDIR", Path("temp").c_str(), 1);
+        chmod(m_folder.c_str(), 0555);
+        if (geteuid() == 0) {
+            EXPECT_EQ(chown(Path("temp").c_str(), nobody, 0) + chown(target.c_str(), nobody, 0), 0);
+            EXPECT_EQ(seteuid(nobody), 0);
+        }
+    }
+    ~InAClosedFolder() override
+    {
+        static_cast<void>(seteuid(getuid()));
+        chmod(m_folder.c_str(), 0755);
+        unsetenv("TMPDIR");
+    }
+
+    const std::string target = Put("target", "a longer old text");
+    const std::string source = Put("source", "new");
+};
+
+TEST_F(InAClosedFolder, AFileIsWrittenInPlace)
+{
+    EXPECT_EQ(FailureOf([&] { files.CopyFile(source, Path("fresh")); }), failures::permissionDenied);
+    files.CopyFile(source, target);
+    EXPECT_EQ(Text(target), "new");
+    EXPECT_TRUE(fs::is_empty(Path("temp")));
+}
+
+TEST_F(InAClosedFolder, AFileThatCannotBeWrittenWholeGetsItsOldBytesBack)
+{
+    const std::string large = Put("temp/large", std::string(3'000'000, 'n'));
+    const std::int32_t copy = FailureWithSmallFiles([&] { files.CopyFile(large, target); });
+    EXPECT_EQ(copy, failures::pathFileAccess);
+    EXPECT_EQ(Text(target), "a longer old text");
+    files.DeleteFile(large);
+    EXPECT_TRUE(fs::is_empty(Path("temp")));
+}
+
 TEST_F(OnDisk, AReadOnlyTargetStays)
 {
     const std::string source = Put("source", "new");
@@ -195,15 +301,8 @@ TEST_F(OnDisk, ACopyThatFailsHalfWayLeavesTheTargetAndNothingElse)
 {
     const std::string source = Put("source", std::string(3'000'000, 'n'));
     const std::string target = Put("target", "old");
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1'000'000, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const std::int32_t copy = FailureOf([&] { files.CopyFile(source, target); });
-    const std::int32_t fresh = FailureOf([&] { files.CopyFile(source, Path("fresh")); });
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
+    const std::int32_t copy = FailureWithSmallFiles([&] { files.CopyFile(source, target); });
+    const std::int32_t fresh = FailureWithSmallFiles([&] { files.CopyFile(source, Path("fresh")); });
     EXPECT_EQ(copy, failures::pathFileAccess);
     EXPECT_EQ(fresh, failures::pathFileAccess);
     EXPECT_EQ(Text(target), "old");
@@ -230,15 +329,50 @@ TEST_F(OnDisk, TemporaryNamesDiffer)
 
 TEST_F(OnDisk, ACopyOfAScratchFileOutlivesIt)
 {
-    const std::string scratch = Put(files.TempName(), "new");
-    const std::string fresh = Path(files.TempName());
-    const std::string old = Put(files.TempName(), "old");
-    files.CopyFile(scratch, fresh);
-    files.CopyFile(scratch, old);
+    const std::string scratch = Put("scratch", "new");
+    files.CopyScratch(scratch, Path("copy"));
     files.DeleteFile(scratch);
-    EXPECT_EQ(Text(fresh) + Text(old), "newnew");
-    EXPECT_EQ(FailureOf([&] { files.CopyFile(scratch, fresh); }), failures::fileNotFound);
-    EXPECT_EQ(EntryCount(), 2U);
+    EXPECT_EQ(Text(Path("copy")), "new");
+    EXPECT_EQ(FailureOf([&] { files.CopyScratch(scratch, Path("fresh")); }), failures::fileNotFound);
+    EXPECT_EQ(EntryCount(), 1U);
+}
+
+TEST_F(OnDisk, AScratchFileGoesWhereThereIsRoom)
+{
+    setenv("TMPDIR", Path("missing").c_str(), 1);
+    setenv("XDG_STATE_HOME", Path("state").c_str(), 1);
+    {
+        ScratchFile scratch(files);
+        scratch.Fill([](OpenFile& file) { file.Write(0, BytesOf("new")); });
+        EXPECT_TRUE(scratch.Path().starts_with(Path("state/quor/"))) << scratch.Path();
+        EXPECT_EQ(Text(scratch.Path()), "new");
+    }
+    EXPECT_TRUE(fs::is_empty(Path("state/quor")));
+    unsetenv("TMPDIR");
+    unsetenv("XDG_STATE_HOME");
+}
+
+TEST_F(OnDisk, ASaveSweepsWhatKilledOnesHaveLeftLongAgo)
+{
+    const std::string digits = "0123456789abcdef0123456789abcdef";
+    const struct {
+        std::string name;
+        bool isOld, stays;
+    } cases[] = {
+        {".quor" + digits + ".tmp", true, false}, {"quor" + digits + ".tmp", true, false},
+        {".quor" + digits + ".old", true, true},  {".quor" + digits + "0.tmp", true, true},
+        {"quor" + digits + "tmp", true, true},    {".quor" + std::string(32, 'a') + ".tmp", false, true},
+    };
+    for (const auto& [name, isOld, stays] : cases) {
+        Put(name, name);
+        if (isOld) {
+            fs::last_write_time(Path(name), fs::file_time_type::clock::now() - std::chrono::hours(25));
+        }
+    }
+    files.CopyFile(Put("source", "new"), Path("target"));
+    for (const auto& [name, isOld, stays] : cases) {
+        EXPECT_EQ(files.FileExists(Path(name)), stays) << name;
+    }
 }
 
 // Goes the way of a save: a scratch file, a copy over the target, and the scratch file is deleted.

@@ -135,6 +135,11 @@ std::unique_ptr<OpenFile> FakeFiles::Open(const std::string& path, OpenMode mode
     return std::make_unique<FakeOpenFile>(*this, path, Find(path), mode);
 }
 
+std::unique_ptr<OpenFile> FakeFiles::OpenLike(const std::string& path, const std::string& /*model*/)
+{
+    return Open(path, OpenMode::Create);
+}
+
 void FakeFiles::CopyFile(const std::string& from, const std::string& to)
 {
     Call("copy", Quoted(from) + ' ' + Quoted(to));

@@ -18,6 +18,7 @@ public:
 
     PlannedFailures planned;          // exists, open, read, write, copy, move, delete
     Event<const std::string&> Called; // each operation, as `files.copy "a" "b"`
+    std::string spareFolder;          // none
 
     // For tests, uncounted and unhindered.
     void Put(const std::string& path, Bytes bytes);
@@ -31,10 +32,14 @@ public:
 
     bool FileExists(const std::string& path) override;
     std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
+    std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) override;
     void CopyFile(const std::string& from, const std::string& to) override;
+    void CopyScratch(const std::string& from, const std::string& to) override { CopyFile(from, to); }
     void MoveFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
+    std::string FollowLinks(const std::string& path) override { return path; }
     std::string TempFolder() override;
+    std::string SpareFolder() override { return spareFolder; }
     std::string TempName() override; // temp1.tmp and so on
 
 private:

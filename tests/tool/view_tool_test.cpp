@@ -147,6 +147,28 @@ TEST_F(Tool, UpgradesOldFilesAlone)
     }
 }
 
+TEST_F(Tool, SaysWhereWhatItWroteDoesNotLoad)
+{
+    Bytes longer = Sample("old/v2_mixed.qvw");
+    longer.insert(longer.end(), 5, 7); // behind the checksum, where the new one goes
+    files.Put("old.qvw", longer);
+    EXPECT_EQ(Run({"upgrade", "old.qvw", "out.qvw"}), 1);
+    EXPECT_TRUE(errors.str().starts_with("out.qvw: written, but it does not load: corrupt")) << errors.str();
+    EXPECT_TRUE(files.Has("out.qvw"));
+}
+
+TEST_F(Tool, HasWrittenAlsoWhereAScratchFileStays)
+{
+    for (const auto& [command, source] : {std::pair{"upgrade", "old/v1_mixed.qvw"}, {"resave", "round_led.qvw"}}) {
+        PutSample(source);
+        files.planned.Plan("delete", 1, failures::permissionDenied);
+        EXPECT_EQ(Run({command, source, "out.qvw"}), 0);
+        EXPECT_TRUE(errors.str().starts_with("The scratch file temp/temp")) << errors.str();
+        EXPECT_TRUE(files.Has("out.qvw"));
+        files.Erase("out.qvw");
+    }
+}
+
 TEST_F(Tool, LeavesNothingBehindWhereWritingFails)
 {
     for (const char* name : {"old/v1_mixed.qvw", "round_led.qvw", "round_led.json"}) {

@@ -27,12 +27,16 @@ public:
 class KeptReports final : public Reporter {
 public:
     std::vector<ErrorReport> reports;
+    std::vector<ErrorReport> logged;
 
     void ShowError(const ErrorReport& report) noexcept override
     {
         IgnoreFailure([&] { reports.push_back(report); });
     }
-    void LogError(const ErrorReport& /*report*/) noexcept override {}
+    void LogError(const ErrorReport& report) noexcept override
+    {
+        IgnoreFailure([&] { logged.push_back(report); });
+    }
 };
 
 class NoForms final : public Forms {

@@ -34,6 +34,9 @@ public:
     void Load(const std::string& path);
     void Save(const std::string& path);
 
+    // What a log would have got.
+    const std::vector<ErrorReport>& Logged() const noexcept { return m_reports.logged; }
+
     // How the last load ended, with the reason if there is one.
     std::string Verdict() const;
 

@@ -6,6 +6,7 @@
 #include "apps/tool/view_renderer.h"
 #include "apps/tool/view_tool.h"
 #include "posix/disk_files.h"
+#include "posix/user_folders.h"
 
 #include <iostream>
 #include <vector>
@@ -20,7 +21,7 @@ int Run(quor::DiskFiles& files, std::span<const std::string> words)
     }
     quor::SodiumHasher hasher;
     const quor::UserTool::Ports ports{files, hasher, quor::AskNewPassword, std::cout, std::cerr};
-    return quor::UserTool(ports, quor::ConfigFolder() + "/quor/users").Run(words.subspan(1));
+    return quor::UserTool(ports, quor::ConfigFolder() + "/users").Run(words.subspan(1));
 }
 
 } // namespace

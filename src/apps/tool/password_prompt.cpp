@@ -3,7 +3,6 @@
 #include "base/failure.h"
 
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <termios.h>
 #include <unistd.h>
@@ -76,16 +75,6 @@ std::string AskNewPassword()
         throw Failure(failures::invalidCall, "The two passwords differ.");
     }
     return password;
-}
-
-std::string ConfigFolder()
-{
-    const char* named = std::getenv("XDG_CONFIG_HOME");
-    if (named != nullptr && named[0] == '/') {
-        return named;
-    }
-    const char* home = std::getenv("HOME");
-    return (home == nullptr ? std::string() : home) + "/.config";
 }
 
 } // namespace quor

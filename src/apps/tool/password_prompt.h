@@ -8,7 +8,4 @@ namespace quor {
 // Fails with 5 where there is none, or the two differ.
 std::string AskNewPassword();
 
-// The user's folder for configuration, without a separator at its end.
-std::string ConfigFolder();
-
 } // namespace quor

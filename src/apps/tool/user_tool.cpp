@@ -1,5 +1,6 @@
 #include "apps/tool/user_tool.h"
 
+#include "apps/tool/signal_hold.h"
 #include "base/guard.h"
 #include "platform/files.h"
 #include "platform/password_hash.h"
@@ -94,6 +95,7 @@ void UserTool::Save(const UserList& users)
 {
     namespace fs = std::filesystem;
     const std::string text = WriteUsers(users);
+    const SignalHold hold;
     const OwnerOnly ownerOnly;
     const fs::path folder = fs::path(m_path).parent_path();
     fs::create_directories(folder);
@@ -110,7 +112,9 @@ void UserTool::Save(const UserList& users)
         IgnoreFailure([&] { m_ports.files.DeleteFile(scratch); });
         throw;
     }
-    m_ports.files.DeleteFile(scratch);
+    if (!IgnoreFailure([&] { m_ports.files.DeleteFile(scratch); })) {
+        m_ports.errors << "the scratch file " << scratch << " stays behind\n";
+    }
 }
 
 User& UserTool::Find(UserList& users, const std::string& name)

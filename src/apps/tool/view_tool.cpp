@@ -2,12 +2,13 @@
 
 #include "apps/tool/desk.h"
 #include "apps/tool/render_job.h"
+#include "apps/tool/signal_hold.h"
 #include "apps/tool/view_renderer.h"
 #include "apps/view_json/view_json.h"
 #include "base/guard.h"
 #include "document/format/container.h"
 #include "document/format/upgrade.h"
-#include "platform/files.h"
+#include "platform/scratch_file.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -20,22 +21,6 @@ constexpr std::string_view usage = "usage: quor-view-tool check FILE... | dump F
                                    "upgrade FILE OUT.qvw | resave FILE OUT.qvw";
 constexpr std::string_view renderUsage = " | render FILE OUT.png [--scale N] [--state on|off] [--size WIDTHxHEIGHT]";
 constexpr std::string_view noRender = " (this build can't render: it is one without Qt)";
-
-// The whole file by way of a scratch file, so that the target is replaced in one step.
-void WriteWhole(Files& files, const std::string& path, std::span<const std::uint8_t> bytes)
-{
-    const std::string scratch = files.TempFolder() + '/' + files.TempName();
-    const std::unique_ptr<OpenFile> file = files.Open(scratch, OpenMode::Scratch);
-    try {
-        file->Write(0, bytes);
-        file->Close();
-        files.CopyFile(scratch, path);
-    } catch (...) {
-        IgnoreFailure([&] { files.DeleteFile(scratch); });
-        throw;
-    }
-    files.DeleteFile(scratch);
-}
 
 } // namespace
 
@@ -58,7 +43,7 @@ int ViewTool::RunCommand(std::span<const std::string> arguments)
     if (command == "check" && arguments.size() > 1) {
         return Check(arguments.subspan(1));
     }
-    const std::pair<std::string_view, void (ViewTool::*)(const std::string&, const std::string&)> rewriting[] = {
+    const std::pair<std::string_view, int (ViewTool::*)(const std::string&, const std::string&)> rewriting[] = {
         {"build", &ViewTool::Build}, {"upgrade", &ViewTool::Upgrade}, {"resave", &ViewTool::Resave}};
     if (command == "dump" && arguments.size() == 2) {
         Dump(arguments[1]);
@@ -66,8 +51,7 @@ int ViewTool::RunCommand(std::span<const std::string> arguments)
     }
     for (const auto& [name, run] : rewriting) {
         if (command == name && arguments.size() == 3) {
-            (this->*run)(arguments[1], arguments[2]);
-            return 0;
+            return (this->*run)(arguments[1], arguments[2]);
         }
     }
     if (command == "render" && m_renderer != nullptr && arguments.size() >= 3) {
@@ -96,15 +80,15 @@ void ViewTool::Dump(const std::string& path)
     m_out << JsonText(ViewToJson(desk.View()));
 }
 
-void ViewTool::Build(const std::string& from, const std::string& to)
+int ViewTool::Build(const std::string& from, const std::string& to)
 {
     const std::vector<std::uint8_t> text = ReadWhole(*m_files.Open(from, OpenMode::Read));
     Desk desk(m_files);
     ViewFromJson(ParseJson({reinterpret_cast<const char*>(text.data()), text.size()}), desk.View());
-    desk.Save(to);
+    return Save(desk, to);
 }
 
-void ViewTool::Upgrade(const std::string& from, const std::string& to)
+int ViewTool::Upgrade(const std::string& from, const std::string& to)
 {
     const std::unique_ptr<OpenFile> file = m_files.Open(from, OpenMode::Read);
     const ViewHeader header = ContainerReader(*file).Header();
@@ -118,14 +102,44 @@ void ViewTool::Upgrade(const std::string& from, const std::string& to)
     if (header.version == 1) {
         bytes = UpgradeToVersion2(bytes);
     }
-    WriteWhole(m_files, to, UpgradeToVersion3(bytes));
+    WriteWhole(to, UpgradeToVersion3(bytes));
+    Desk desk(m_files);
+    if (desk.View().LoadFile(to)) {
+        return 0;
+    }
+    m_errors << OneLine(to + ": written, but it does not load: " + desk.Verdict()) << '\n';
+    return 1;
 }
 
-void ViewTool::Resave(const std::string& from, const std::string& to)
+int ViewTool::Resave(const std::string& from, const std::string& to)
 {
     Desk desk(m_files);
     desk.Load(from);
-    desk.Save(to);
+    return Save(desk, to);
+}
+
+int ViewTool::Save(Desk& desk, const std::string& path)
+{
+    const SignalHold hold;
+    desk.Save(path);
+    for (const ErrorReport& report : desk.Logged()) {
+        m_errors << OneLine(report.description) << '\n';
+    }
+    return 0;
+}
+
+// By way of a scratch file, so that the target is replaced in one step.
+void ViewTool::WriteWhole(const std::string& path, std::span<const std::uint8_t> bytes)
+{
+    const SignalHold hold;
+    ScratchFile scratch(m_files);
+    scratch.Fill([&](OpenFile& file) { file.Write(0, bytes); });
+    m_files.CopyFile(scratch.Path(), path);
+    try {
+        scratch.Delete();
+    } catch (const Failure& failure) { // which is no failure of the command
+        m_errors << OneLine(failure.Description()) << '\n';
+    }
 }
 
 void ViewTool::Render(std::span<const std::string> arguments)
@@ -133,7 +147,7 @@ void ViewTool::Render(std::span<const std::string> arguments)
     const RenderJob job = ParseRenderJob(arguments);
     Desk desk(m_files, &m_renderer->PictureFiles());
     desk.Load(job.from);
-    WriteWhole(m_files, job.to, RenderedPng(desk, job, *m_renderer));
+    WriteWhole(job.to, RenderedPng(desk, job, *m_renderer));
 }
 
 } // namespace quor

@@ -1,12 +1,14 @@
 #pragma once
 // The commands of quor-view-tool: check, dump, build, upgrade, resave and render.
 
+#include <cstdint>
 #include <iosfwd>
 #include <span>
 #include <string>
 
 namespace quor {
 
+class Desk;
 class Files;
 class ViewRenderer;
 
@@ -18,17 +20,19 @@ public:
     {
     }
 
-    // The exit code: 0 if all went well, 1 if a checked file isn't sound, 2 (with one line on `errors`) if the command
-    // could not run. What has failed has written no file.
+    // The exit code: 0 if all went well, 1 if a checked or upgraded file isn't sound, 2 (with one line on `errors`) if
+    // the command could not run. What has failed has written no file.
     int Run(std::span<const std::string> arguments);
 
 private:
     int Check(std::span<const std::string> paths);
     void Dump(const std::string& path);
-    void Build(const std::string& from, const std::string& to);
-    void Upgrade(const std::string& from, const std::string& to);
-    void Resave(const std::string& from, const std::string& to);
+    int Build(const std::string& from, const std::string& to);
+    int Upgrade(const std::string& from, const std::string& to);
+    int Resave(const std::string& from, const std::string& to);
     void Render(std::span<const std::string> arguments);
+    int Save(Desk& desk, const std::string& path);
+    void WriteWhole(const std::string& path, std::span<const std::uint8_t> bytes);
     int RunCommand(std::span<const std::string> arguments);
 
     Files& m_files;
