@@ -96,14 +96,11 @@ void Register(Results&)
 void AddRows(const Results& results, std::vector<Row>& rows)
 {
     const double mostTimes = 3;
-    const double mostSeconds = 0.3e-6;
+    const double mostSeconds = 0.1e-6;
     for (const std::int64_t size : fileSizes) {
         rows.push_back(NotOver(results, "save", size, "write, flush, rename", mostTimes));
     }
     rows.push_back(Exponent(results, "save", fileSizes));
-    for (const std::int64_t size : fileSizes) {
-        rows.push_back(NotOver(results, "change detection", size, "write, read, delete", mostTimes));
-    }
     // Among few elements the price of a second file shows.
     for (const std::int64_t size : {std::int64_t{1'000}, largestFile}) {
         const double above =
