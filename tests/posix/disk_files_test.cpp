@@ -1,20 +1,14 @@
 #include "base/failure.h"
-#include "platform/scratch_file.h"
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <set>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
@@ -62,20 +56,6 @@ protected:
         } catch (const Failure& failure) {
             return failure.Number();
         }
-    }
-
-    // No file grows over a million bytes.
-    template <class Body> static std::int32_t FailureWithSmallFiles(Body&& body)
-    {
-        rlimit before{};
-        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{1'000'000, before.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-        const std::int32_t failure = FailureOf(body);
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-        std::signal(SIGXFSZ, handler);
-        return failure;
     }
 
     static mode_t ModeOf(const std::string& path)
@@ -275,16 +255,6 @@ TEST_F(InAClosedFolder, AFileIsWrittenInPlace)
     EXPECT_TRUE(fs::is_empty(Path("temp")));
 }
 
-TEST_F(InAClosedFolder, AFileThatCannotBeWrittenWholeGetsItsOldBytesBack)
-{
-    const std::string large = Put("temp/large", std::string(3'000'000, 'n'));
-    const std::int32_t copy = FailureWithSmallFiles([&] { files.CopyFile(large, target); });
-    EXPECT_EQ(copy, failures::pathFileAccess);
-    EXPECT_EQ(Text(target), "a longer old text");
-    files.DeleteFile(large);
-    EXPECT_TRUE(fs::is_empty(Path("temp")));
-}
-
 TEST_F(OnDisk, AReadOnlyTargetStays)
 {
     const std::string source = Put("source", "new");
@@ -295,18 +265,6 @@ TEST_F(OnDisk, AReadOnlyTargetStays)
     EXPECT_EQ(EntryCount(), 2U);
     files.DeleteFile(target);
     EXPECT_FALSE(files.FileExists(target));
-}
-
-TEST_F(OnDisk, ACopyThatFailsHalfWayLeavesTheTargetAndNothingElse)
-{
-    const std::string source = Put("source", std::string(3'000'000, 'n'));
-    const std::string target = Put("target", "old");
-    const std::int32_t copy = FailureWithSmallFiles([&] { files.CopyFile(source, target); });
-    const std::int32_t fresh = FailureWithSmallFiles([&] { files.CopyFile(source, Path("fresh")); });
-    EXPECT_EQ(copy, failures::pathFileAccess);
-    EXPECT_EQ(fresh, failures::pathFileAccess);
-    EXPECT_EQ(Text(target), "old");
-    EXPECT_EQ(EntryCount(), 2U);
 }
 
 TEST_F(OnDisk, AMoveNeverReplaces)
@@ -325,31 +283,6 @@ TEST_F(OnDisk, TemporaryNamesDiffer)
 {
     EXPECT_NE(files.TempName(), files.TempName());
     EXPECT_GE(files.TempName().size(), 32U);
-}
-
-TEST_F(OnDisk, ACopyOfAScratchFileOutlivesIt)
-{
-    const std::string scratch = Put("scratch", "new");
-    files.CopyScratch(scratch, Path("copy"));
-    files.DeleteFile(scratch);
-    EXPECT_EQ(Text(Path("copy")), "new");
-    EXPECT_EQ(FailureOf([&] { files.CopyScratch(scratch, Path("fresh")); }), failures::fileNotFound);
-    EXPECT_EQ(EntryCount(), 1U);
-}
-
-TEST_F(OnDisk, AScratchFileGoesWhereThereIsRoom)
-{
-    setenv("TMPDIR", Path("missing").c_str(), 1);
-    setenv("XDG_STATE_HOME", Path("state").c_str(), 1);
-    {
-        ScratchFile scratch(files);
-        scratch.Fill([](OpenFile& file) { file.Write(0, BytesOf("new")); });
-        EXPECT_TRUE(scratch.Path().starts_with(Path("state/quor/"))) << scratch.Path();
-        EXPECT_EQ(Text(scratch.Path()), "new");
-    }
-    EXPECT_TRUE(fs::is_empty(Path("state/quor")));
-    unsetenv("TMPDIR");
-    unsetenv("XDG_STATE_HOME");
 }
 
 TEST_F(OnDisk, ASaveSweepsWhatKilledOnesHaveLeftLongAgo)
@@ -373,62 +306,6 @@ TEST_F(OnDisk, ASaveSweepsWhatKilledOnesHaveLeftLongAgo)
     for (const auto& [name, isOld, stays] : cases) {
         EXPECT_EQ(files.FileExists(Path(name)), stays) << name;
     }
-}
-
-// Goes the way of a save: a scratch file, a copy over the target, and the scratch file is deleted.
-void SaveOnce(DiskFiles& files, const std::string& folder, const std::string& target, const std::string& text)
-{
-    const std::string scratch = folder + '/' + files.TempName();
-    const auto file = files.Open(scratch, OpenMode::Scratch);
-    file->Write(0, BytesOf(text));
-    file->Close();
-    files.CopyFile(scratch, target);
-    files.DeleteFile(scratch);
-}
-
-// A process that does the body over and over until it is killed; it has begun when this returns.
-template <class Body> pid_t StartLoop(Body&& body)
-{
-    int ends[2];
-    EXPECT_EQ(pipe(ends), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        static_cast<void>(write(ends[1], "x", 1) == 1);
-        for (unsigned round = 0;; ++round) {
-            body(round);
-        }
-    }
-    char begun = 0;
-    EXPECT_EQ(read(ends[0], &begun, 1), 1);
-    close(ends[0]);
-    close(ends[1]);
-    return child;
-}
-
-TEST_F(OnDisk, ASaveKilledAtAnyMomentLeavesOneOfTheTwoWhole)
-{
-    using std::chrono::microseconds;
-    const std::vector<std::string> texts{std::string(150'000, 'a'), std::string(70'000, 'b')};
-    const std::string target = Path("target");
-    const auto start = std::chrono::steady_clock::now();
-    SaveOnce(files, m_folder.string(), target, texts[0]);
-    const auto oneSave = std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
-    const auto longest =
-        static_cast<unsigned>(std::clamp(2 * oneSave, microseconds(2'000), microseconds(30'000)).count());
-    std::mt19937 random(7);
-    std::set<std::string> seen;
-    for (unsigned kill = 0; kill < 300; ++kill) {
-        const pid_t child = StartLoop(
-            [&](unsigned round) { SaveOnce(files, m_folder.string(), target, texts[(kill + round) % texts.size()]); });
-        ASSERT_GT(child, 0);
-        usleep(static_cast<useconds_t>(random() % longest));
-        ASSERT_EQ(::kill(child, SIGKILL), 0);
-        ASSERT_EQ(waitpid(child, nullptr, 0), child);
-        const std::string found = Text(target);
-        ASSERT_TRUE(found == texts[0] || found == texts[1]) << found.size() << " bytes after kill " << kill;
-        seen.insert(found);
-    }
-    EXPECT_EQ(seen.size(), 2U);
 }
 
 TEST(TheClock, TellsDateAndTimeInAtMost22Characters)

@@ -63,7 +63,8 @@ class Case:
 
     def run(self, *options):
         words = [*options, str(self.tool), self.command, "work/in.qvw", "work/out.qvw"]
-        places = {"TMPDIR": str(self.root / "temp"), "XDG_STATE_HOME": str(self.root / "state"), "PATH": os.environ["PATH"]}
+        temp = self.root / ("missing" if self.place == "there, without a folder for scratch files" else "temp")
+        places = {"TMPDIR": str(temp), "XDG_STATE_HOME": str(self.root / "state"), "PATH": os.environ["PATH"]}
         return subprocess.run(words, cwd=self.root, env=places, user=self.user, capture_output=True, text=True, check=False)
 
     def calls(self):
@@ -138,7 +139,7 @@ def main():
         return 77
     cases = [Case(tool, command, sample, place)
              for command, sample in (("resave", "round_led.qvw"), ("upgrade", "old/v1_mixed.qvw"))
-             for place in ("there", "missing", "with a list", "in a closed folder")]
+             for place in ("there", "there, without a folder for scratch files", "missing", "with a list", "in a closed folder")]
     with ThreadPoolExecutor() as pool:
         results = list(pool.map(try_case, cases))
     faults = [fault for _, found in results for fault in found]

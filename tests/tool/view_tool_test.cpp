@@ -181,7 +181,7 @@ TEST_F(Tool, LeavesNothingBehindWhereWritingFails)
              {std::pair{"upgrade", "old/v1_mixed.qvw"}, {"resave", "round_led.qvw"}, {"build", "round_led.json"}}) {
             files.planned.Plan(operation, 1, failures::permissionDenied);
             EXPECT_EQ(Run({command, source, "out.qvw"}), 2) << command << operation;
-            EXPECT_NE(errors.str().find("Permission denied"), std::string::npos) << errors.str();
+            EXPECT_NE(errors.str().find("cannot save out.qvw: Permission denied"), std::string::npos) << errors.str();
             EXPECT_EQ(files.Text("out.qvw"), "old");
             EXPECT_EQ(files.Paths(), before);
         }

@@ -133,8 +133,12 @@ void ViewTool::WriteWhole(const std::string& path, std::span<const std::uint8_t>
 {
     const SignalHold hold;
     ScratchFile scratch(m_files);
-    scratch.Fill([&](OpenFile& file) { file.Write(0, bytes); });
-    m_files.CopyFile(scratch.Path(), path);
+    try {
+        scratch.Fill([&](OpenFile& file) { file.Write(0, bytes); });
+        m_files.CopyFile(scratch.Path(), path);
+    } catch (const Failure& failure) {
+        throw Refusal{"cannot save " + path + ": " + failure.Description()};
+    }
     try {
         scratch.Delete();
     } catch (const Failure& failure) { // which is no failure of the command
