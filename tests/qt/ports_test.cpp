@@ -129,7 +129,7 @@ TEST(QtCommonDialog, WritesFiltersAsTheToolkitDoes)
 {
     EXPECT_EQ(NameFilters("Quor Custom Views (*.qvw)|*.qvw"), QStringList{"Quor Custom Views (*.qvw)"});
     EXPECT_EQ(NameFilters("Pictures|*.bmp;*.jpg|All files (all)|*.*"),
-              (QStringList{"Pictures (*.bmp *.jpg)", "All files (*.*)"}));
+              (QStringList{"Pictures (*.bmp *.jpg)", "All files (*)"}));
     EXPECT_EQ(NameFilters(""), QStringList());
     EXPECT_EQ(FirstSuffix("Quor Custom Views (*.qvw)|*.qvw"), "qvw");
     EXPECT_EQ(FirstSuffix("Pictures|*.bmp;*.jpg"), "bmp");

@@ -1,8 +1,8 @@
 #include "qt/painters/text_block.h"
 
 #include "base/values.h"
-#include "qt/painters/view_font.h"
 #include "qt/ports/qt_text.h"
+#include "qt/ports/view_font.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -1,32 +1,16 @@
 #include "qt/ports/qt_common_dialog.h"
 
+#include "qt/ports/font_picker.h"
 #include "qt/ports/qt_text.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 namespace quor {
-
-namespace {
-
-QFont FontOf(const CommonDialog& dialog)
-{
-    QFont font(ToQt(dialog.FontName));
-    if (dialog.FontSize > 0) {
-        font.setPointSizeF(dialog.FontSize);
-    }
-    font.setBold(dialog.FontBold);
-    font.setItalic(dialog.FontItalic);
-    font.setStrikeOut(dialog.FontStrikethru);
-    font.setUnderline(dialog.FontUnderline);
-    return font;
-}
-
-} // namespace
 
 void QtCommonDialog::ShowOpen()
 {
@@ -89,17 +73,10 @@ void QtCommonDialog::ShowColor()
 
 void QtCommonDialog::ShowFont()
 {
-    bool isAccepted = false;
-    const QFont picked = QFontDialog::getFont(&isAccepted, FontOf(*this), QApplication::activeWindow());
-    if (!isAccepted) {
-        return;
+    FontPicker picker(*this, QApplication::activeWindow());
+    if (picker.exec() == QDialog::Accepted) {
+        picker.TakeOver(*this);
     }
-    FontName = FromQt(picked.family());
-    FontSize = picked.pointSizeF();
-    FontBold = picked.bold();
-    FontItalic = picked.italic();
-    FontStrikethru = picked.strikeOut();
-    FontUnderline = picked.underline();
 }
 
 QStringList NameFilters(const std::string& filter)
@@ -112,8 +89,9 @@ QStringList NameFilters(const std::string& filter)
         if (bracket >= 0 && label.endsWith(QLatin1Char(')'))) {
             label.truncate(bracket);
         }
-        const QString patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts).join(QLatin1Char(' '));
-        filters.append(QStringLiteral("%1 (%2)").arg(label, patterns));
+        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+        patterns.replaceInStrings(QRegularExpression(QStringLiteral("^\\*\\.\\*$")), QStringLiteral("*"));
+        filters.append(QStringLiteral("%1 (%2)").arg(label, patterns.join(QLatin1Char(' '))));
     }
     return filters;
 }

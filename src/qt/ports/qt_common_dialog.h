@@ -21,7 +21,7 @@ private:
     bool IsRefused(const QString& path) const;
 };
 
-// "Text (*.a)|*.a;*.b" as the toolkit writes it: "Text (*.a *.b)".
+// "Text (*.a)|*.a;*.b" as the toolkit writes it: "Text (*.a *.b)". "*.*" means all files, those without a dot too.
 QStringList NameFilters(const std::string& filter);
 
 // The suffix of the filter's first pattern, without its dot; empty if it has none.

@@ -1,8 +1,9 @@
-#include "qt/painters/view_font.h"
+#include "qt/ports/view_font.h"
 
 #include "base/values.h"
 #include "qt/ports/qt_text.h"
 
+#include <QFontDatabase>
 #include <QPaintDevice>
 #include <QStringList>
 
@@ -70,6 +71,19 @@ qreal PixelSizeOf(const Font& font)
     constexpr qreal least = 1;
     constexpr qreal most = 1'000;
     return std::clamp(static_cast<qreal>(font.Size) / sizesPerPoint * 96 / 72, least, most);
+}
+
+QStringList ViewFaces()
+{
+    QStringList offered = QFontDatabase::families();
+    for (const FaceRow& row : faces) {
+        const bool isDrawn = offered.contains(row.drawn);
+        if (isDrawn && !offered.contains(row.named, Qt::CaseInsensitive)) {
+            offered.append(row.named);
+        }
+    }
+    offered.sort(Qt::CaseInsensitive);
+    return offered;
 }
 
 QFont ViewFont(const Font& font, qreal scale, const QPaintDevice& device)

@@ -1,0 +1,166 @@
+// What goes into the dialogs for fonts and colours, and what comes back.
+
+#include "base/values.h"
+#include "qt/ports/qt_common_dialog.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace quor {
+namespace {
+
+constexpr std::int32_t withEffects = dialog_flags::screenFonts | dialog_flags::fontEffects;
+
+using Act = std::function<void(QWidget& dialog)>;
+
+// What is done in the dialog that comes next.
+void Next(const Act& act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+}
+
+void PressEnter(QWidget& dialog)
+{
+    QTest::keyClick(&dialog, Qt::Key_Return);
+}
+
+void Choose(QWidget& dialog, const QString& face)
+{
+    auto* faces = dialog.findChild<QListWidget*>("faces");
+    const QList<QListWidgetItem*> found = faces->findItems(face, Qt::MatchExactly);
+    ASSERT_EQ(found.size(), 1) << face.toStdString();
+    faces->setCurrentItem(found.first());
+}
+
+struct TheFontDialog : ::testing::Test {
+    QtCommonDialog dialog;
+
+    TheFontDialog()
+    {
+        dialog.FontName = "MS Sans Serif";
+        dialog.FontSize = 8.25;
+        dialog.FontUnderline = true;
+        dialog.Flags = withEffects;
+        dialog.Color = colors::buttonText;
+    }
+
+    void Show(const Act& act)
+    {
+        Next(act);
+        dialog.ShowFont();
+    }
+};
+
+TEST_F(TheFontDialog, GivesBackWhatNobodyTouched)
+{
+    const struct {
+        const char* face;
+        double size;
+    } rows[] = {{"MS Sans Serif", 8.25},  {"Arial", 9.75},          {"arial", 12},
+                {"No Such Face", 0.0001}, {"Liberation Sans", 1e6}, {"", 0}};
+    for (const auto& row : rows) {
+        for (const bool isOn : {false, true}) {
+            dialog.FontName = row.face;
+            dialog.FontSize = row.size;
+            dialog.FontBold = dialog.FontUnderline = isOn;
+            dialog.FontItalic = dialog.FontStrikethru = !isOn;
+            Show(PressEnter);
+            EXPECT_EQ(dialog.FontName, row.face);
+            EXPECT_EQ(dialog.FontSize, row.size) << row.face;
+            EXPECT_TRUE(dialog.FontBold == isOn && dialog.FontUnderline == isOn) << row.face;
+            EXPECT_TRUE(dialog.FontItalic != isOn && dialog.FontStrikethru != isOn) << row.face;
+            EXPECT_EQ(dialog.Color, colors::buttonText);
+        }
+    }
+}
+
+TEST_F(TheFontDialog, TakesWhatTheUserPicksAndNothingWhenCancelled)
+{
+    const auto pick = [](QWidget& shown) {
+        Choose(shown, "Arial");
+        shown.findChild<QComboBox*>("sizes")->setCurrentText("9,75");
+        for (const char* box : {"bold", "italic", "underline", "strikethrough"}) {
+            shown.findChild<QCheckBox*>(box)->click();
+        }
+        Next([](QWidget& color) {
+            dynamic_cast<QColorDialog&>(color).setCurrentColor(QColor(1, 2, 3));
+            PressEnter(color);
+        });
+        shown.findChild<QPushButton*>("color")->click();
+    };
+    Show([&](QWidget& shown) {
+        pick(shown);
+        QTest::keyClick(&shown, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialog.FontName, "MS Sans Serif");
+    EXPECT_EQ(dialog.FontSize, 8.25);
+    EXPECT_FALSE(dialog.FontBold);
+    EXPECT_EQ(dialog.Color, colors::buttonText);
+    Show([&](QWidget& shown) {
+        pick(shown);
+        PressEnter(shown);
+    });
+    EXPECT_EQ(dialog.FontName, "Arial");
+    EXPECT_EQ(dialog.FontSize, 9.75);
+    EXPECT_TRUE(dialog.FontBold && dialog.FontItalic && dialog.FontStrikethru && !dialog.FontUnderline);
+    EXPECT_EQ(dialog.Color, (Color{0x030201}));
+}
+
+TEST_F(TheFontDialog, OffersEffectsAndColorWhereTheFlagsAskForThem)
+{
+    dialog.Flags = dialog_flags::screenFonts;
+    Show([](QWidget& shown) {
+        EXPECT_FALSE(shown.findChild<QCheckBox*>("underline")->isVisible());
+        EXPECT_EQ(shown.findChild<QPushButton*>("color"), nullptr);
+        PressEnter(shown);
+    });
+    EXPECT_TRUE(dialog.FontUnderline) << "what isn't offered stays";
+}
+
+TEST_F(TheFontDialog, TakesNoSizeThatIsNone)
+{
+    Show([](QWidget& shown) {
+        const QPushButton* ok = shown.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        for (const char* text : {"", "large", "0", "-8", "nan", "1e9"}) {
+            shown.findChild<QComboBox*>("sizes")->setCurrentText(text);
+            EXPECT_FALSE(ok->isEnabled()) << text;
+        }
+        PressEnter(shown);
+        EXPECT_TRUE(shown.isVisible());
+        QTest::keyClick(&shown, Qt::Key_Escape);
+    });
+}
+
+TEST(TheColorDialog, GivesBackTheColorThatItShows)
+{
+    QtCommonDialog dialog;
+    dialog.Color = {0x563412};
+    Next(PressEnter);
+    dialog.ShowColor();
+    EXPECT_EQ(dialog.Color, (Color{0x563412}));
+    dialog.Color = colors::buttonFace;
+    Next([](QWidget& shown) {
+        dynamic_cast<QColorDialog&>(shown).setCurrentColor(QColor(1, 2, 3));
+        QTest::keyClick(&shown, Qt::Key_Escape);
+    });
+    dialog.ShowColor();
+    EXPECT_EQ(dialog.Color, colors::buttonFace) << "cancelled";
+}
+
+} // namespace
+} // namespace quor
