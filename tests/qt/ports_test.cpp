@@ -57,14 +57,51 @@ TEST(QtSettings, BeginWithAShownGridOfTenPixelsAndKeepWhatIsSet)
     EXPECT_FALSE(settings.SnapToGrid());
 }
 
-TEST(QtSettings, ADamagedNumberIsTheFirstValue)
+TEST(QtSettings, ANumberThatIsNoneOrOutOfRangeIsTheFirstValue)
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath("view-editor.ini");
-    Write(path, "[grid]\nsize=many\n");
-    EXPECT_EQ(QtSettings(path).GridSize(), 10);
-    Write(path, "[grid]\nsize=-3\n");
-    EXPECT_EQ(QtSettings(path).GridSize(), 10);
+    for (const char* number : {"many", "-3", "0", "32768", "100000", "99999999999"}) {
+        Write(path, QByteArray("[grid]\nsize=") + number + "\n");
+        EXPECT_EQ(QtSettings(path).GridSize(), 10) << number;
+    }
+    Write(path, "[grid]\nsize=32767\n");
+    EXPECT_EQ(QtSettings(path).GridSize(), 32767);
+}
+
+TEST(QtSettings, FailWhereTheyCannotBeKeptAndStayAsTheyWere)
+{
+    const QTemporaryDir directory;
+    Write(directory.filePath("file"), "");
+    QtSettings settings(directory.filePath("file/quor/view-editor.ini"));
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(NumberOf([&] { settings.SetGridSize(25); }), failures::pathFileAccess);
+        EXPECT_EQ(NumberOf([&] { settings.SetShowGrid(false); }), failures::pathFileAccess);
+        EXPECT_EQ(NumberOf([&] { settings.SetSnapToGrid(false); }), failures::pathFileAccess);
+        EXPECT_EQ(settings.GridSize(), 10);
+        EXPECT_TRUE(settings.ShowGrid() && settings.SnapToGrid());
+    }
+    QFile::remove(directory.filePath("file"));
+    settings.SetGridSize(25);
+    EXPECT_EQ(QtSettings(directory.filePath("file/quor/view-editor.ini")).GridSize(), 25) << "once there is room";
+}
+
+TEST(QtSettings, TellOfADamagedFileAndReplaceIt)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("view-editor.ini");
+    EXPECT_EQ(QtSettings(path).Trouble(), "");
+    Write(path, "[grid]\nsize=25\nnonsense\n");
+    {
+        QtSettings settings(path);
+        EXPECT_NE(settings.Trouble().find("is damaged"), std::string::npos);
+        EXPECT_EQ(settings.GridSize(), 25);
+        EXPECT_EQ(NumberOf([&] { settings.SetShowGrid(false); }), 0);
+    }
+    QtSettings settings(path);
+    EXPECT_EQ(settings.Trouble(), "");
+    EXPECT_EQ(settings.GridSize(), 25);
+    EXPECT_FALSE(settings.ShowGrid());
 }
 
 TEST(QtPictures, TellWhatIsWrongWithAFile)

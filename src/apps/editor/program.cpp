@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace quor {
 
@@ -80,6 +81,11 @@ void Program::ShowWindow(frmMain& main)
     m_window = std::make_unique<MainWindow>(main, m_theme);
     m_forms.SetMainWindow(m_window.get());
     m_window->show();
+    QTimer::singleShot(0, m_window.get(), [this] { // when the splash has gone
+        if (const std::string trouble = m_settings.Trouble(); !trouble.empty()) {
+            m_boxes.Show(trouble, std::string(appTitle), BoxButtons::Ok);
+        }
+    });
 }
 
 } // namespace quor

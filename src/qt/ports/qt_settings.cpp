@@ -1,9 +1,11 @@
 #include "qt/ports/qt_settings.h"
 
+#include "base/failure.h"
 #include "qt/ports/qt_text.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace quor {
@@ -30,9 +32,59 @@ QString FirstHelpFile()
                            QStringLiteral("/../share/quor-view-editor/help/index.html"));
 }
 
+// To open a pipe could take for ever.
+bool IsFileOrNone(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isFile() || !info.exists();
+}
+
 } // namespace
 
-QtSettings::QtSettings(const QString& path) : m_settings(path, QSettings::IniFormat) {}
+QtSettings::QtSettings(const QString& path) : m_path(path)
+{
+    if (IsFileOrNone(path)) {
+        m_settings.emplace(path, QSettings::IniFormat).allKeys(); // which parses it, and so finds its faults
+    }
+}
+
+std::string QtSettings::Trouble() const
+{
+    if (!m_settings || m_settings->status() == QSettings::AccessError) {
+        return "The settings of the file \"" + FromQt(m_path) +
+               "\" cannot be used.\n\nThe first values are used instead.";
+    }
+    if (m_settings->status() == QSettings::FormatError) {
+        return "The file \"" + FromQt(m_path) + "\" is damaged. Not all settings in it can be used.";
+    }
+    return {};
+}
+
+QVariant QtSettings::Value(const QString& key, const QVariant& first) const
+{
+    return m_settings ? m_settings->value(key, first) : first;
+}
+
+void QtSettings::Keep(const QString& key, const QVariant& value)
+{
+    bool isKept = false;
+    if (m_settings && IsFileOrNone(m_path)) {
+        // One of its own, since a failure stays with the object.
+        QSettings writer(m_path, QSettings::IniFormat);
+        const QVariant before = writer.value(key);
+        writer.setValue(key, value);
+        writer.sync();
+        isKept = writer.status() == QSettings::NoError;
+        if (!isKept && before.isValid()) {
+            writer.setValue(key, before);
+        } else if (!isKept) {
+            writer.remove(key);
+        }
+    }
+    if (!isKept) {
+        throw Failure(failures::pathFileAccess, "The settings cannot be written to \"" + FromQt(m_path) + "\".");
+    }
+}
 
 QString QtSettings::DefaultPath()
 {
@@ -43,51 +95,51 @@ QString QtSettings::DefaultPath()
 std::int32_t QtSettings::GridSize()
 {
     bool isNumber = false;
-    const int size = m_settings.value(gridSizeKey, firstGridSize).toInt(&isNumber);
-    return isNumber && size > 0 ? size : firstGridSize;
+    const int size = Value(gridSizeKey, firstGridSize).toInt(&isNumber);
+    return isNumber && size > 0 && size <= INT16_MAX ? size : firstGridSize;
 }
 
 void QtSettings::SetGridSize(std::int32_t pixels)
 {
-    m_settings.setValue(gridSizeKey, pixels);
+    Keep(gridSizeKey, pixels);
 }
 
 bool QtSettings::ShowGrid()
 {
-    return m_settings.value(gridShownKey, true).toBool();
+    return Value(gridShownKey, true).toBool();
 }
 
 void QtSettings::SetShowGrid(bool show)
 {
-    m_settings.setValue(gridShownKey, show);
+    Keep(gridShownKey, show);
 }
 
 bool QtSettings::SnapToGrid()
 {
-    return m_settings.value(gridSnapKey, true).toBool();
+    return Value(gridSnapKey, true).toBool();
 }
 
 void QtSettings::SetSnapToGrid(bool snap)
 {
-    m_settings.setValue(gridSnapKey, snap);
+    Keep(gridSnapKey, snap);
 }
 
 std::string QtSettings::ViewsDirectory()
 {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return FromQt(m_settings.value(viewsKey, documents).toString());
+    return FromQt(Value(viewsKey, documents).toString());
 }
 
 std::string QtSettings::ToolbarDirectory()
 {
-    const QString directory = m_settings.value(toolbarsKey, FirstToolbarDirectory()).toString();
+    const QString directory = Value(toolbarsKey, FirstToolbarDirectory()).toString();
     QDir().mkpath(directory);
     return FromQt(directory);
 }
 
 std::string QtSettings::HelpFile()
 {
-    return FromQt(m_settings.value(helpKey, FirstHelpFile()).toString());
+    return FromQt(Value(helpKey, FirstHelpFile()).toString());
 }
 
 } // namespace quor
