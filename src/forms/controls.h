@@ -25,6 +25,10 @@ public:
     // A user can reach it. What stands for the user's mouse and keys does nothing otherwise.
     bool AcceptsUser() const noexcept { return Enabled() && Visible(); }
 
+    // Asks whoever draws it to give it the keyboard.
+    Event<> Focused;
+    void Focus() { Focused.Raise(); }
+
 protected:
     explicit Control(std::string name) : m_name(std::move(name)) {}
 

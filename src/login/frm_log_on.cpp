@@ -21,9 +21,9 @@ frmLogOn::frmLogOn(Timers& timers, int& failures, Check check)
     Place();
     m_subscriptions.push_back(cmdOK.Click.Subscribe(Quietly([this] { cmdOK_Click(); })));
     m_subscriptions.push_back(cmdCancel.Click.Subscribe(Quietly([this] { Unload(); })));
-    m_subscriptions.push_back(tmrPause->Fired.Subscribe([this] { Pause(false); }));
+    m_subscriptions.push_back(tmrPause->Fired.Subscribe([this] { EndPause(); }));
     if (m_failures > 0) { // a new dialog is no way around the pause
-        Pause(true);
+        BeginPause({});
     }
 }
 
@@ -37,7 +37,7 @@ void frmLogOn::Place()
 {
     constexpr int margin = 20;
     constexpr int fields = 100;
-    Set(&Form::Width, 340 * twipsPerPixelX);
+    Set(&Form::Width, 420 * twipsPerPixelX);
     Set(&Form::Height, 152 * twipsPerPixelY);
     Arrange(margin,
             {{.y = 16,
@@ -65,16 +65,26 @@ void frmLogOn::cmdOK_Click()
         return;
     }
     ++m_failures;
-    lblMessage.Set(&Label::Caption, "The user or the password is not right.");
-    Pause(true);
+    txtPassword.Focus(); // the button loses it, and is to hand it to no other button
+    BeginPause("The user or the password is not right.");
 }
 
-void frmLogOn::Pause(bool isOn)
+void frmLogOn::BeginPause(std::string said)
 {
-    cmdOK.Set(&Control::Enabled, !isOn);
+    const int pause = PauseAfter(m_failures);
+    const std::string wait = "Wait " + std::to_string(pause / 1000) + (pause == firstPause ? " second." : " seconds.");
+    lblMessage.Set(&Label::Caption, said.empty() ? wait : said + ' ' + wait);
+    m_said = std::move(said);
+    cmdOK.Set(&Control::Enabled, false);
+    tmrPause->SetInterval(pause);
+    tmrPause->SetEnabled(true);
+}
+
+void frmLogOn::EndPause()
+{
     tmrPause->SetEnabled(false);
-    tmrPause->SetInterval(PauseAfter(m_failures));
-    tmrPause->SetEnabled(isOn);
+    lblMessage.Set(&Label::Caption, m_said);
+    cmdOK.Set(&Control::Enabled, true);
 }
 
 } // namespace quor

@@ -6,6 +6,7 @@
 #include "platform/timer.h"
 
 #include <functional>
+#include <string>
 
 namespace quor {
 
@@ -31,10 +32,13 @@ public:
 private:
     void Place();
     void cmdOK_Click();
-    void Pause(bool isOn);
+    // Says how long it lasts, behind what the user is told else.
+    void BeginPause(std::string said);
+    void EndPause();
 
     int& m_failures;
     Check m_check;
+    std::string m_said; // what stays when the pause is over
     std::unique_ptr<Timer> tmrPause;
     std::vector<Subscription> m_subscriptions;
 };

@@ -78,14 +78,15 @@ TEST_F(TheLogin, TellsNoStrangerFromAWrongPassword)
     files.PutText("users", file);
     login.ShowLogOn(true);
     Try("Ada Holm", "wrong");
-    const std::string words = Dialog().lblMessage.Caption();
+    const std::string words = "The user or the password is not right.";
     EXPECT_EQ(hasher.checks, 1);
+    EXPECT_EQ(Dialog().lblMessage.Caption(), words + " Wait 1 second.");
     EXPECT_TRUE(Dialog().txtPassword.Text().empty());
     timers.Advance(60'000);
-    Dialog().lblMessage.Set(&Label::Caption, "");
+    EXPECT_EQ(Dialog().lblMessage.Caption(), words);
     Try("Nobody", "secret");
     EXPECT_EQ(hasher.checks, 2) << "it takes as long";
-    EXPECT_EQ(Dialog().lblMessage.Caption(), words);
+    EXPECT_EQ(Dialog().lblMessage.Caption(), words + " Wait 2 seconds.");
     Dialog().cmdCancel.Push();
     timers.Advance(20);
     EXPECT_EQ(answers, std::vector<bool>{false});
@@ -105,6 +106,7 @@ TEST_F(TheLogin, PausesLongerAfterEachFailureAndAnewInTheNextDialog)
     EXPECT_EQ(hasher.checks, 2);
     Dialog().cmdCancel.Push();
     login.ShowLogOn(true);
+    EXPECT_EQ(Dialog().lblMessage.Caption(), "Wait 2 seconds.");
     Try("Ada Holm", "secret");
     EXPECT_EQ(hasher.checks, 2) << "a new dialog is no way around it";
     timers.Advance(2000);

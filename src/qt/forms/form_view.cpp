@@ -48,6 +48,7 @@ void FormView::AddControl(Control& control, const Theme& theme)
     part.natural = part.view->NaturalWidth();
     part.isVisible = control.Visible();
     part.following = control.Changed.Subscribe([this, &control, &part] { FollowControl(control, part); });
+    part.focusing = control.Focused.Subscribe([&part] { part.view->Widget().setFocus(); });
 }
 
 void FormView::FollowForm()
@@ -146,6 +147,7 @@ void FormView::Detach()
     m_following.End();
     for (auto& [control, part] : m_parts) {
         part.following.End();
+        part.focusing.End();
         part.view->Detach();
     }
     m_form = nullptr;

@@ -38,6 +38,7 @@ private:
         int natural = 0; // its width as the lines were laid out
         bool isVisible = true;
         Subscription following;
+        Subscription focusing;
     };
 
     void AddControl(Control& control, const Theme& theme);
