@@ -13,6 +13,7 @@ namespace {
 constexpr std::string_view defaultLayoutFile = "td_cvedit_def_2.dat";
 constexpr std::string_view userLayoutFile = "tb_cvedit_user.dat";
 constexpr std::string_view usageFile = "tb_cvedit_usage.dat";
+constexpr std::string_view loadWords = "Unable to load the layout of the toolbars.";
 
 std::string PathIn(const std::string& folder, std::string_view file)
 {
@@ -69,41 +70,60 @@ void frmMain::ToggleBand(std::string_view tool, std::string_view band)
     m_bars->RecalcLayout();
 }
 
+// The bars can do without their files: what can't be read leaves them as they are built in. The load of a file that was
+// there and couldn't be read tells that the close is not to write over it.
+bool frmMain::LoadBarsFile(const std::function<void()>& load)
+{
+    bool isReplaceable = false;
+    GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"), loadWords, [&] {
+        try {
+            load();
+            isReplaceable = true;
+        } catch (const Failure& failure) {
+            isReplaceable = failure.Number() == failures::invalidCall; // it is damaged
+            throw;
+        }
+    });
+    return isReplaceable;
+}
+
 void frmMain::LoadToolbarLayout()
 {
-    // The bars can do without their files: what can't be read leaves them as they are built in.
-    const auto load = [&](const auto& body) {
-        return GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"),
-                          "Unable to load the layout of the toolbars.", body);
-    };
     Files& files = m_ports.files;
-    const std::string folder = m_ports.settings.ToolbarDirectory();
-    if (folder.empty()) {
-        return; // nowhere to keep them
-    }
-    load([&] {
+    GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"), loadWords, [&] {
+        const std::string folder = m_ports.settings.ToolbarDirectory();
+        if (folder.empty()) {
+            return; // nowhere to keep them
+        }
         const std::string standard = PathIn(folder, defaultLayoutFile);
         const std::string own = PathIn(folder, userLayoutFile);
-        if (!files.FileExists(standard)) {
-            SaveLayout(*m_bars, files, standard);
-        } else if (!files.FileExists(own)) {
+        const std::string usage = PathIn(folder, usageFile);
+        const bool hasStandard = files.FileExists(standard);
+        if (hasStandard && files.FileExists(own)) {
+            m_replacesLayout = LoadBarsFile([&] { LoadLayout(*m_bars, files, own); });
+            m_replacesUsage = !files.FileExists(usage) || LoadBarsFile([&] { LoadUsage(*m_bars, files, usage); });
+            return;
+        }
+        m_replacesLayout = m_replacesUsage = true;
+        if (hasStandard) {
             LoadLayout(*m_bars, files, standard);
         } else {
-            load([&] { LoadLayout(*m_bars, files, own); });
-            if (files.FileExists(PathIn(folder, usageFile))) {
-                LoadUsage(*m_bars, files, PathIn(folder, usageFile));
-            }
+            SaveLayout(*m_bars, files, standard);
         }
     });
 }
 
 void frmMain::SaveToolbarLayout()
 {
-    const std::string folder = m_ports.settings.ToolbarDirectory();
-    if (!folder.empty()) {
-        SaveLayout(*m_bars, m_ports.files, PathIn(folder, userLayoutFile));
-        SaveUsage(*m_bars, m_ports.files, PathIn(folder, usageFile));
-    }
+    GuardToLog(m_ports.reporter, Ref("frmMain.SaveToolbarLayout"), "Unable to save the layout of the toolbars.", [&] {
+        const std::string folder = m_ports.settings.ToolbarDirectory();
+        if (!folder.empty() && m_replacesLayout) {
+            SaveLayout(*m_bars, m_ports.files, PathIn(folder, userLayoutFile));
+        }
+        if (!folder.empty() && m_replacesUsage) {
+            SaveUsage(*m_bars, m_ports.files, PathIn(folder, usageFile));
+        }
+    });
 }
 
 } // namespace quor

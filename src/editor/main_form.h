@@ -11,6 +11,7 @@
 #include "widgets/canvas.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -124,6 +125,7 @@ public:
     // The bars (main_bars.cpp).
     void ToggleBand(std::string_view tool, std::string_view band);
     // The bars as they were left: the user's file if there is one, else the default, which the first start makes.
+    // Failures of these two go to the log alone.
     void LoadToolbarLayout();
     void SaveToolbarLayout();
 
@@ -163,6 +165,7 @@ private:
     void LoadSettings();
     void ObtainCatalog();
     void BindBars();
+    bool LoadBarsFile(const std::function<void()>& load);
     void ReadCommandLine(const std::string& tail);
     std::unique_ptr<clsCustView> MakeView();
     void abViewEdit_QueryClose(bool& cancel);
@@ -221,6 +224,8 @@ private:
     bool m_snapToGrid = false;
     bool m_skipSavePrompt = false;
     bool m_unloading = false;
+    bool m_replacesLayout = false; // by the close: what couldn't be read is not lost
+    bool m_replacesUsage = false;
     CloseState m_closeState = CloseState::Undecided;
     std::vector<Subscription> m_subscriptions;
 };

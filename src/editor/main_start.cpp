@@ -163,13 +163,9 @@ bool frmMain::CloseThroughBar()
 
 void frmMain::Form_Unload()
 {
-    const auto guarded = [&](const auto& body) {
-        Guard(m_ports.reporter, Ref("frmMain.Form_Unload"), TitleWords("An error occurred while closing ", "."), body);
-    };
     m_unloading = true;
-    // Bars that can't be kept don't keep the program from ending.
-    guarded([&] { SaveToolbarLayout(); });
-    guarded([&] {
+    SaveToolbarLayout();
+    Guard(m_ports.reporter, Ref("frmMain.Form_Unload"), TitleWords("An error occurred while closing ", "."), [&] {
         tmrDelControl->SetEnabled(false);
         CancelDrag();
         m_selected = nullptr;

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "forms/bars.h"
 #include "platform/files.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <charconv>
@@ -92,9 +93,7 @@ std::string ReadText(Files& files, const std::string& path)
 
 void WriteText(Files& files, const std::string& path, const std::string& text)
 {
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Create);
-    file->Write(0, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-    file->Close();
+    WriteWhole(files, path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
 // Those of the names that can stand on a toolbar, each but separators once.

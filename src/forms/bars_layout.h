@@ -35,7 +35,8 @@ std::string LayoutText(const BarsLayout& layout);
 // Fails with 5, naming the line, for a text that isn't all of a layout in this version of the format.
 BarsLayout ParseLayout(std::string_view text);
 
-// The same as files. Loading changes nothing if it fails; a file that is too long to be one fails with 5.
+// The same as files, which are replaced in one step. Loading changes nothing if it fails: with 5 for a file that is
+// damaged or too long to be one, with the file port's numbers for one that can't be read.
 void SaveLayout(const Bars& bars, Files& files, const std::string& path);
 void LoadLayout(Bars& bars, Files& files, const std::string& path);
 void SaveUsage(const Bars& bars, Files& files, const std::string& path);
