@@ -90,6 +90,9 @@ TEST(Window, EveryDialogCanBeCancelled)
     desk.MeetAndCancel();
     EXPECT_FALSE(desk.Window().close());
     EXPECT_EQ(desk.Met(), QStringList{"Custom View Editor: Do you want to save changes to My View?"});
+    desk.MeetAndCancel();
+    desk.Choose("miExit");
+    EXPECT_EQ(desk.Met().size(), 1) << "a close that was refused is no answer to the next";
     desk.MeetAndPush("No");
     EXPECT_TRUE(desk.Window().close());
     EXPECT_EQ(desk.Met().size(), 1) << "one question a close";
@@ -148,14 +151,24 @@ TEST(Window, TheScrollBarsMoveTheViewAndFollowIt)
 
 TEST(Window, ThePanelsComeAndGoWithTheirTools)
 {
+    const struct {
+        const char* band;
+        const char* tool;
+    } rows[] = {{"bndToolbox", "miToolbox"}, {"bndObjProps", "miToolProps"}};
     Desk desk;
-    auto* toolbox = desk.Window().findChild<QWidget*>("bndToolbox");
-    ASSERT_TRUE(toolbox->isVisible());
-    desk.Choose("miToolbox");
-    EXPECT_FALSE(toolbox->isVisible());
-    EXPECT_FALSE(desk.Main().abViewEdit().Tool("miToolbox").Checked());
-    desk.Choose("miToolbox");
-    EXPECT_TRUE(toolbox->isVisible());
+    for (const auto& row : rows) {
+        auto* panel = desk.Window().findChild<QWidget*>(row.band);
+        const BarTool& tool = desk.Main().abViewEdit().Tool(row.tool);
+        ASSERT_TRUE(panel != nullptr && panel->isVisible());
+        desk.Choose(row.tool);
+        EXPECT_FALSE(panel->isVisible()) << row.band;
+        EXPECT_FALSE(tool.Checked()) << row.tool;
+        desk.Choose(row.tool);
+        EXPECT_TRUE(panel->isVisible()) << row.band;
+        panel->findChild<QAbstractButton*>("close")->click();
+        EXPECT_FALSE(panel->isVisible()) << row.band;
+        EXPECT_FALSE(tool.Checked()) << row.tool;
+    }
 }
 
 TEST(Window, TheToolbarStandsAsItWasLeft)

@@ -1,5 +1,7 @@
 #pragma once
 // Hears that the operating system ends the session or the program: by a signal, or through the session manager.
+//
+// The program comes to its end without a question, whichever way it is told. A second signal ends it at once.
 
 #include <QObject>
 
@@ -16,7 +18,11 @@ public:
     explicit SessionEnd(std::function<void()> onEnd);
     ~SessionEnd() override;
 
+    // The application's: a quit event is heard before it closes the windows, which would ask.
+    bool eventFilter(QObject* application, QEvent* event) override;
+
 private:
+    void ListenToSignals();
     void End();
 
     std::function<void()> m_onEnd;

@@ -159,7 +159,7 @@ void MainWindow::AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(m_main.IsUnloading() || m_main.CloseThroughBar());
+    event->setAccepted(m_main.IsUnloading() || m_main.Close(CloseReason::User));
 }
 
 } // namespace quor
