@@ -26,135 +26,100 @@ using namespace quor;
 
 struct TheLogonAtTheWindow : ::testing::Test {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quor";
+    Program* program = nullptr;
 
-    void Write(const std::string& users) const
+    TheLogonAtTheWindow() { Write("users", WriteUsers({{"Ada", {15}, SodiumHasher().Hash("secret")}})); }
+    ~TheLogonAtTheWindow() override
+    {
+        for (const char* name : {"users", "sites.json", "view-editor.ini"}) {
+            QFile::remove(folder + '/' + name);
+        }
+    }
+
+    void Write(const char* name, const std::string& text) const
     {
         QDir().mkpath(folder);
-        QFile file(folder + "/users");
+        QFile file(folder + '/' + name);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(users.data(), static_cast<qint64>(users.size()));
+        file.write(text.data(), static_cast<qint64>(text.size()));
     }
-    ~TheLogonAtTheWindow() override { QFile::remove(folder + "/users"); }
+
+    // The program from its start until `isOver`; `meet` sees every few milliseconds the dialog that stands.
+    void Run(const std::function<void(QWidget& dialog)>& meet, const std::function<bool()>& isOver,
+             const std::function<void()>& inspect)
+    {
+        Program started("");
+        program = &started;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog != nullptr && !isOver()) {
+                meet(*dialog);
+            }
+        });
+        watch.start(5);
+        started.Start();
+        EXPECT_TRUE(QTest::qWaitFor(isOver));
+        inspect();
+        started.EndSession();
+    }
 };
 
-TEST_F(TheLogonAtTheWindow, AsksForTheUserAndShowsNoPassword)
+TEST_F(TheLogonAtTheWindow, ShowsNoPasswordAndGoesOnInItWhereTheMouseConfirmedAWrongOne)
 {
-    Write(WriteUsers({{"Ada", {15}, SodiumHasher().Hash("secret")}}));
-    bool isMet = false;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) {
-            return;
-        }
-        watch.stop();
-        isMet = true;
-        auto* user = dialog->findChild<QLineEdit*>("txtUser");
-        auto* password = dialog->findChild<QLineEdit*>("txtPassword");
-        ASSERT_TRUE(user != nullptr && password != nullptr);
-        QTest::keyClicks(user, "Ada");
-        QTest::keyClicks(password, "secret");
-        EXPECT_FALSE(password->displayText().contains("secret"));
-        QTest::keyClick(password, Qt::Key_Return);
-    });
-    watch.start(5);
-    Program program("");
-    program.Start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.Window() != nullptr; }));
-    EXPECT_TRUE(isMet);
-    program.EndSession();
-}
-
-TEST_F(TheLogonAtTheWindow, GoesOnInThePasswordWhereTheMouseConfirmedAWrongOne)
-{
-    Write(WriteUsers({{"Ada", {15}, SodiumHasher().Hash("secret")}}));
-    int step = 0;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr || step == 2) {
-            return;
-        }
-        auto* ok = dialog->findChild<QPushButton*>("cmdOK");
+    bool isWrong = true;
+    const auto meet = [&](QWidget& dialog) {
+        auto* ok = dialog.findChild<QPushButton*>("cmdOK");
+        auto* password = dialog.findChild<QLineEdit*>("txtPassword");
         if (!ok->isEnabled()) {
             return; // the pause
         }
-        const bool isRight = step++ == 1;
-        if (!isRight) {
-            QTest::keyClicks(dialog->focusWidget(), "Ada");
-        }
-        QTest::keyClicks(isRight ? dialog->focusWidget() : dialog->findChild<QLineEdit*>("txtPassword"),
-                         isRight ? "secret" : "wrong");
-        if (isRight) {
-            QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
-        } else {
+        if (isWrong) {
+            QTest::keyClicks(dialog.focusWidget(), "Ada");
+            QTest::keyClicks(password, "wrong");
+            EXPECT_FALSE(password->displayText().contains("wrong"));
             ok->setFocus();
             QTest::mouseClick(ok, Qt::LeftButton);
+        } else {
+            QTest::keyClicks(dialog.focusWidget(), "secret");
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
         }
-    });
-    watch.start(5);
-    Program program("");
-    program.Start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.Window() != nullptr || program.HasEnded(); }));
-    EXPECT_NE(program.Window(), nullptr);
-    program.EndSession();
+        isWrong = false;
+    };
+    Run(
+        meet, [&] { return program->Window() != nullptr || program->HasEnded(); },
+        [&] { EXPECT_NE(program->Window(), nullptr); });
 }
 
 // What is wrong with the user's files is nobody else's business.
 TEST_F(TheLogonAtTheWindow, ComesAheadOfWhatIsToldAboutFiles)
 {
-    Write(WriteUsers({{"Ada", {15}, SodiumHasher().Hash("secret")}}));
     const QString settings = folder + "/view-editor.ini";
-    QFile sites(folder + "/sites.json");
-    ASSERT_TRUE(sites.open(QIODevice::WriteOnly));
-    sites.write("none");
-    sites.close();
+    Write("sites.json", "none");
     ASSERT_EQ(mkfifo(settings.toLocal8Bit().constData(), 0600), 0) << "opened, it would block";
-    Program program("");
     QStringList met;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr || met.size() == 3) {
-            return;
-        }
-        const auto* box = qobject_cast<QMessageBox*>(dialog);
+    const auto meet = [&](QWidget& dialog) {
+        const auto* box = qobject_cast<QMessageBox*>(&dialog);
         met.append(box == nullptr ? QString("logon") : box->text().section('\n', 0, 0));
         if (box == nullptr) {
-            QTest::keyClicks(dialog->findChild<QLineEdit*>("txtUser"), "Ada");
-            QTest::keyClicks(dialog->findChild<QLineEdit*>("txtPassword"), "secret");
+            QTest::keyClicks(dialog.findChild<QLineEdit*>("txtUser"), "Ada");
+            QTest::keyClicks(dialog.findChild<QLineEdit*>("txtPassword"), "secret");
         } else {
-            EXPECT_TRUE(program.Window() != nullptr && program.Window()->isVisible());
+            EXPECT_TRUE(program->Window() != nullptr && program->Window()->isVisible());
         }
-        QTest::keyClick(dialog, Qt::Key_Return);
-    });
-    watch.start(5);
-    program.Start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return met.size() == 3; }));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    };
+    Run(
+        meet, [&] { return met.size() == 3; }, [&] { EXPECT_EQ(program->MainForm()->GridSize(), 10); });
     EXPECT_EQ(met.value(0), "logon");
     EXPECT_TRUE(met.value(1).startsWith("The sites of the file ")) << met.value(1).toStdString();
     EXPECT_EQ(met.value(2), "The settings of the file \"" + settings + "\" cannot be used.");
-    EXPECT_EQ(program.MainForm()->GridSize(), 10);
-    program.EndSession();
-    QFile::remove(settings);
-    sites.remove();
 }
 
 TEST_F(TheLogonAtTheWindow, EndsWhenTheUserGivesUp)
 {
-    Write(WriteUsers({{"Ada", {15}, SodiumHasher().Hash("secret")}}));
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (QWidget* dialog = QApplication::activeModalWidget()) {
-            watch.stop();
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        }
-    });
-    watch.start(5);
-    Program program("");
-    program.Start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.HasEnded(); }));
-    EXPECT_EQ(program.Window(), nullptr);
+    Run([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }, [&] { return program->HasEnded(); },
+        [&] { EXPECT_EQ(program->Window(), nullptr); });
 }
 
 } // namespace

@@ -238,11 +238,4 @@ TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
     EXPECT_EQ(desk.Main().GridSize(), 10);
 }
 
-TEST(Window, TheEndOfTheSessionAsksNothing)
-{
-    Desk desk;
-    desk.DragTool(3, {100, 100});
-    EXPECT_FALSE(desk.HasEnded());
-} // the desk ends the session
-
 } // namespace
