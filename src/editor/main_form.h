@@ -54,7 +54,8 @@ public:
     void Form_Unload();
     // QueryUnload, and Form_Unload if it agrees; true then.
     bool Close(CloseReason reason);
-    // The bars' own question ahead of the close, and the close if it was agreed.
+    // The bars' own question ahead of the close, which decides for all later ones, and the close if it was agreed. The
+    // window's close box doesn't come by it.
     bool CloseThroughBar();
     bool IsUnloading() const noexcept { return m_unloading; }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The user's settings, kept between runs.
+// The user's settings, kept between runs. What can't be kept fails with 75, and the setting stays as it was.
 
 #include <cstdint>
 #include <string>

@@ -1,18 +1,23 @@
 #include "editor/frm_customize.h"
 #include "editor/tools.h"
+#include "login/frm_log_on.h"
 #include "qt/forms/form_view.h"
+#include "qt/forms/form_window.h"
 #include "qt/forms/row_list_widget.h"
 #include "qt/ports/help_window.h"
 #include "qt/ports/qt_help.h"
 #include "qt/ports/qt_system_info.h"
 #include "qt/theme/theme.h"
+#include "tests/support/fake_timers.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextBrowser>
 
 #include <gtest/gtest.h>
@@ -62,6 +67,30 @@ TEST(TheCustomizeDialog, IsWorkedByTheKeysOfItsLists)
     Press(*toolbar, Qt::Key_Return);
     EXPECT_EQ(toolbar->count(), before);
     EXPECT_EQ(form.lstToolbar.Index(), toolbar->currentRow());
+}
+
+TEST(TheLogonDialog, GoesOnInThePasswordWhereTheMouseConfirmedAWrongOne)
+{
+    const Theme theme;
+    FakeTimers timers;
+    int failures = 0;
+    std::string tried;
+    frmLogOn form(timers, failures, [&](const std::string& name, const std::string& password) {
+        tried += name + ':' + password + ' ';
+        return false;
+    });
+    FormWindow window(form, theme, nullptr);
+    window.show();
+    window.activateWindow();
+    auto* ok = window.findChild<QPushButton*>("cmdOK");
+    QTest::keyClicks(window.focusWidget(), "Ada");
+    QTest::keyClicks(window.findChild<QWidget*>("txtPassword"), "wrong");
+    ok->setFocus(); // as the mouse does
+    QTest::mouseClick(ok, Qt::LeftButton);
+    timers.Advance(frmLogOn::PauseAfter(1));
+    QTest::keyClicks(window.focusWidget(), "secret");
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(tried, "Ada:wrong Ada:secret ");
 }
 
 TEST(ABoxWithALongCaption, BeginsWhereItHasRoom)
