@@ -91,7 +91,13 @@ void KeepAll(Program& program, const QString& path)
         QTest::qWait(600);
     });
     KeepDialog(path + "color.png", [] { QtCommonDialog().ShowColor(); });
-    KeepDialog(path + "font.png", [] { QtCommonDialog().ShowFont(); });
+    KeepDialog(path + "font.png", [] {
+        QtCommonDialog dialog;
+        dialog.FontName = "MS Sans Serif";
+        dialog.FontSize = 8.25;
+        dialog.Flags = dialog_flags::screenFonts | dialog_flags::fontEffects;
+        dialog.ShowFont();
+    });
 }
 
 } // namespace
