@@ -33,7 +33,7 @@ FLOORS = {
 # Foreign headers and the folders that may include them; all others take the standard library alone.
 FOREIGN = [
     (re.compile(r"Q[A-Z]\w*|Qt\w+/.*"), ("qt", "apps/editor", "apps/render", "apps/metafile")),
-    (re.compile(r"emf2svg\.h"), ("apps/metafile",)),
+    (re.compile(r"(emf2svg|seccomp)\.h"), ("apps/metafile",)),
     (re.compile(r"nlohmann/.*"), ("apps",)),
     (re.compile(r"sodium\.h"), ("apps",)),
     (re.compile(r"(unistd|fcntl|termios|pwd|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),

@@ -6,6 +6,7 @@
 #include "binding/live.h"
 #include "document/format/record.h"
 #include "document/kinds.h"
+#include "platform/pictures.h"
 #include "platform/timer.h"
 #include "widgets/canvas.h"
 
@@ -58,6 +59,7 @@ void clsCustView::ClearAll()
     for (const std::uint8_t type : tableOrder) {
         m_collections[type]->SetCtlOrder(m_order);
     }
+    m_ports.pictures.BeginView();
 }
 
 std::int32_t clsCustView::GetCount() const noexcept

@@ -21,8 +21,11 @@ class Pictures {
 public:
     virtual ~Pictures() = default;
 
-    // Failures: 53 file not found, 76 path not found, 481 invalid picture.
+    // Failures: 53 file not found, 70 permission denied, 75 path/file access, 76 path not found, 481 invalid picture.
     virtual PictureRef LoadPicture(const std::string& path) = 0;
+
+    // What is loaded from now on belongs to another view: what limits the pictures of one begins anew.
+    virtual void BeginView() {}
 };
 
 } // namespace quor

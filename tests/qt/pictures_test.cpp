@@ -107,6 +107,74 @@ TEST(Metafiles, ThatAreBrokenOrTooLargeAreInvalid)
     }
 }
 
+// Words that are one behind the other.
+QByteArray Words(std::initializer_list<int> words)
+{
+    QByteArray bytes;
+    for (const int word : words) {
+        bytes += static_cast<char>(word);
+        bytes += static_cast<char>(word >> 8);
+    }
+    return bytes;
+}
+
+QByteArray Record(int function, std::initializer_list<int> words, const QByteArray& rest = {})
+{
+    const QByteArray fields = Words(words) + rest;
+    return Words({3 + static_cast<int>(fields.size()) / 2, 0, function}) + fields;
+}
+
+// Of 100 x 100 pixels.
+QByteArray Placeable(const QByteArray& records)
+{
+    return Words({0xCDD7, 0x9AC6, 0, 0, 0, 100, 100, 96, 0, 0, 0}) + QByteArray(18, '\0') + records + Record(0, {});
+}
+
+TEST(Metafiles, ThatArePlaceableShowEachKindOfRecord)
+{
+    const QByteArray pixels = Words({40, 0, 2, 0, 1, 0, 1, 24}) + QByteArray(24, '\0') + // a green one, a blue one
+                              QByteArray::fromHex("00FF00FF00000000");
+    const QByteArray start = Record(0x02FC, {0, 0xFF, 0, 0}) + Record(0x012D, {0}) + // a red brush
+                             Record(0x02FA, {0, 8, 0, 0xFF00, 0}) + Record(0x012D, {1});
+    const QByteArray polygons =
+        Record(0x0538, {2, 4, 4, 10, 10, 30, 10, 30, 30, 10, 30, 60, 60, 90, 60, 90, 90, 60, 90});
+    const QByteArray blueInItsPlace = Record(0x01F0, {0}) + Record(0x02FC, {0, 0, 0xFF, 0}) + Record(0x012D, {0});
+    constexpr QRgb red = 0xFFFF0000;
+    constexpr QRgb green = 0xFF00FF00;
+    constexpr QRgb blue = 0xFF0000FF;
+    const struct {
+        const char* what;
+        QByteArray records;
+        QPoint place;
+        QRgb color;
+        QPoint empty;
+    } cases[] = {
+        {"chord", Record(0x0830, {50, 10, 50, 90, 90, 90, 10, 10}), {50, 30}, red, {50, 70}},
+        {"pie", Record(0x081A, {10, 50, 50, 90, 90, 90, 10, 10}), {65, 35}, red, {35, 35}},
+        {"arc", Record(0x0817, {50, 10, 50, 90, 90, 90, 12, 10}), {50, 12}, green, {50, 40}},
+        {"rounded", Record(0x061C, {20, 20, 90, 90, 10, 10}), {50, 50}, red, {11, 11}},
+        {"polygon 1", polygons, {20, 20}, red, {45, 45}},
+        {"polygon 2", polygons, {75, 75}, red, {45, 45}},
+        {"fill", Record(0x061D, {0x21, 0xF0, 40, 60, 10, 20}), {75, 45}, red, {75, 55}},
+        {"scaled", Record(0x0B41, {0x20, 0xCC, 1, 2, 0, 0, 50, 100, 0, 0}, pixels), {10, 25}, green, {90, 75}},
+        {"usage", Record(0x0F43, {0x20, 0xCC, 0, 1, 2, 0, 0, 50, 100, 0, 0}, pixels), {90, 25}, blue, {90, 75}},
+        {"copied", Record(0x0940, {0x20, 0xCC, 0, 0, 1, 2, 30, 40}, pixels), {40, 30}, green, {45, 30}},
+        {"freed", blueInItsPlace + Record(0x041B, {90, 90, 10, 10}), {50, 50}, blue, {5, 5}},
+    };
+    const QTemporaryDir directory;
+    QtPictures pictures;
+    for (const auto& each : cases) {
+        QFile file(directory.filePath(each.what));
+        file.open(QIODevice::WriteOnly);
+        file.write(Placeable(start + each.records));
+        file.close();
+        const PictureRef picture = pictures.LoadPicture(file.fileName().toStdString());
+        const QImage image = ImageFor(*picture, {800, 800}, std::nullopt);
+        EXPECT_EQ(image.pixel(8 * each.place + QPoint(4, 4)), each.color) << each.what;
+        EXPECT_EQ(image.pixel(8 * each.empty + QPoint(4, 4)), 0U) << each.what;
+    }
+}
+
 TEST(QtPictures, ReadTheFormatsOfViewsAndNoOther)
 {
     const QTemporaryDir directory;

@@ -1,13 +1,14 @@
 #include "apps/metafile/enhanced_writer.h"
 
+#include "apps/metafile/enhanced_types.h"
+
+#include <algorithm>
 #include <cmath>
 
 namespace quor {
 
 namespace {
 
-constexpr std::uint32_t headerType = 1;
-constexpr std::uint32_t endType = 14;
 constexpr std::size_t lengthOffset = 48;
 constexpr std::size_t recordsOffset = 52;
 
@@ -29,31 +30,31 @@ EnhancedWriter::EnhancedWriter(double pixelWidth, double pixelHeight)
     const auto width = static_cast<std::int64_t>(std::ceil(pixelWidth));
     const auto height = static_cast<std::int64_t>(std::ceil(pixelHeight));
     // Bounds, frame, sign, version, length, records, handles, three that stay 0, and a device of 96 dots an inch.
-    Add(headerType, {0,
-                     0,
-                     width - 1,
-                     height - 1,
-                     0,
-                     0,
-                     std::llround(pixelWidth * frameUnits),
-                     std::llround(pixelHeight * frameUnits),
-                     sign,
-                     version,
-                     0,
-                     0,
-                     handles,
-                     0,
-                     0,
-                     0,
-                     960,
-                     960,
-                     254,
-                     254,
-                     0,
-                     0,
-                     0,
-                     254'000,
-                     254'000});
+    Add(enhanced_types::header, {0,
+                                 0,
+                                 width - 1,
+                                 height - 1,
+                                 0,
+                                 0,
+                                 std::llround(pixelWidth * frameUnits),
+                                 std::llround(pixelHeight * frameUnits),
+                                 sign,
+                                 version,
+                                 0,
+                                 0,
+                                 handles,
+                                 0,
+                                 0,
+                                 0,
+                                 960,
+                                 960,
+                                 254,
+                                 254,
+                                 0,
+                                 0,
+                                 0,
+                                 254'000,
+                                 254'000});
 }
 
 void EnhancedWriter::Put(std::int64_t number)
@@ -76,9 +77,34 @@ void EnhancedWriter::Add(std::uint32_t type, std::span<const std::int64_t> numbe
     ++m_records;
 }
 
+void EnhancedWriter::AddFont(std::int64_t handle, const std::array<std::int64_t, 5>& measures,
+                             std::span<const std::uint8_t> flags, std::span<const std::uint8_t> wideName)
+{
+    constexpr std::size_t flagsSize = 8;
+    constexpr std::size_t mostName = 62;
+    constexpr std::size_t restSize = 300; // with what the record holds besides
+    std::vector<std::uint8_t> rest(flags.begin(), flags.end());
+    rest.resize(flagsSize);
+    const auto name = wideName.first(std::min(wideName.size(), mostName));
+    rest.insert(rest.end(), name.begin(), name.end());
+    rest.resize(restSize);
+    Add(enhanced_types::createFont, {handle, measures[0], measures[1], measures[2], measures[3], measures[4]}, rest);
+}
+
+void EnhancedWriter::AddText(std::int64_t x, std::int64_t y, std::span<const std::uint8_t> wideLetters)
+{
+    constexpr std::int64_t fixedSize = 76;        // of the record before the letters
+    constexpr std::int64_t oneToOne = 0x3F800000; // as a 32-bit float
+    const auto count = static_cast<std::int64_t>(wideLetters.size() / 2);
+    if (count > 0) {
+        Add(enhanced_types::textOut, {0, 0, 0, 0, 1, oneToOne, oneToOne, x, y, count, fixedSize, 0, 0, 0, 0, 0, 0},
+            wideLetters);
+    }
+}
+
 std::vector<std::uint8_t> EnhancedWriter::Finish()
 {
-    Add(endType, {0, 16, 20});
+    Add(enhanced_types::endOfFile, {0, 16, 20});
     Patch(m_bytes, lengthOffset, m_bytes.size());
     Patch(m_bytes, recordsOffset, m_records);
     return std::move(m_bytes);

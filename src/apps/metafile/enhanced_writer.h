@@ -1,6 +1,7 @@
 #pragma once
 // Writes an enhanced metafile: its header, then record after record.
 
+#include <array>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
@@ -19,6 +20,13 @@ public:
     {
         Add(type, std::span(numbers.begin(), numbers.size()), bytes);
     }
+
+    // How letters are drawn: height, width, escapement, orientation and weight; the eight bytes behind them, of which
+    // the first is whether they slant; and the name of the typeface, cut to what the record takes.
+    void AddFont(std::int64_t handle, const std::array<std::int64_t, 5>& measures, std::span<const std::uint8_t> flags,
+                 std::span<const std::uint8_t> wideName);
+    // Letters of two bytes each; none are no record.
+    void AddText(std::int64_t x, std::int64_t y, std::span<const std::uint8_t> wideLetters);
 
     // With the last record, and the header completed.
     std::vector<std::uint8_t> Finish();

@@ -9,16 +9,18 @@
 
 namespace quor {
 
-std::string SvgOfMetafile(std::span<const std::uint8_t> bytes, int width, int height)
+std::vector<std::uint8_t> EnhancedRecords(std::span<const std::uint8_t> bytes)
 {
     const std::optional<MetafileHeader> header = ReadMetafile(bytes);
     if (!header) {
         return {};
     }
-    std::vector<std::uint8_t> records(bytes.begin(), bytes.end());
-    if (header->kind == MetafileKind::Placeable) {
-        records = EnhancedFromPlaceable(bytes, header->width, header->height);
-    }
+    return header->kind == MetafileKind::Placeable ? EnhancedFromPlaceable(bytes, header->width, header->height)
+                                                   : std::vector<std::uint8_t>(bytes.begin(), bytes.end());
+}
+
+std::string SvgOfRecords(std::vector<std::uint8_t> records, int width, int height)
+{
     generatorOptions options{};
     options.emfplus = true;
     options.svgDelimiter = true;

@@ -4,10 +4,15 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace quor {
 
-// In that many pixels; empty if it is no metafile or can't be read. The library may end the process over a broken file.
-std::string SvgOfMetafile(std::span<const std::uint8_t> bytes, int width, int height);
+// The records as those of an enhanced metafile; none if it is no metafile or an unsound one.
+std::vector<std::uint8_t> EnhancedRecords(std::span<const std::uint8_t> bytes);
+
+// In that many pixels; empty if the records can't be read. The library may end the process over a broken file, and
+// hands on texts and names as they are: what it makes may lead anywhere.
+std::string SvgOfRecords(std::vector<std::uint8_t> records, int width, int height);
 
 } // namespace quor

@@ -1,5 +1,6 @@
 #include "apps/metafile/placeable_records.h"
 
+#include "apps/metafile/enhanced_types.h"
 #include "apps/metafile/enhanced_writer.h"
 #include "apps/metafile/record_fields.h"
 #include "base/text.h"
@@ -14,28 +15,7 @@ namespace quor {
 
 namespace {
 
-// The types of enhanced records.
-enum EnhancedType : std::uint32_t {
-    setWindowExtent = 9,
-    setWindowOrigin = 10,
-    setViewportExtent = 11,
-    setViewportOrigin = 12,
-    setPixel = 15,
-    setMapMode = 17,
-    setTextColor = 24,
-    setGroundColor = 25,
-    selectObject = 37,
-    createPen = 38,
-    createBrush = 39,
-    deleteObject = 40,
-    rectangle = 43,
-    stretchBits = 81,
-    createFont = 82,
-    textOut = 84,
-    polygon = 86,
-    polyline = 87,
-    polyPolygon = 91,
-};
+using namespace enhanced_types;
 
 constexpr std::int64_t blackPen = 0x80000007; // things that are always there
 constexpr std::int64_t noPen = 0x80000008;
@@ -103,7 +83,6 @@ private:
     void TakeScaledBitsWithUsage(const RecordFields& fields) { AddScaledBits(fields, 6); }
 
     void AddPoints(std::uint32_t type, const RecordFields& fields);
-    void AddText(std::int64_t x, std::int64_t y, Bytes letters);
     void AddScaledBits(const RecordFields& fields, std::size_t numbers);
     void AddBits(const FieldBox& source, const FieldBox& target, Bytes bitmap);
     std::int64_t NewHandle(bool isPen);
@@ -214,19 +193,12 @@ void Translation::TakeFont(const RecordFields& fields)
 {
     constexpr std::size_t nameOffset = 18;
     constexpr std::size_t nameLength = 32;
-    constexpr std::size_t fontSize = 320; // with what an enhanced font knows besides
     const Bytes name = fields.From(nameOffset, nameLength);
-    std::vector<std::uint8_t> rest(fields.From(10, 8).begin(), fields.From(10, 8).end());
-    rest.resize(8);
-    const std::vector<std::uint8_t> letters = WideText(
-        name.first(static_cast<std::size_t>(std::find(name.begin(), name.end(), std::uint8_t{0}) - name.begin())));
-    rest.insert(rest.end(), letters.begin(),
-                letters.begin() + static_cast<std::ptrdiff_t>(std::min(letters.size(), 2 * (nameLength - 1))));
-    rest.resize(fontSize - 20);
-    m_writer.Add(
-        createFont,
-        {NewHandle(false), fields.Signed(0), fields.Signed(2), fields.Signed(4), fields.Signed(6), fields.Signed(8)},
-        rest);
+    m_writer.AddFont(
+        NewHandle(false), {fields.Signed(0), fields.Signed(2), fields.Signed(4), fields.Signed(6), fields.Signed(8)},
+        fields.From(10, 8),
+        WideText(
+            name.first(static_cast<std::size_t>(std::find(name.begin(), name.end(), std::uint8_t{0}) - name.begin()))));
 }
 
 void Translation::TakeSelection(const RecordFields& fields)
@@ -273,29 +245,18 @@ void Translation::TakePolygons(const RecordFields& fields)
     }
 }
 
-void Translation::AddText(std::int64_t x, std::int64_t y, Bytes letters)
-{
-    constexpr std::int64_t fixedSize = 76;        // of the record before the letters
-    constexpr std::int64_t oneToOne = 0x3F800000; // as a 32-bit float
-    const std::vector<std::uint8_t> wide = WideText(letters);
-    const auto count = static_cast<std::int64_t>(wide.size() / 2);
-    if (count > 0) {
-        m_writer.Add(textOut, {0, 0, 0, 0, 1, oneToOne, oneToOne, x, y, count, fixedSize, 0, 0, 0, 0, 0, 0}, wide);
-    }
-}
-
 void Translation::TakeText(const RecordFields& fields)
 {
     const std::size_t length = fields.Word(0);
     const std::size_t behind = 2 + length + length % 2;
-    AddText(fields.Signed(behind + 2), fields.Signed(behind), fields.From(2, length));
+    m_writer.AddText(fields.Signed(behind + 2), fields.Signed(behind), WideText(fields.From(2, length)));
 }
 
 void Translation::TakeTextInBox(const RecordFields& fields)
 {
     constexpr unsigned hasBox = 0x6;
     const std::size_t begin = (fields.Word(6) & hasBox) != 0 ? 16 : 8;
-    AddText(fields.Signed(2), fields.Signed(0), fields.From(begin, fields.Word(4)));
+    m_writer.AddText(fields.Signed(2), fields.Signed(0), WideText(fields.From(begin, fields.Word(4))));
 }
 
 void Translation::TakeFill(const RecordFields& fields)

@@ -23,7 +23,7 @@ void DrawPicture(QPainter& painter, const Picture& picture, const QRectF& target
     if (target.isEmpty() || picture.PixelWidth() <= 0 || picture.PixelHeight() <= 0) {
         return;
     }
-    const QImage& image = ImageFor(picture, target.size().toSize(), mask);
+    const QImage image = ImageFor(picture, target.size().toSize(), mask);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != target.size().toSize());
     painter.drawImage(target, image, QRectF(image.rect()));
 }
@@ -35,7 +35,7 @@ void DrawTiles(QPainter& painter, const DeviceSpace& space, const Picture& pictu
     if (size.isEmpty()) {
         return;
     }
-    const QImage& tile = ImageFor(picture, size.toSize(), mask);
+    const QImage tile = ImageFor(picture, size.toSize(), mask);
     QBrush brush(tile);
     brush.setTransform(QTransform::fromScale(size.width() / tile.width(), size.height() / tile.height()) *
                        QTransform::fromTranslate(area.left(), area.top()));

@@ -4,10 +4,22 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
+#include <QString>
+
+#include <chrono>
 
 namespace quor {
 
-// Null if the process can't be started, takes too long, or ends in any way but with the whole picture.
-QImage DrawMetafile(const QByteArray& bytes, const QSize& size);
+struct DrawnMetafile {
+    QImage image; // null if it wasn't drawn
+    std::chrono::milliseconds time{};
+};
+
+// Where the program that draws lies: beside this one.
+QString MetafileProgram();
+
+// Null if the program can't be started, takes longer than `most`, or ends in any way but with the whole picture.
+DrawnMetafile DrawMetafile(const QString& program, const QByteArray& bytes, const QSize& size,
+                           std::chrono::milliseconds most);
 
 } // namespace quor

@@ -1,43 +1,67 @@
 #include "qt/ports/qt_picture.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace quor {
 
 namespace {
 
-constexpr qint64 mostPixelsDrawn = 16'000'000;
+constexpr qint64 mostPixelsScaled = 16'000'000;
+
+qint64 PixelsOf(const QSize& size)
+{
+    return qint64{size.width()} * size.height();
+}
 
 QImage WithoutColor(const QImage& image, Rgb mask)
 {
-    QImage shown = image.convertToFormat(QImage::Format_ARGB32);
-    const QRgb color = qRgb(mask.red, mask.green, mask.blue) & RGB_MASK;
+    QImage shown = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < shown.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(shown.scanLine(y));
-        std::replace_if(
-            line, line + shown.width(), [&](QRgb pixel) { return (pixel & RGB_MASK) == color; }, 0U);
+        for (QRgb* pixel = line; pixel != line + shown.width(); ++pixel) {
+            if (*pixel == qPremultiply(qRgba(mask.red, mask.green, mask.blue, qAlpha(*pixel)))) {
+                *pixel = 0;
+            }
+        }
     }
-    return shown;
-}
-
-QImage ImageToDraw(const QImage& image, const QSize& size, std::optional<Rgb> mask)
-{
-    QImage shown = mask ? WithoutColor(image, *mask) : image;
-    if (size != shown.size() && qint64{size.width()} * size.height() <= mostPixelsDrawn) {
-        shown = shown.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    shown.convertTo(shown.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     return shown;
 }
 
 } // namespace
 
-const QImage& QtPicture::Drawn(const QSize& size, std::optional<Rgb> mask) const
+QtPicture::QtPicture(std::string path, QImage image, const QSize& size, std::shared_ptr<PictureMemory> memory)
+    : m_path(std::move(path)), m_image(std::move(image)), m_size(size), m_memory(std::move(memory)),
+      m_number(++m_memory->lastPicture)
 {
-    if (m_drawn.image.isNull() || m_drawn.size != size || m_drawn.mask != mask) {
-        m_drawn = {size, mask, ImageToDraw(m_image, size, mask)};
+    m_image.convertTo(m_image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    m_memory->pixels += PixelsOf(m_image.size());
+}
+
+QtPicture::~QtPicture()
+{
+    m_memory->pixels -= PixelsOf(m_image.size());
+    if (m_memory->pixels == 0) {
+        m_memory->drawn.clear();
     }
-    return m_drawn.image;
+}
+
+QImage QtPicture::Drawn(const QSize& size, std::optional<Rgb> mask) const
+{
+    const bool isScaled = size != m_image.size() && PixelsOf(size) <= mostPixelsScaled;
+    if (!isScaled && !mask) {
+        return m_image;
+    }
+    const PictureMemory::Form form{m_number, size, mask};
+    if (const QImage* kept = m_memory->drawn.object(form)) {
+        return *kept;
+    }
+    QImage shown = mask ? WithoutColor(m_image, *mask) : m_image;
+    if (isScaled) {
+        shown = shown.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        shown.convertTo(shown.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    }
+    m_memory->drawn.insert(form, new QImage(shown), static_cast<qsizetype>(PixelsOf(shown.size())));
+    return shown;
 }
 
 } // namespace quor
