@@ -4,8 +4,11 @@
 #include "apps/tool/view_tool.h"
 #include "posix/disk_files.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -89,6 +92,43 @@ TEST_F(Render, AScaleBelowOneShrinksTheWholeView)
     }
     EXPECT_NEAR(half.width(), whole.width() / 2, 1);
     EXPECT_LT(difference / half.width() / half.height(), 8);
+}
+
+TEST_F(Render, TellsWhichPicturesAreMissing)
+{
+    Rendered("picture.qvw", {});
+    const std::string told = errors.str();
+    EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 2) << told;
+    for (const char* name : {"coast.jpg", "logo.bmp"}) {
+        EXPECT_NE(told.find(name + std::string(" isn't shown: File not found\n")), std::string::npos) << told;
+    }
+    Rendered("round_led.qvw", {});
+    EXPECT_EQ(errors.str(), "");
+}
+
+// The toolkit's folder of the run is made in it where the session has none.
+TEST_F(Render, LeavesNothingInTheTemporaryFolder)
+{
+    const QTemporaryDir temporary;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove("XDG_RUNTIME_DIR");
+    environment.insert("TMPDIR", temporary.path());
+    const QString programs = QCoreApplication::applicationDirPath();
+    const struct {
+        QString program;
+        QStringList arguments;
+        QString input;
+    } cases[] = {{"/quor-view-tool", {"render", QUOR_TEST_DATA "/samples/round_led.qvw", target}, "/dev/null"},
+                 {"/quor-draw-metafile", {"60", "80", "30000"}, QUOR_TEST_DATA "/pictures/door.emf"}};
+    for (const auto& each : cases) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.setStandardInputFile(each.input);
+        process.start(programs + each.program, each.arguments);
+        process.waitForFinished();
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        EXPECT_TRUE(QDir(temporary.path()).isEmpty()) << each.program.toStdString();
+    }
 }
 
 TEST_F(Render, RefusesInOneLineAndWritesNothing)

@@ -1,4 +1,5 @@
 #include "apps/tool/view_renderer.h"
+#include "base/failure.h"
 #include "qt/canvas/canvas_painting.h"
 #include "qt/ports/qt_pictures.h"
 
@@ -13,6 +14,40 @@ namespace quor {
 
 namespace {
 
+// While it lives, the toolkit finds no place for the folder of the run, which it makes in the temporary one where the
+// session has none, and leaves.
+class NoFolderOfTheRun {
+public:
+    NoFolderOfTheRun()
+    {
+        for (Variable& each : m_variables) {
+            each.wasSet = qEnvironmentVariableIsSet(each.name);
+            each.value = qgetenv(each.name);
+            qputenv(each.name, "/dev/null");
+        }
+    }
+    ~NoFolderOfTheRun()
+    {
+        for (const Variable& each : m_variables) {
+            if (each.wasSet) {
+                qputenv(each.name, each.value);
+            } else {
+                qunsetenv(each.name);
+            }
+        }
+    }
+    NoFolderOfTheRun(const NoFolderOfTheRun&) = delete;
+    NoFolderOfTheRun& operator=(const NoFolderOfTheRun&) = delete;
+
+private:
+    struct Variable {
+        const char* name;
+        bool wasSet = false;
+        QByteArray value;
+    };
+    std::array<Variable, 2> m_variables = {{{"XDG_RUNTIME_DIR", false, {}}, {"TMPDIR", false, {}}}};
+};
+
 // The toolkit, on a screen in memory, unless the program has one already.
 class Toolkit {
 public:
@@ -22,6 +57,7 @@ public:
             qputenv("QT_QPA_PLATFORM", "offscreen");
             qInstallMessageHandler(
                 [](QtMsgType /*type*/, const QMessageLogContext& /*from*/, const QString& /*text*/) {});
+            const NoFolderOfTheRun none;
             m_application = std::make_unique<QGuiApplication>(m_count, m_arguments.data());
         }
     }
@@ -46,6 +82,9 @@ public:
         Start();
         const QSize size(width, height);
         QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+        if (image.isNull()) {
+            throw Failure(failures::outOfMemory);
+        }
         QPainter painter(&image);
         painter.scale(scale, scale); // the image's own ratio can't be below 1
         const QRect all(QPoint(0, 0), size);

@@ -8,6 +8,7 @@
 #include "platform/pictures.h"
 #include "platform/timer.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace quor {
@@ -51,6 +52,32 @@ public:
 class NoTimers final : public Timers {
 public:
     std::unique_ptr<Timer> Make() override { throw Failure(failures::invalidCall); }
+};
+
+// Pictures of which it is kept what didn't load, in a sentence a file.
+class WatchedPictures final : public Pictures {
+public:
+    explicit WatchedPictures(Pictures& pictures) : m_pictures(pictures) {}
+
+    const std::vector<std::string>& Missing() const noexcept { return m_missing; }
+
+    PictureRef LoadPicture(const std::string& path) override
+    {
+        try {
+            return m_pictures.LoadPicture(path);
+        } catch (const Failure& failure) {
+            std::string words = "the picture " + path + " isn't shown: " + failure.Description();
+            if (std::find(m_missing.begin(), m_missing.end(), words) == m_missing.end()) {
+                m_missing.push_back(std::move(words));
+            }
+            throw;
+        }
+    }
+    void BeginView() override { m_pictures.BeginView(); }
+
+private:
+    Pictures& m_pictures;
+    std::vector<std::string> m_missing;
 };
 
 // Every picture loads, and is empty.

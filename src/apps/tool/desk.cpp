@@ -77,7 +77,6 @@ std::string Desk::Verdict() const
     return std::string(WordFor(m_view.Verdict())) + (told.empty() ? "" : ": " + told);
 }
 
-// The failures and messages so far.
 std::string Desk::Told() const
 {
     std::string told;

@@ -40,9 +40,10 @@ public:
     // How the last load ended, with the reason if there is one.
     std::string Verdict() const;
 
-private:
+    // The failures and messages so far.
     std::string Told() const;
 
+private:
     KeptBoxes m_boxes;
     KeptReports m_reports;
     NoForms m_forms;

@@ -149,9 +149,17 @@ void ViewTool::WriteWhole(const std::string& path, std::span<const std::uint8_t>
 void ViewTool::Render(std::span<const std::string> arguments)
 {
     const RenderJob job = ParseRenderJob(arguments);
-    Desk desk(m_files, &m_renderer->PictureFiles());
+    WatchedPictures pictures(m_renderer->PictureFiles());
+    Desk desk(m_files, &pictures);
     desk.Load(job.from);
     WriteWhole(job.to, RenderedPng(desk, job, *m_renderer));
+    std::vector<std::string> words = pictures.Missing();
+    if (const std::string told = desk.Told(); !told.empty()) {
+        words.push_back(told);
+    }
+    for (const std::string& each : words) {
+        m_errors << OneLine(job.from + ": " + each) << '\n';
+    }
 }
 
 } // namespace quor
