@@ -65,6 +65,21 @@ inline char32_t Next(std::string_view& text) noexcept
     return first;
 }
 
+// Neither a control character nor one that turns the direction of writing, or begins a line, for what follows it.
+bool IsHarmless(char32_t character) noexcept
+{
+    const auto isWithin = [&](char32_t first, char32_t last) { return character >= first && character <= last; };
+    return character != noCharacter && !isWithin(0, 0x1F) && !isWithin(0x7F, 0x9F) && character != 0x061C &&
+           !isWithin(0x200E, 0x200F) && !isWithin(0x2028, 0x202E) && !isWithin(0x2066, 0x2069);
+}
+
+void AppendHex(std::string& text, unsigned value, unsigned digits)
+{
+    while (digits-- > 0) {
+        text += "0123456789abcdef"[(value >> (4 * digits)) & 15U];
+    }
+}
+
 std::uint8_t AnsiByte(char32_t character) noexcept
 {
     if (character < 0x80 || (character >= 0xA0 && character < 0x100)) {
@@ -204,6 +219,25 @@ std::string_view TrimBlanks(std::string_view text) noexcept
     const std::size_t first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view()
                                            : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string Escaped(std::string_view text)
+{
+    std::string escaped;
+    while (!text.empty()) {
+        const std::string_view before = text;
+        const char32_t character = Next(text);
+        if (IsHarmless(character)) {
+            escaped += before.substr(0, before.size() - text.size());
+        } else if (character < 0x80 || character == noCharacter) {
+            escaped += "\\x";
+            AppendHex(escaped, static_cast<unsigned char>(before.front()), 2);
+        } else {
+            escaped += "\\u";
+            AppendHex(escaped, character, 4);
+        }
+    }
+    return escaped;
 }
 
 std::string Decimal(double number)

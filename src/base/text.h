@@ -43,6 +43,10 @@ std::string FitField(std::string_view text, std::size_t width);
 // Without blanks on both ends.
 std::string_view TrimBlanks(std::string_view text) noexcept;
 
+// What is safe to show on one line: control characters, those that turn the direction of writing, and bytes that are no
+// UTF-8 come as "\x1b" or "\u202e".
+std::string Escaped(std::string_view text);
+
 // The shortest decimal text that reads back as the number, never with an exponent: "12", "-0.5".
 std::string Decimal(double number);
 std::string Decimal(float number);

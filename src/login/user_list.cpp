@@ -61,14 +61,23 @@ bool ReadRights(std::string_view text, std::set<std::int16_t>& rights)
     if (text == "-") {
         return true;
     }
-    do {
-        std::int16_t right = 0;
-        if (!TakeNumber(text, right) || right < 1) {
+    for (std::size_t end = 0; end != std::string_view::npos; text.remove_prefix(end == text.npos ? 0 : end + 1)) {
+        end = text.find(',');
+        const auto right = ReadRight(text.substr(0, end));
+        if (!right) {
             return false;
         }
-        rights.insert(right);
-    } while (TakeWord(text, ","));
-    return text.empty();
+        rights.insert(*right);
+    }
+    return true;
+}
+
+// As a line of the file can hold it, and as names once were: a user whose name would be refused today isn't locked out.
+bool CanBeKept(std::string_view name)
+{
+    const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' ' || letter == 0x7F; };
+    const std::size_t length = CharacterCount(name);
+    return length >= 1 && length <= longestName && TrimBlanks(name) == name && std::ranges::none_of(name, isControl);
 }
 
 // Empty if the line tells a user.
@@ -84,7 +93,7 @@ std::string ReadUser(std::string_view line, UserList& users)
     if (!ReadRights(rights, user.rights)) {
         return "the rights are no numbers with commas between them.";
     }
-    if (!IsUserName(user.name)) {
+    if (!CanBeKept(user.name)) {
         return "there is no name.";
     }
     if (FindUser(users, user.name) != nullptr) {
@@ -98,9 +107,13 @@ std::string ReadUser(std::string_view line, UserList& users)
 
 bool IsUserName(std::string_view name)
 {
-    const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' ' || letter == 0x7F; };
-    const std::size_t length = CharacterCount(name);
-    return length >= 1 && length <= longestName && TrimBlanks(name) == name && std::ranges::none_of(name, isControl);
+    return CanBeKept(name) && Escaped(name) == name;
+}
+
+std::optional<std::int16_t> ReadRight(std::string_view text)
+{
+    std::int16_t right = 0;
+    return TakeNumber(text, right) && text.empty() && right >= 1 ? std::optional(right) : std::nullopt;
 }
 
 const User* FindUser(const UserList& users, std::string_view name)
@@ -153,6 +166,20 @@ UserList LoadUsers(Files& files, const std::string& path)
     }
     const std::vector<std::uint8_t> text = ReadWhole(*file);
     return ReadUsers({reinterpret_cast<const char*>(text.data()), text.size()});
+}
+
+bool HasNoUsers(Files& files, const UserPlace& place)
+{
+    if (!files.IsAbsent(place.File())) {
+        return false;
+    }
+    if (files.IsAbsent(place.config) && !files.IsAbsent(place.Note())) {
+        throw Failure(failures::pathNotFound, "The folder \"" + place.config +
+                                                  "\" is gone, though users were kept in it. Bring it back or, if "
+                                                  "nobody has to log on any more, delete the file \"" +
+                                                  place.Note() + "\".");
+    }
+    return true;
 }
 
 } // namespace quor

@@ -1,6 +1,6 @@
 #include "login/user_login.h"
 
-#include "base/failure.h"
+#include "base/guard.h"
 #include "base/values.h"
 #include "login/frm_log_on.h"
 #include "platform/boxes.h"
@@ -14,8 +14,8 @@ namespace {
 constexpr int answerDelay = 10; // milliseconds
 }
 
-UserLogin::UserLogin(const Ports& ports, std::string path)
-    : m_ports(ports), m_path(std::move(path)), tmrAnswer(ports.timers.Make())
+UserLogin::UserLogin(const Ports& ports, UserPlace place)
+    : m_ports(ports), m_place(std::move(place)), tmrAnswer(ports.timers.Make())
 {
     tmrAnswer->SetInterval(answerDelay);
     m_onAnswer = tmrAnswer->Fired.Subscribe([this] {
@@ -29,7 +29,8 @@ UserLogin::~UserLogin() = default;
 bool UserLogin::IsOpen()
 {
     if (!m_isOpen) {
-        m_isOpen = !m_ports.files.FileExists(m_path);
+        m_isOpen = false;
+        IgnoreFailure([this] { m_isOpen = HasNoUsers(m_ports.files, m_place); }); // ShowLogOn tells of it
     }
     return *m_isOpen;
 }
@@ -66,9 +67,10 @@ void UserLogin::ShowLogOn(bool /*show*/)
     }
     UserList users;
     try {
-        users = LoadUsers(m_ports.files, m_path);
+        HasNoUsers(m_ports.files, m_place);
+        users = LoadUsers(m_ports.files, m_place.File());
     } catch (...) {
-        m_ports.boxes.Show("The users of the file \"" + m_path + "\" cannot be read, so nobody can log on. " +
+        m_ports.boxes.Show("The users of the file \"" + m_place.File() + "\" cannot be read, so nobody can log on. " +
                                CurrentFailure().Description(),
                            std::string(appTitle), BoxButtons::Ok);
         AnswerLater(false);

@@ -1,6 +1,6 @@
 #pragma once
-// The login that needs nothing outside: users of a file on this machine. Without that file whoever sits at the desktop
-// is logged on and holds all rights.
+// The login that needs nothing outside: users of a file on this machine. If there is surely no such file, whoever sits
+// at the desktop is logged on and holds all rights.
 
 #include "login/user_list.h"
 #include "platform/login.h"
@@ -28,7 +28,7 @@ public:
         PasswordHasher& hasher;
     };
 
-    UserLogin(const Ports& ports, std::string path);
+    UserLogin(const Ports& ports, UserPlace place);
     ~UserLogin() override;
 
     // Ends the session of who is logged on, if there is a file of users.
@@ -40,12 +40,12 @@ public:
     bool HasPrivilege(std::int16_t right) override;
 
 private:
-    bool IsOpen(); // there is no file of users
+    bool IsOpen(); // there is surely no file of users
     bool Check(const UserList& users, const std::string& name, const std::string& password);
     void AnswerLater(bool success);
 
     Ports m_ports;
-    std::string m_path;
+    UserPlace m_place;
     std::optional<bool> m_isOpen;
     std::optional<User> m_user;
     int m_failures = 0;

@@ -39,6 +39,11 @@ public:
     virtual ~Files() = default;
 
     virtual bool FileExists(const std::string& path) = 0;
+
+    // Whether surely nothing has that name: neither a file, nor a folder, nor a link, be it one that leads nowhere.
+    // Fails where that can't be told, as for a folder on the way that may not be searched or isn't one.
+    virtual bool IsAbsent(const std::string& path) = 0;
+
     virtual std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) = 0;
 
     // A new file with the permissions and the owner of another; its bytes outlive a loss of power once it is closed.

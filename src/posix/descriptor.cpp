@@ -69,7 +69,8 @@ Descriptor::Descriptor(std::string path, int flags, unsigned mode) : m_path(std:
         if (error != 0) {
             Fail(error, m_path);
         }
-        throw Failure(failures::pathFileAccess, "This is no regular file.");
+        throw Failure(failures::pathFileAccess,
+                      S_ISDIR(status.st_mode) ? "This is a folder." : "This is no regular file.");
     }
 }
 

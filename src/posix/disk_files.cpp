@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -109,6 +110,28 @@ bool DiskFiles::FileExists(const std::string& path)
 {
     struct stat status {};
     return path.find('\0') == std::string::npos && stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+bool DiskFiles::IsAbsent(const std::string& path)
+{
+    struct stat status {};
+    if (path.find('\0') != std::string::npos) {
+        posix::Fail(EINVAL, path);
+    }
+    if (lstat(path.c_str(), &status) == 0) {
+        return false;
+    }
+    if (errno != ENOENT) {
+        posix::Fail(errno, path);
+    }
+    const std::string folder = std::filesystem::path(path).parent_path().string();
+    if (folder.empty() || folder == path || IsAbsent(folder)) {
+        return true;
+    }
+    if (stat(folder.c_str(), &status) != 0) { // a link whose goal may come back, such as a disk that isn't mounted
+        posix::Fail(errno, folder);
+    }
+    return true;
 }
 
 std::unique_ptr<OpenFile> DiskFiles::Open(const std::string& path, OpenMode mode)

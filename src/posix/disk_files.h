@@ -10,6 +10,7 @@ namespace quor {
 class DiskFiles final : public Files {
 public:
     bool FileExists(const std::string& path) override; // true for all that is no folder
+    bool IsAbsent(const std::string& path) override;
     std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
     std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) override;
     void CopyFile(const std::string& from, const std::string& to) override;

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string_view>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 #include <unistd.h>
 #include <vector>
 
@@ -163,6 +164,14 @@ void WriteInPlace(const Descriptor& source, const std::string& path)
     }
 }
 
+// Whether the folder's links are the system's words for files that some process has open: they name no place.
+bool IsOfProcesses(const std::string& folder)
+{
+    constexpr auto processes = 0x9FA0; // as the system tells file systems apart
+    struct statfs status {};
+    return statfs(folder.c_str(), &status) == 0 && status.f_type == processes;
+}
+
 } // namespace
 
 std::string FollowLinks(std::string path)
@@ -176,6 +185,9 @@ std::string FollowLinks(std::string path)
                 return path;
             }
             Fail(errno, path);
+        }
+        if (IsOfProcesses(FolderOf(path))) {
+            throw Failure(failures::pathFileAccess, "This is no regular file.");
         }
         const std::string_view target(buffer.data(), static_cast<std::size_t>(length));
         path = target.starts_with('/') ? std::string() : FolderOf(path);

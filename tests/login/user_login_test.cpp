@@ -1,3 +1,4 @@
+#include "base/failure.h"
 #include "login/frm_log_on.h"
 #include "login/user_login.h"
 #include "platform/password_hash.h"
@@ -33,7 +34,7 @@ struct TheLogin : testing::Test {
     FakeForms forms{timers};
     FakeBoxes boxes;
     PlainHasher hasher;
-    UserLogin login{{files, forms, timers, boxes, hasher}, "users"};
+    UserLogin login{{files, forms, timers, boxes, hasher}, {"config", "state"}};
     std::vector<bool> answers;
     Subscription answered = login.LogOn.Subscribe([this](bool success) { answers.push_back(success); });
 
@@ -59,9 +60,29 @@ TEST_F(TheLogin, LetsTheDesktopUserInWithoutAFile)
     EXPECT_TRUE(login.HasPrivilege(rights::editViews));
 }
 
+TEST_F(TheLogin, LetsNobodyInWhereUsersMayBe)
+{
+    for (const std::string words : {"Permission denied", "File not found", "state/users-kept"}) {
+        FakeFiles own;
+        own.PutText(words.starts_with("File") ? "config/users/a file of a folder" : "state/users-kept", "");
+        for (int n = 1; words.starts_with("Perm") && n <= 2; ++n) {
+            own.planned.Plan("absent", n, failures::permissionDenied);
+        }
+        boxes.shown.clear();
+        UserLogin shut({own, forms, timers, boxes, hasher}, {"config", "state"});
+        EXPECT_FALSE(shut.IsLoggedOn() || shut.HasPrivilege(rights::editViews)) << words;
+        shut.ShowLogOn(true);
+        ASSERT_EQ(boxes.shown.size(), 1U) << words;
+        EXPECT_NE(boxes.shown[0].text.find(words), std::string::npos) << boxes.shown[0].text;
+    }
+    files.PutText("state/users-kept", "");
+    files.PutText("config/view-editor.ini", "");
+    EXPECT_TRUE(login.IsLoggedOn()) << "who deleted the file itself did so on purpose";
+}
+
 TEST_F(TheLogin, KnowsAUserWithTheRightsOfTheFile)
 {
-    files.PutText("users", file);
+    files.PutText("config/users", file);
     EXPECT_FALSE(login.IsLoggedOn());
     EXPECT_FALSE(login.HasPrivilege(1));
     login.ShowLogOn(true);
@@ -75,7 +96,7 @@ TEST_F(TheLogin, KnowsAUserWithTheRightsOfTheFile)
 
 TEST_F(TheLogin, TellsNoStrangerFromAWrongPassword)
 {
-    files.PutText("users", file);
+    files.PutText("config/users", file);
     login.ShowLogOn(true);
     Try("Ada Holm", "wrong");
     const std::string words = "The user or the password is not right.";
@@ -94,7 +115,7 @@ TEST_F(TheLogin, TellsNoStrangerFromAWrongPassword)
 
 TEST_F(TheLogin, PausesLongerAfterEachFailureAndAnewInTheNextDialog)
 {
-    files.PutText("users", file);
+    files.PutText("config/users", file);
     login.ShowLogOn(true);
     Try("Ada Holm", "wrong");
     Try("Ada Holm", "secret");
@@ -133,8 +154,8 @@ TEST_F(TheLogin, LetsNobodyInByADamagedFile)
         file + hashStart + "x 1 Bo\n",
     };
     for (const std::string& fault : faults) {
-        files.PutText("users", fault);
-        UserLogin damaged({files, forms, timers, boxes, hasher}, "users");
+        files.PutText("config/users", fault);
+        UserLogin damaged({files, forms, timers, boxes, hasher}, {"config", "state"});
         const Subscription end = damaged.LogOn.Subscribe([this](bool success) { answers.push_back(success); });
         boxes.shown.clear();
         damaged.ShowLogOn(true);

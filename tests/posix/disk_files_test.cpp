@@ -1,12 +1,14 @@
 #include "base/failure.h"
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
+#include "posix/user_folders.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <pwd.h>
 #include <random>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -175,6 +177,46 @@ TEST_F(OnDisk, ACopyKeepsPermissionsOwnerAndLinksOfItsTarget)
     umask(mask);
     EXPECT_EQ(ModeOf(Path("made")), 0640U);
     EXPECT_EQ(EntryCount(), 6U);
+}
+
+TEST_F(OnDisk, AbsentIsOnlyWhatSurelyIsNotThere)
+{
+    fs::create_directory(Path("folder"));
+    Put("file", "");
+    fs::create_symlink("nowhere", Path("dangling"));
+    fs::create_symlink("loop", Path("loop"));
+    fs::create_symlink("folder", Path("link"));
+    for (const char* absent : {"none", "none/deeper/still", "folder/none", "link/none"}) {
+        EXPECT_TRUE(files.IsAbsent(Path(absent))) << absent;
+    }
+    for (const char* there : {"folder", "file", "dangling", "loop", "link"}) {
+        EXPECT_FALSE(files.IsAbsent(Path(there))) << there;
+    }
+    for (const char* unknown : {"file/none", "dangling/none", "dangling/none/deeper", "loop/none"}) {
+        EXPECT_NE(FailureOf([&] { files.IsAbsent(Path(unknown)); }), 0) << unknown;
+    }
+    fs::permissions(Path("folder"), fs::perms::none);
+    const uid_t user = geteuid();
+    const bool isPrivileged = user == 0 && seteuid(65534) == 0;
+    EXPECT_EQ(FailureOf([&] { files.IsAbsent(Path("folder/none")); }), failures::permissionDenied);
+    EXPECT_TRUE(!isPrivileged || seteuid(user) == 0);
+}
+
+TEST(TheUsersFolders, AreAbsoluteAndTheSameForAllPrograms)
+{
+    const char* before = std::getenv("HOME");
+    const std::string home = before == nullptr ? "/" : before;
+    for (const auto& [own, config, expected] :
+         {std::tuple{"/home/ada", "", std::string("/home/ada/.config/quor")},
+          {"/home/ada", "rel", "/home/ada/.config/quor"},
+          {"/home/ada", "/etc/ada", "/etc/ada/quor"},
+          {"rel", "rel", getpwuid(getuid())->pw_dir + std::string("/.config/quor")}}) {
+        setenv("HOME", own, 1);
+        setenv("XDG_CONFIG_HOME", config, 1);
+        EXPECT_EQ(ConfigFolder(), expected);
+    }
+    setenv("HOME", home.c_str(), 1);
+    unsetenv("XDG_CONFIG_HOME");
 }
 
 std::string Attribute(const std::string& path, const char* name)

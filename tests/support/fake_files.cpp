@@ -119,6 +119,13 @@ bool FakeFiles::FileExists(const std::string& path)
     return Has(path);
 }
 
+bool FakeFiles::IsAbsent(const std::string& path)
+{
+    Call("absent", Quoted(path));
+    const auto next = m_files.lower_bound(path + '/');
+    return !Has(path) && (next == m_files.end() || !next->first.starts_with(path + '/'));
+}
+
 std::unique_ptr<OpenFile> FakeFiles::Open(const std::string& path, OpenMode mode)
 {
     constexpr std::string_view modes[] = {"read", "create", "scratch", "append"};

@@ -16,7 +16,7 @@ class FakeFiles final : public Files {
 public:
     using Bytes = std::vector<std::uint8_t>;
 
-    PlannedFailures planned;          // exists, open, read, write, copy, move, delete
+    PlannedFailures planned;          // exists, absent, open, read, write, copy, move, delete
     Event<const std::string&> Called; // each operation, as `files.copy "a" "b"`
     std::string spareFolder;          // none
 
@@ -31,6 +31,7 @@ public:
     std::vector<std::string> Paths() const;    // sorted
 
     bool FileExists(const std::string& path) override;
+    bool IsAbsent(const std::string& path) override;
     std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
     std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) override;
     void CopyFile(const std::string& from, const std::string& to) override;

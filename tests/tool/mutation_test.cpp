@@ -82,6 +82,10 @@ TEST_F(MutatedFiles, LoadOrFailAndWhatLoadsIsSavedAlike)
         const std::string dumped = out.str();
         EXPECT_EQ(Run({"dump", "b.qvw"}), 0);
         EXPECT_EQ(out.str(), dumped) << round;
+        files.PutText("a.json", dumped);
+        const Bytes saved = files.Get("b.qvw");
+        EXPECT_EQ(Run({"build", "a.json", "b.qvw"}), 0) << errors.str();
+        EXPECT_EQ(files.Get("b.qvw"), saved) << round;
         files.Erase("b.qvw");
     }
     EXPECT_GT(sound, 100);

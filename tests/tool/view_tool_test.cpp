@@ -1,5 +1,10 @@
 #include "base/text.h"
+#include "posix/disk_files.h"
 #include "tests/tool/tool_case.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
 
 namespace quor {
 namespace {
@@ -67,18 +72,58 @@ TEST_F(Tool, BuildsDumpsAndResavesTheSameBytes)
     }
 }
 
-TEST_F(Tool, KeepsEveryFloat)
+TEST_F(Tool, KeepsEveryFloatAndEverySizeOfAFont)
 {
-    const std::string text = SampleText("leds_30.json");
-    const std::size_t at = text.find("\"ObjWidth\": ") + sizeof "\"ObjWidth\":";
-    for (const std::string number : {"0.1", "-0.0", "\"NaN\"", "\"Infinity\"", "\"-Infinity\"", "3.4028235e+38",
-                                     "1e-45", "16777216.0", "12345.678"}) {
-        std::string edited = text;
-        files.PutText("a.json", edited.replace(at, text.find(',', at) - at, number));
-        ASSERT_EQ(Run({"build", "a.json", "a.qvw"}), 0) << errors.str();
-        ASSERT_EQ(Run({"dump", "a.qvw"}), 0);
-        EXPECT_NE(out.str().find("\"ObjWidth\": " + number + ','), std::string::npos) << number;
+    const std::tuple<const char*, std::string, std::vector<std::string>> cases[] = {
+        {"leds_30.json",
+         "\"ObjWidth\": ",
+         {"0.1", "-0.0", "\"NaN\"", "\"NaN(7fa00001)\"", "\"NaN(ffc00000)\"", "\"Infinity\"", "\"-Infinity\"",
+          "3.4028235e+38", "1e-45", "16777216.0", "12345.678"}},
+        {"label.json",
+         "\"Size\": ",
+         {"8.25", "-0.0001", "\"922337203685477.5807\"", "\"-922337203685477.5808\"", "\"922337203685477.0001\""}},
+    };
+    for (const auto& [name, key, numbers] : cases) {
+        const std::string text = SampleText(name);
+        const std::size_t at = text.find(key) + key.size();
+        for (const std::string& number : numbers) {
+            std::string edited = text;
+            files.PutText("a.json", edited.replace(at, text.find(',', at) - at, number));
+            ASSERT_EQ(Run({"build", "a.json", "a.qvw"}), 0) << errors.str();
+            ASSERT_EQ(Run({"dump", "a.qvw"}), 0);
+            EXPECT_NE(out.str().find(key + number + ','), std::string::npos) << number;
+        }
     }
+}
+
+TEST_F(Tool, SaysThatTheNamesAreTooMany)
+{
+    const std::string text = Replaced(SampleText("round_led.json"), "LED (Round) 1", std::string(20'000, 'a'));
+    files.PutText("a.json", Replaced(text, "LED (Round) 2", std::string(20'000, 'b')));
+    EXPECT_EQ(Run({"build", "a.json", "a.qvw"}), 2);
+    EXPECT_NE(errors.str().find("names of the elements take more than 32767 bytes"), std::string::npos) << errors.str();
+}
+
+TEST(ToolOnTheDisk, TellsFoldersAndOddNamesAndReplacesNothingThatIsNoFile)
+{
+    DiskFiles files;
+    std::ostringstream out;
+    std::ostringstream errors;
+    const std::string folder = std::filesystem::temp_directory_path() / files.TempName();
+    const std::string odd = folder + "/a\n\x1B[2J.qvw";
+    std::filesystem::create_directory(folder);
+    std::filesystem::copy_file(QUOR_TEST_DATA "/samples/round_led.qvw", odd);
+    ViewTool tool(files, out, errors);
+    EXPECT_EQ(tool.Run(std::vector<std::string>{"check", folder, odd}), 1);
+    EXPECT_EQ(out.str(), folder + ": load-failure: This is a folder.\n" + folder + "/a\\x0a\\x1b[2J.qvw: ok\n");
+    const std::string other = folder + "/other";
+    const int opened = open(other.c_str(), O_CREAT | O_WRONLY, 0600);
+    for (const std::string target : {"/dev/fd/", "/proc/self/fd/"}) {
+        EXPECT_EQ(tool.Run(std::vector{std::string("resave"), odd, target + std::to_string(opened)}), 2);
+        EXPECT_EQ(std::filesystem::file_size(other), 0U) << target;
+    }
+    close(opened);
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(Tool, KeepsEveryCharacterOfTheCodePage)
@@ -101,8 +146,13 @@ TEST_F(Tool, NamesTheKeyThatIsWrongAndWritesNothing)
         const char* by;
         const char* line;
     } cases[] = {
-        {"{", "", "[json.exception.parse_error"},
-        {"{", "[{", "[json.exception.parse_error"},
+        {"{", "", "Line 2, column 12: from here on this is no JSON."},
+        {"{", "[{", "Line 556, column 1: the text ends too early."},
+        {"\"Gallery\"", "\"\xFF\"", "Line 3, column 19: from here on this is no JSON."},
+        {"\"Unit\": 0", "\"Unit\": 0, \"Unit\": 0", "Elements[0].ClickAction.Unit is there twice."},
+        {"\"ObjWidth\": 255.0", "\"ObjWidth\": 1e999", "Elements[0].ObjWidth is out of range."},
+        {"\"ObjWidth\": 255.0", "\"ObjWidth\": \"NaN(3f800000)\"", "Elements[0]: ObjWidth is no number."},
+        {"\"BGPicMode\"", "\"M\\u001b\\u202e\": 1, \"BGPicMode\"", "M\\x1b\\u202e is no key here."},
         {"\"BGColor\": -2147483633", "\"BGColor\": -2147483649", "BGColor is out of range."},
         {"\"BGColor\": -2147483633", "\"BGColor\": 2147483648", "BGColor is out of range."},
         {"\"BGColor\": -2147483633", "\"BGColor\": 1.5", "BGColor is no whole number."},
@@ -115,7 +165,8 @@ TEST_F(Tool, NamesTheKeyThatIsWrongAndWritesNothing)
         {"\"ObjWidth\": 255.0", "\"ObjWidth\": 1e39", "Elements[0]: ObjWidth is out of range."},
         {"\"ObjWidth\": 255.0", "\"ObjWidth\": \"nan\"", "Elements[0]: ObjWidth is no number."},
         {"\"ObjName\": \"LED (Round) 1\"", "\"ObjName\": 1", "Elements[0]: ObjName is no text."},
-        {"\"ObjName\": \"LED (Round) 1\"", "\"ObjName\": \"a\\u0000b\"", "Elements[0]: ObjName has a character"},
+        {"\"ObjName\": \"LED (Round) 1\"", "\"ObjName\": \"a\\u0000b\"",
+         "Elements[0]: ObjName has a character of the number 0"},
         {"\"LED (Round) 2\"", "\"led (round) 1\"", "Elements[1]: This key is already in use"},
         {"\"Unit\": 0", "\"Unit\": 256", "Elements[0]: ClickAction.Unit is out of range."},
         {"\"CtrlClick\": false", "\"Ctrl\": false", "Elements[0]: ClickAction.CtrlClick is missing."},

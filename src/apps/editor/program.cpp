@@ -1,33 +1,24 @@
 #include "apps/editor/program.h"
 
 #include "editor/main_form.h"
+#include "posix/user_folders.h"
 #include "qt/ports/qt_text.h"
 #include "qt/window/main_window.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QStandardPaths>
 #include <QTimer>
 
 namespace quor {
 
 namespace {
 
-// The user's folder for state, where the log goes if the program's own can't be written.
-std::string StateFolder()
+// Where the log goes if the program's own folder can't be written.
+std::string LogFolder()
 {
-    QString base = qEnvironmentVariable("XDG_STATE_HOME");
-    if (base.isEmpty()) {
-        base = QDir::homePath() + QStringLiteral("/.local/state");
-    }
-    const QString folder = base + QStringLiteral("/quor");
-    QDir().mkpath(folder);
-    return FromQt(folder);
-}
-
-std::string ConfigFolder()
-{
-    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) + "/quor";
+    std::string folder = StateFolder();
+    QDir().mkpath(ToQt(folder));
+    return folder;
 }
 
 // The user's own sites, else those that lie beside the program.
@@ -42,9 +33,9 @@ constexpr std::uint64_t seed = 1; // the simulation is the same at each start
 } // namespace
 
 Program::Program(std::string tail)
-    : m_login({m_files, m_forms, m_timers, m_boxes, m_hasher}, ConfigFolder() + "/users"),
+    : m_login({m_files, m_forms, m_timers, m_boxes, m_hasher}, {ConfigFolder(), StateFolder()}),
       m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
-                 StateFolder()),
+                 LogFolder()),
       m_sites(m_files, m_boxes, SitesPaths()), m_server(m_timers, m_sites.Plan(), seed),
       m_application(Ports(), std::move(tail))
 {

@@ -1,6 +1,8 @@
 #include "apps/tool/desk.h"
 
+#include "base/text.h"
 #include "document/kinds.h"
+#include "platform/files.h"
 
 #include <algorithm>
 
@@ -18,9 +20,9 @@ Canvas& WithArrays(Canvas& canvas)
 
 std::string OneLine(std::string text)
 {
-    std::replace_if(
-        text.begin(), text.end(), [](char letter) { return static_cast<unsigned char>(letter) < ' '; }, ' ');
-    return text;
+    std::ranges::replace(text, '\r', ' ');
+    std::ranges::replace(text, '\n', ' ');
+    return Escaped(text);
 }
 
 std::string_view WordFor(LoadVerdict verdict)
@@ -44,22 +46,37 @@ std::string_view WordFor(LoadVerdict verdict)
 }
 
 Desk::Desk(Files& files, Pictures* pictures)
-    : m_live{true}, m_view({.files = files,
-                            .boxes = m_boxes,
-                            .reporter = m_reports,
-                            .forms = m_forms,
-                            .timers = m_timers,
-                            .pictures = pictures == nullptr ? m_pictures : *pictures,
-                            .progress = m_progress,
-                            .live = m_live},
-                           WithArrays(m_canvas))
+    : m_files(files), m_live{true}, m_view({.files = files,
+                                            .boxes = m_boxes,
+                                            .reporter = m_reports,
+                                            .forms = m_forms,
+                                            .timers = m_timers,
+                                            .pictures = pictures == nullptr ? m_pictures : *pictures,
+                                            .progress = m_progress,
+                                            .live = m_live},
+                                           WithArrays(m_canvas))
 {
     m_live.PictureFiles = pictures;
 }
 
+bool Desk::TryLoad(const std::string& path)
+{
+    const bool isLoaded = m_view.LoadFile(path);
+    if (m_view.Verdict() == LoadVerdict::Missing) { // or what the document takes for it
+        try {
+            if (!m_files.IsAbsent(path)) {
+                m_files.Open(path, OpenMode::Read);
+            }
+        } catch (...) {
+            m_boxes.texts = {CurrentFailure().Description()};
+        }
+    }
+    return isLoaded;
+}
+
 void Desk::Load(const std::string& path)
 {
-    if (!m_view.LoadFile(path)) {
+    if (!TryLoad(path)) {
         throw Refusal{Verdict()};
     }
 }

@@ -17,7 +17,7 @@ struct Refusal {
     std::string reason;
 };
 
-// Without line breaks and other control characters.
+// Safe to show on one line: breaks are blanks, other control characters escapes.
 std::string OneLine(std::string text);
 
 std::string_view WordFor(LoadVerdict verdict);
@@ -29,6 +29,8 @@ public:
 
     clsCustView& View() noexcept { return m_view; }
     const Canvas& Shown() const noexcept { return m_canvas; }
+
+    bool TryLoad(const std::string& path);
 
     // Refuses what the document refuses.
     void Load(const std::string& path);
@@ -44,6 +46,7 @@ public:
     std::string Told() const;
 
 private:
+    Files& m_files;
     KeptBoxes m_boxes;
     KeptReports m_reports;
     NoForms m_forms;

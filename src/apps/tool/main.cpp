@@ -21,7 +21,7 @@ int Run(quor::DiskFiles& files, std::span<const std::string> words)
     }
     quor::SodiumHasher hasher;
     const quor::UserTool::Ports ports{files, hasher, quor::AskNewPassword, std::cout, std::cerr};
-    return quor::UserTool(ports, quor::ConfigFolder() + "/users").Run(words.subspan(1));
+    return quor::UserTool(ports, {quor::ConfigFolder(), quor::StateFolder()}).Run(words.subspan(1));
 }
 
 } // namespace

@@ -2,8 +2,13 @@
 
 #include "base/failure.h"
 
+#include <array>
+#include <cerrno>
 #include <csignal>
 #include <iostream>
+#include <optional>
+#include <sys/poll.h>
+#include <sys/signalfd.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -11,66 +16,110 @@ namespace quor {
 
 namespace {
 
-// The terminal shows nothing of what is typed while it lives. An interruption ends the line that is being read, so that
-// the terminal shows again what is typed.
+// Holds back what would end or stop the program; it comes at the end of this object's life.
+class HeldSignals {
+public:
+    HeldSignals()
+    {
+        sigset_t held;
+        sigemptyset(&held);
+        for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP}) {
+            sigaddset(&held, number);
+        }
+        pthread_sigmask(SIG_BLOCK, &held, &m_before);
+        m_waiting = signalfd(-1, &held, SFD_CLOEXEC);
+    }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+    ~HeldSignals()
+    {
+        close(m_waiting);
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+
+    // A file that can be read when a signal waits; reading would take the signal away.
+    int Waiting() const noexcept { return m_waiting; }
+
+private:
+    sigset_t m_before{};
+    int m_waiting;
+};
+
+// The terminal shows nothing of what is typed while it lives.
 class NoEcho {
 public:
     NoEcho()
     {
-        m_isSet = tcgetattr(STDIN_FILENO, &m_before) == 0;
+        bool isSet = tcgetattr(STDIN_FILENO, &m_before) == 0;
         termios silent = m_before;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        struct sigaction ending {};
-        ending.sa_handler = [](int) {};
-        sigaction(SIGINT, &ending, &m_interrupt);
-        m_isSet = m_isSet && tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent) == 0;
-        if (!m_isSet) {
+        isSet = isSet && tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent) == 0;
+        if (!isSet) {
             throw Failure(failures::invalidCall, "The terminal can't hide a password.");
         }
     }
     NoEcho(const NoEcho&) = delete;
     NoEcho& operator=(const NoEcho&) = delete;
-    ~NoEcho()
-    {
-        tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before);
-        sigaction(SIGINT, &m_interrupt, nullptr);
-    }
+    ~NoEcho() { tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
 
 private:
     termios m_before{};
-    struct sigaction m_interrupt {};
-    bool m_isSet;
 };
 
-std::string ReadLine()
+[[noreturn]] void FailWithoutPassword()
 {
-    std::string line;
-    if (!std::getline(std::cin, line)) {
-        throw Failure(failures::invalidCall, "There is no password.");
-    }
-    return line;
+    throw Failure(failures::invalidCall, "There is no password.");
 }
 
+// A line without its end, of a terminal that gives whole lines. Nothing if a signal came first.
+std::optional<std::string> TypedLine(const HeldSignals& signals)
+{
+    std::array<pollfd, 2> sources{{{signals.Waiting(), POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}}};
+    while (poll(sources.data(), sources.size(), -1) < 0) {
+        if (errno != EINTR) {
+            FailWithoutPassword();
+        }
+    }
+    if (sources[0].revents != 0) {
+        return std::nullopt;
+    }
+    std::array<char, 4096> line; // a terminal gives no longer one
+    const ssize_t length = read(STDIN_FILENO, line.data(), line.size());
+    if (length <= 0) {
+        FailWithoutPassword();
+    }
+    const std::string text(line.data(), static_cast<std::size_t>(length));
+    return text.ends_with('\n') ? text.substr(0, text.size() - 1) : text;
+}
+
+// Asks again where the program was stopped and goes on.
 std::string Ask(const char* question)
 {
-    std::cerr << question << std::flush;
-    std::string line;
-    {
-        const NoEcho noEcho;
-        line = ReadLine();
+    std::optional<std::string> line;
+    while (!line) {
+        const HeldSignals signals;
+        {
+            const NoEcho noEcho;
+            std::cerr << question << std::flush;
+            line = TypedLine(signals);
+        }
+        std::cerr << std::endl;
     }
-    std::cerr << '\n';
-    return line;
+    return *line;
 }
 
 } // namespace
 
 std::string AskNewPassword()
 {
+    std::string password;
     if (isatty(STDIN_FILENO) == 0) {
-        return ReadLine();
+        if (!std::getline(std::cin, password)) {
+            FailWithoutPassword();
+        }
+        return password;
     }
-    std::string password = Ask("Password: ");
+    password = Ask("Password: ");
     if (Ask("The same again: ") != password) {
         throw Failure(failures::invalidCall, "The two passwords differ.");
     }

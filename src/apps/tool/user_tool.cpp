@@ -2,11 +2,13 @@
 
 #include "apps/tool/signal_hold.h"
 #include "base/guard.h"
+#include "base/text.h"
 #include "platform/files.h"
+#include "platform/login.h"
 #include "platform/password_hash.h"
+#include "posix/file_lock.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <ostream>
 #include <sys/stat.h>
@@ -15,8 +17,10 @@ namespace quor {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::string_view usage = "usage: quor-view-tool user add NAME [RIGHT...] | user remove NAME | user list | "
-                                   "user passwd NAME | user rights NAME [RIGHT...]";
+                                   "user passwd NAME | user rights NAME [RIGHT... | none]";
 constexpr std::size_t longestPassword = 1024;
 
 struct Refusal {
@@ -27,17 +31,32 @@ std::set<std::int16_t> ReadRights(std::span<const std::string> words)
 {
     std::set<std::int16_t> rights;
     for (const std::string& word : words) {
-        std::int16_t right = 0;
-        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), right);
-        if (error != std::errc() || end != word.data() + word.size() || right < 1) {
+        const auto right = ReadRight(word);
+        if (!right) {
             throw Refusal{"a right is a number from 1: " + word};
         }
-        rights.insert(right);
+        rights.insert(*right);
     }
     return rights;
 }
 
-// New files are their owner's alone while it lives.
+User& Find(UserList& users, const std::string& name)
+{
+    const auto user = std::ranges::find(users, name, &User::name);
+    if (user == users.end()) {
+        throw Refusal{"there is no user " + name};
+    }
+    return *user;
+}
+
+void MustBeFree(const UserList& users, const std::string& name)
+{
+    if (FindUser(users, name) != nullptr) {
+        throw Refusal{"there is a user " + name + " already"};
+    }
+}
+
+// New files and folders are their owner's alone while it lives.
 class OwnerOnly {
 public:
     OwnerOnly() : m_before(umask(S_IRWXG | S_IRWXO)) {}
@@ -49,6 +68,14 @@ private:
     mode_t m_before;
 };
 
+// Beside the file itself, to which several links may lead.
+std::string LockFor(const std::string& path)
+{
+    std::error_code error;
+    const fs::path file = fs::weakly_canonical(path, error);
+    return (error ? path : file.string()) + ".lock";
+}
+
 } // namespace
 
 int UserTool::Run(std::span<const std::string> words)
@@ -59,9 +86,11 @@ int UserTool::Run(std::span<const std::string> words)
         }
         m_ports.errors << usage << '\n';
     } catch (const Refusal& refusal) {
-        m_ports.errors << refusal.reason << '\n';
+        m_ports.errors << Escaped(refusal.reason) << '\n';
+    } catch (const fs::filesystem_error& error) {
+        m_ports.errors << Escaped(m_place.File() + ": " + error.code().message()) << '\n';
     } catch (...) {
-        m_ports.errors << m_path << ": " << CurrentFailure().Description() << '\n';
+        m_ports.errors << Escaped(m_place.File() + ": " + CurrentFailure().Description()) << '\n';
     }
     return 2;
 }
@@ -71,7 +100,10 @@ bool UserTool::RunCommand(std::span<const std::string> words)
     const std::string command = words.empty() ? "" : words[0];
     if (command == "add" && words.size() >= 2) {
         Add(words[1], words.subspan(2));
-    } else if (command == "rights" && words.size() >= 2) {
+    } else if (command == "rights" && words.size() == 2) {
+        UserList users = Load();
+        ShowRights(Find(users, words[1]));
+    } else if (command == "rights" && words.size() > 2) {
         ChangeRights(words[1], words.subspan(2));
     } else if (command == "remove" && words.size() == 2) {
         Remove(words[1]);
@@ -87,27 +119,23 @@ bool UserTool::RunCommand(std::span<const std::string> words)
 
 UserList UserTool::Load()
 {
-    return m_ports.files.FileExists(m_path) ? LoadUsers(m_ports.files, m_path) : UserList{};
+    return HasNoUsers(m_ports.files, m_place) ? UserList{} : LoadUsers(m_ports.files, m_place.File());
 }
 
 // The whole file in one step; readable by its owner alone, also if it wasn't before.
 void UserTool::Save(const UserList& users)
 {
-    namespace fs = std::filesystem;
     const std::string text = WriteUsers(users);
     const SignalHold hold;
-    const OwnerOnly ownerOnly;
-    const fs::path folder = fs::path(m_path).parent_path();
-    fs::create_directories(folder);
-    if (fs::exists(m_path)) {
-        fs::permissions(m_path, fs::perms::owner_read | fs::perms::owner_write);
+    if (fs::exists(m_place.File())) {
+        fs::permissions(m_place.File(), fs::perms::owner_read | fs::perms::owner_write);
     }
-    const std::string scratch = (folder / m_ports.files.TempName()).string();
+    const std::string scratch = m_place.config + '/' + m_ports.files.TempName();
     const std::unique_ptr<OpenFile> file = m_ports.files.Open(scratch, OpenMode::Scratch);
     try {
         file->Write(0, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
         file->Close();
-        m_ports.files.CopyFile(scratch, m_path);
+        m_ports.files.CopyFile(scratch, m_place.File());
     } catch (...) {
         IgnoreFailure([&] { m_ports.files.DeleteFile(scratch); });
         throw;
@@ -117,61 +145,107 @@ void UserTool::Save(const UserList& users)
     }
 }
 
-User& UserTool::Find(UserList& users, const std::string& name)
+// Without the note the users are as safe as their folder, so a note that can't be kept is no failure of the command.
+void UserTool::KeepNote(bool hasUsers)
 {
-    const auto user = std::ranges::find(users, name, &User::name);
-    if (user == users.end()) {
-        throw Refusal{"there is no user " + name};
+    const std::string note = m_place.Note();
+    try {
+        const bool isKept = !m_ports.files.IsAbsent(note);
+        if (isKept && !hasUsers) {
+            m_ports.files.DeleteFile(note);
+        } else if (!isKept && hasUsers) {
+            fs::create_directories(m_place.state);
+            m_ports.files.Open(note, OpenMode::Create)->Close();
+        }
+    } catch (...) {
+        m_ports.errors << Escaped("done, but the file " + note + " cannot be " + (hasUsers ? "made" : "deleted"))
+                       << '\n';
     }
-    return *user;
 }
 
-void UserTool::Add(const std::string& name, std::span<const std::string> rights)
+void UserTool::Change(const std::function<void(UserList&)>& change)
 {
+    UserList trial =
+        Load(); // before a folder is made: what is refused leaves none behind, nor in the place of one gone
+    change(trial);
+    const OwnerOnly ownerOnly;
+    fs::create_directories(m_place.config);
+    const posix::FileLock lock(LockFor(m_place.File()));
     UserList users = Load();
-    if (!IsUserName(name)) {
-        throw Refusal{"a name has 1 to 64 characters, and no blank at its ends"};
-    }
-    if (FindUser(users, name) != nullptr) {
-        throw Refusal{"there is a user " + name + " already"};
-    }
-    User user{name, ReadRights(rights), {}};
-    users.push_back(std::move(user));
-    ChangePassword(users.back());
+    change(users);
     Save(users);
+    KeepNote(!users.empty());
 }
 
-void UserTool::ChangePassword(User& user)
+std::string UserTool::NewHash()
 {
     const std::string password = m_ports.askPassword();
     if (password.empty() || password.size() > longestPassword) {
         throw Refusal{"a password has 1 to 1024 bytes"};
     }
-    user.hash = m_ports.hasher.Hash(password);
+    return m_ports.hasher.Hash(password);
+}
+
+// What can be refused is refused before somebody types a password, but all is looked at once more after it: that may
+// take minutes, in which others change the file.
+void UserTool::Add(const std::string& name, std::span<const std::string> rights)
+{
+    if (!IsUserName(name)) {
+        throw Refusal{"a name has 1 to 64 characters that can be shown, and no blank at its ends"};
+    }
+    MustBeFree(Load(), name);
+    User user{name, ReadRights(rights), {}};
+    user.hash = NewHash();
+    Change([&](UserList& users) {
+        MustBeFree(users, name);
+        users.push_back(user);
+    });
+    TellIfLockedOut(user);
 }
 
 void UserTool::ChangePassword(const std::string& name)
 {
-    UserList users = Load();
-    ChangePassword(Find(users, name));
-    Save(users);
+    UserList before = Load();
+    Find(before, name);
+    const std::string hash = NewHash();
+    Change([&](UserList& users) { Find(users, name).hash = hash; });
 }
 
-void UserTool::ChangeRights(const std::string& name, std::span<const std::string> rights)
+void UserTool::ShowRights(const User& user)
 {
-    UserList users = Load();
-    Find(users, name).rights = ReadRights(rights);
-    Save(users);
+    m_ports.out << Escaped(user.name) << ':';
+    for (const std::int16_t right : user.rights) {
+        m_ports.out << ' ' << right;
+    }
+    m_ports.out << '\n';
+}
+
+void UserTool::ChangeRights(const std::string& name, std::span<const std::string> words)
+{
+    const bool isNone = words.size() == 1 && words.front() == "none";
+    const User user{name, isNone ? std::set<std::int16_t>() : ReadRights(words), {}};
+    Change([&](UserList& users) { Find(users, name).rights = user.rights; });
+    TellIfLockedOut(user);
+}
+
+void UserTool::TellIfLockedOut(const User& user)
+{
+    if (!user.rights.contains(rights::editViews)) {
+        m_ports.out << Escaped(user.name) << " can't open the editor, which takes the right " << rights::editViews
+                    << '\n';
+    }
 }
 
 void UserTool::Remove(const std::string& name)
 {
-    UserList users = Load();
-    Find(users, name);
-    std::erase_if(users, [&](const User& user) { return user.name == name; });
-    Save(users);
-    if (users.empty()) {
-        m_ports.out << "no user is left, so nobody can log on; without the file " << m_path
+    bool isLast = false;
+    Change([&](UserList& users) {
+        Find(users, name);
+        std::erase_if(users, [&](const User& user) { return user.name == name; });
+        isLast = users.empty();
+    });
+    if (isLast) {
+        m_ports.out << "no user is left, so nobody can log on; without the file " << Escaped(m_place.File())
                     << " whoever sits at the desktop is logged on\n";
     }
 }
@@ -179,11 +253,7 @@ void UserTool::Remove(const std::string& name)
 void UserTool::List()
 {
     for (const User& user : Load()) {
-        m_ports.out << user.name << ':';
-        for (const std::int16_t right : user.rights) {
-            m_ports.out << ' ' << right;
-        }
-        m_ports.out << '\n';
+        ShowRights(user);
     }
 }
 

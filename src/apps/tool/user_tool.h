@@ -23,27 +23,31 @@ public:
         std::ostream& errors;
     };
 
-    // The path is that of the file; its folder is made where it is missing.
-    UserTool(const Ports& ports, std::string path) : m_ports(ports), m_path(std::move(path)) {}
+    // The folders are made where they are missing.
+    UserTool(const Ports& ports, UserPlace place) : m_ports(ports), m_place(std::move(place)) {}
 
     // The words behind "user". The exit code: 0, or 2 (with one line on `errors`) if the command could not run; then
-    // the file is as it was.
+    // the file is as it was. Of several processes that change it at the same time each does so on what the one before
+    // it has left.
     int Run(std::span<const std::string> words);
 
 private:
     bool RunCommand(std::span<const std::string> words);
     UserList Load();
     void Save(const UserList& users);
-    User& Find(UserList& users, const std::string& name);
+    void KeepNote(bool hasUsers);
+    void Change(const std::function<void(UserList&)>& change);
+    std::string NewHash();
     void Add(const std::string& name, std::span<const std::string> rights);
     void Remove(const std::string& name);
     void List();
-    void ChangePassword(User& user);
     void ChangePassword(const std::string& name);
+    void ShowRights(const User& user);
     void ChangeRights(const std::string& name, std::span<const std::string> rights);
+    void TellIfLockedOut(const User& user);
 
     Ports m_ports;
-    std::string m_path;
+    UserPlace m_place;
 };
 
 } // namespace quor

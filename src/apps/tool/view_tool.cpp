@@ -6,6 +6,7 @@
 #include "apps/tool/view_renderer.h"
 #include "apps/view_json/view_json.h"
 #include "base/guard.h"
+#include "base/text.h"
 #include "document/format/container.h"
 #include "document/format/upgrade.h"
 #include "platform/scratch_file.h"
@@ -26,13 +27,13 @@ constexpr std::string_view noRender = " (this build can't render: it is one with
 
 int ViewTool::Run(std::span<const std::string> arguments)
 {
-    const std::string subject = arguments.size() < 2 ? "" : arguments[1] + ": ";
+    const std::string subject = arguments.size() < 2 ? "" : Escaped(arguments[1]) + ": ";
     try {
         return RunCommand(arguments);
     } catch (const Refusal& refusal) {
-        m_errors << OneLine(subject + refusal.reason) << '\n';
+        m_errors << subject << OneLine(refusal.reason) << '\n';
     } catch (...) {
-        m_errors << OneLine(subject + CurrentFailure().Description()) << '\n';
+        m_errors << subject << OneLine(CurrentFailure().Description()) << '\n';
     }
     return 2;
 }
@@ -67,8 +68,8 @@ int ViewTool::Check(std::span<const std::string> paths)
     bool allAreSound = true;
     for (const std::string& path : paths) {
         Desk desk(m_files);
-        allAreSound = desk.View().LoadFile(path) && allAreSound;
-        m_out << path << ": " << desk.Verdict() << '\n';
+        allAreSound = desk.TryLoad(path) && allAreSound;
+        m_out << Escaped(path) << ": " << desk.Verdict() << '\n';
     }
     return allAreSound ? 0 : 1;
 }

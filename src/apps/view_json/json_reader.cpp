@@ -1,11 +1,11 @@
 #include "apps/view_json/json_reader.h"
 
+#include "apps/view_json/exact_numbers.h"
 #include "base/failure.h"
-#include "base/narrow.h"
 #include "base/text.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -13,13 +13,11 @@ namespace quor {
 
 namespace {
 
-constexpr double sizeUnits = 10'000; // of a font, to a point
-
 bool IsStorable(const std::string& text)
 {
     std::vector<std::uint8_t> bytes;
     AppendAnsi(bytes, text);
-    return text.find('\0') == std::string::npos && FromAnsi(bytes) == text;
+    return FromAnsi(bytes) == text;
 }
 
 } // namespace
@@ -77,9 +75,8 @@ template <class Number> Number JsonReader::WholeNumber(std::string_view name)
     return value.get<Number>();
 }
 
-double JsonReader::Number(std::string_view name)
+double JsonReader::Number(const Json& value, std::string_view name) const
 {
-    const Json& value = Take(name);
     if (!value.is_number()) {
         Fail(failures::typeMismatch, name, "is no number");
     }
@@ -98,6 +95,9 @@ std::string JsonReader::TakeText(std::string_view name)
         Fail(failures::typeMismatch, name, "is no text");
     }
     auto text = value.get<std::string>();
+    if (text.find('\0') != std::string::npos) {
+        Fail(failures::overflow, name, "has a character of the number 0, which ends a text in a file");
+    }
     if (!IsStorable(text)) {
         Fail(failures::overflow, name, "has a character that windows-1252 lacks");
     }
@@ -144,20 +144,16 @@ void JsonReader::Field(std::string_view name, std::int32_t& value)
 
 void JsonReader::Field(std::string_view name, float& value)
 {
-    constexpr std::pair<std::string_view, float> noNumbers[] = {
-        {"NaN", std::numeric_limits<float>::quiet_NaN()},
-        {"Infinity", std::numeric_limits<float>::infinity()},
-        {"-Infinity", -std::numeric_limits<float>::infinity()},
-    };
-    for (const auto& [text, number] : noNumbers) {
-        const auto found = m_levels.back().object->find(std::string(name));
-        if (found != m_levels.back().object->end() && *found == text) {
-            Take(name);
-            value = number;
-            return;
+    const Json& found = Take(name);
+    if (found.is_string()) {
+        const auto special = ReadNoNumber(found.get_ref<const std::string&>());
+        if (!special) {
+            Fail(failures::typeMismatch, name, "is no number");
         }
+        value = *special;
+        return;
     }
-    const double number = Number(name);
+    const double number = Number(found, name);
     if (std::isinf(static_cast<float>(number))) {
         Fail(failures::overflow, name, "is out of range");
     }
@@ -180,11 +176,13 @@ void JsonReader::Field(std::string_view name, Font& value)
     Field("Charset", value.Charset);
     Field("Italic", value.Italic);
     Field("Name", value.Name);
-    const double size = RoundHalfEven(Number("Size") * sizeUnits);
-    if (!(std::abs(size) < 0x1p63)) {
-        Fail(failures::overflow, "Size", "is out of range");
+    const Json& found = Take("Size");
+    const bool isText = found.is_string();
+    const auto size = isText ? ReadSize(found.get_ref<const std::string&>()) : SizeOfPoints(Number(found, "Size"));
+    if (!size) {
+        Fail(failures::overflow, "Size", isText ? "is no size of a font" : "is out of range");
     }
-    value.Size = static_cast<std::int64_t>(size);
+    value.Size = *size;
     Field("Strikethrough", value.Strikethrough);
     Field("Underline", value.Underline);
     value.SetWeight(weight);

@@ -48,7 +48,7 @@ private:
 
     const Json& Take(std::string_view name);
     template <class Number> Number WholeNumber(std::string_view name);
-    double Number(std::string_view name);
+    double Number(const Json& value, std::string_view name) const;
     [[noreturn]] void Fail(std::int32_t number, std::string_view name, std::string_view words) const;
 
     std::vector<Level> m_levels; // the innermost last

@@ -1,5 +1,7 @@
 #include "apps/view_json/json_writer.h"
 
+#include "apps/view_json/exact_numbers.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -9,13 +11,11 @@ namespace quor {
 
 namespace {
 
-constexpr double sizeUnits = 10'000; // of a font, to a point
-
 // The number whose shortest text is the shortest that reads back as the same float.
 Json NumberOf(float value)
 {
     if (std::isnan(value)) {
-        return "NaN";
+        return NanText(value);
     }
     if (std::isinf(value)) {
         return value < 0 ? "-Infinity" : "Infinity";
@@ -25,6 +25,12 @@ Json NumberOf(float value)
     double number = 0;
     std::from_chars(text.data(), end, number);
     return number;
+}
+
+Json SizeOf(const Font& font)
+{
+    const double points = PointsOf(font.Size);
+    return SizeOfPoints(points) == font.Size ? Json(points) : Json(SizeText(font.Size));
 }
 
 } // namespace
@@ -74,7 +80,7 @@ void JsonWriter::Field(std::string_view name, Font& value)
     Member(name) = {{"Bold", value.Bold()},
                     {"Charset", value.Charset},
                     {"Italic", value.Italic},
-                    {"Size", static_cast<double>(value.Size) / sizeUnits},
+                    {"Size", SizeOf(value)},
                     {"Strikethrough", value.Strikethrough},
                     {"Underline", value.Underline},
                     {"Weight", value.Weight()},

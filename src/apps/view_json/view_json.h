@@ -10,7 +10,7 @@ namespace quor {
 class clsCustView;
 using Json = nlohmann::ordered_json;
 
-// Fails with 13 and says where the text is no JSON.
+// Fails with 13 and says where the text is no JSON, or has a key twice.
 Json ParseJson(std::string_view text);
 
 // One member a line, with a line break at the end.

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace quor {
 
@@ -134,7 +135,9 @@ void ContainerWriter::WriteRecord(std::span<const std::uint8_t> record, std::int
 {
     AddToSum(sum);
     AppendZString(m_names, name);
-    Narrow<std::int16_t>(m_names.size());
+    if (!std::in_range<std::int16_t>(m_names.size())) {
+        throw Failure(failures::overflow, "The names of the elements take more than 32767 bytes in all.");
+    }
     Append(record);
     Narrow<std::int32_t>(m_end - m_recordsAt);
 }

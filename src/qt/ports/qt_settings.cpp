@@ -1,6 +1,7 @@
 #include "qt/ports/qt_settings.h"
 
 #include "base/failure.h"
+#include "posix/user_folders.h"
 #include "qt/ports/qt_text.h"
 
 #include <QCoreApplication>
@@ -23,7 +24,7 @@ const QString helpKey = QStringLiteral("help/file");
 
 QString FirstToolbarDirectory()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quor");
+    return ToQt(DataFolder());
 }
 
 QString FirstHelpFile()
@@ -88,8 +89,7 @@ void QtSettings::Keep(const QString& key, const QVariant& value)
 
 QString QtSettings::DefaultPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/quor/view-editor.ini");
+    return ToQt(ConfigFolder()) + QStringLiteral("/view-editor.ini");
 }
 
 std::int32_t QtSettings::GridSize()
