@@ -36,7 +36,7 @@ Program::Program(std::string tail)
     : m_login({m_files, m_forms, m_timers, m_boxes, m_hasher}, {ConfigFolder(), StateFolder()}),
       m_reporter({m_files, m_forms, m_screen, m_clipboard, m_clock}, FromQt(QCoreApplication::applicationDirPath()),
                  LogFolder()),
-      m_sites(m_files, m_boxes, SitesPaths()), m_server(m_timers, m_sites.Plan(), seed),
+      m_sites(m_files, m_laterBoxes, SitesPaths()), m_server(m_timers, m_sites.Plan(), seed),
       m_application(Ports(), std::move(tail))
 {
     m_shown = m_application.MainFormShown.Subscribe([this](frmMain& main) { ShowWindow(main); });
@@ -73,6 +73,7 @@ void Program::ShowWindow(frmMain& main)
     m_forms.SetMainWindow(m_window.get());
     m_window->show();
     QTimer::singleShot(0, m_window.get(), [this] { // when the splash has gone
+        m_laterBoxes.Release();
         if (const std::string trouble = m_settings.Trouble(); !trouble.empty()) {
             m_boxes.Show(trouble, std::string(appTitle), BoxButtons::Ok);
         }

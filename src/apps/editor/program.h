@@ -1,6 +1,7 @@
 #pragma once
 // The whole program on the desktop: the ports, the application upon them, and its window.
 
+#include "apps/editor/later_boxes.h"
 #include "apps/login/sodium_hasher.h"
 #include "base/event.h"
 #include "binding/live.h"
@@ -61,6 +62,7 @@ private:
     DiskFiles m_files;
     SystemClock m_clock;
     QtBoxes m_boxes;
+    LaterBoxes m_laterBoxes{m_boxes};
     QtCommonDialog m_dialog;
     QtForms m_forms{m_theme};
     QtTimers m_timers;
