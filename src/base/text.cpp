@@ -9,7 +9,7 @@ namespace quor {
 namespace {
 
 // The characters of the bytes 0x80 to 0x9F; the others are equal to their byte.
-constexpr std::array<char32_t, 32> highControls = {
+constexpr std::array<char16_t, 32> highControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
@@ -120,6 +120,11 @@ template <class Number> std::string ShortestDecimal(Number number)
 
 } // namespace
 
+char16_t FromAnsi(std::uint8_t byte) noexcept
+{
+    return byte >= 0x80 && byte < 0xA0 ? highControls[byte - 0x80U] : byte;
+}
+
 std::string FromAnsi(std::span<const std::uint8_t> bytes)
 {
     if (std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte < 0x80; })) {
@@ -128,7 +133,7 @@ std::string FromAnsi(std::span<const std::uint8_t> bytes)
     std::string text;
     text.reserve(bytes.size() * 2);
     for (const std::uint8_t byte : bytes) {
-        AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? highControls.at(byte - 0x80U) : char32_t{byte});
+        AppendUtf8(text, FromAnsi(byte));
     }
     return text;
 }

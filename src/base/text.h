@@ -12,6 +12,9 @@
 
 namespace quor {
 
+// The character of a byte.
+char16_t FromAnsi(std::uint8_t byte) noexcept;
+
 // The characters of a byte text as UTF-8.
 std::string FromAnsi(std::span<const std::uint8_t> bytes);
 

@@ -29,6 +29,8 @@ EnhancedWriter::EnhancedWriter(double pixelWidth, double pixelHeight)
     constexpr double frameUnits = 2540 / 96.0; // hundredths of a millimetre in a pixel
     const auto width = static_cast<std::int64_t>(std::ceil(pixelWidth));
     const auto height = static_cast<std::int64_t>(std::ceil(pixelHeight));
+    // A frame of nothing would be no metafile.
+    const auto frame = [](double pixels) { return std::max<std::int64_t>(1, std::llround(pixels * frameUnits)); };
     // Bounds, frame, sign, version, length, records, handles, three that stay 0, and a device of 96 dots an inch.
     Add(enhanced_types::header, {0,
                                  0,
@@ -36,8 +38,8 @@ EnhancedWriter::EnhancedWriter(double pixelWidth, double pixelHeight)
                                  height - 1,
                                  0,
                                  0,
-                                 std::llround(pixelWidth * frameUnits),
-                                 std::llround(pixelHeight * frameUnits),
+                                 frame(pixelWidth),
+                                 frame(pixelHeight),
                                  sign,
                                  version,
                                  0,

@@ -5,8 +5,6 @@
 #include "apps/metafile/record_fields.h"
 #include "base/text.h"
 
-#include <QString>
-
 #include <algorithm>
 #include <array>
 #include <cmath>

@@ -2,8 +2,6 @@
 
 #include "base/text.h"
 
-#include <QString>
-
 #include <algorithm>
 
 namespace quor {
@@ -32,9 +30,14 @@ Bytes RecordFields::From(std::size_t offset, std::size_t count) const noexcept
 
 std::vector<std::uint8_t> WideText(Bytes letters)
 {
-    const QString text = QString::fromStdString(FromAnsi(letters));
-    const auto* begin = reinterpret_cast<const std::uint8_t*>(text.utf16());
-    return {begin, begin + 2 * text.size()};
+    std::vector<std::uint8_t> wide;
+    wide.reserve(2 * letters.size());
+    for (const std::uint8_t letter : letters) {
+        const char16_t character = FromAnsi(letter);
+        wide.push_back(static_cast<std::uint8_t>(character & 0xFFU));
+        wide.push_back(static_cast<std::uint8_t>(character >> 8U));
+    }
+    return wide;
 }
 
 std::size_t BitmapHeadSize(Bytes bitmap) noexcept
