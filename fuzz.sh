@@ -32,7 +32,7 @@ case "${1:-}" in
         ;;
     --keep)
         build fuzz "fuzz-$2"
-        fuzz "$2" -merge=1 -use_counters=0 -max_len=2000 "fuzz/corpus/$2" "build/fuzz/corpus/$2"
+        fuzz "$2" -merge=1 -use_counters=0 -max_len=1000 "fuzz/corpus/$2" "build/fuzz/corpus/$2"
         ;;
     *)
         [[ " ${names[*]} " == *" $1 "* ]] || { sed -n '2,5s/^# //p' "$0" >&2; exit 2; }

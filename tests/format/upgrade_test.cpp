@@ -56,21 +56,21 @@ TEST(AnOldFile, GrowsAtTheOffsetOfTheNewField)
         {UpgradeToVersion3, 2, 87, {0, 0, 0, 0}},
         {UpgradeToVersion3, 3, 21, {0, 0, 0}},
     };
-    for (const auto& [upgrade, type, offset, inserted] : cases) {
-        const auto shortest = static_cast<std::int16_t>(offset);
-        const auto growth = static_cast<std::int16_t>(inserted.size());
-        Bytes wanted = FileWith(type, shortest);
-        wanted.insert(wanted.end() - 4, inserted.begin(), inserted.end());
-        const Bytes grown = upgrade(FileWith(type, shortest));
+    for (const auto& each : cases) {
+        const auto shortest = static_cast<std::int16_t>(each.offset);
+        const auto growth = static_cast<std::int16_t>(each.inserted.size());
+        Bytes wanted = FileWith(each.type, shortest);
+        wanted.insert(wanted.end() - 4, each.inserted.begin(), each.inserted.end());
+        const Bytes grown = each.upgrade(FileWith(each.type, shortest));
         EXPECT_TRUE(std::equal(grown.begin() + 27, grown.end() - 4, wanted.begin() + 27, wanted.end() - 4));
         EXPECT_EQ(LoadNumber<std::int16_t>(&grown[25]), shortest + growth);
         EXPECT_EQ(LoadNumber<std::int32_t>(&grown[view_file::recordBlockSizeAt]), shortest + growth + 3);
 
         const auto longest = static_cast<std::int16_t>(32767 - growth);
-        EXPECT_EQ(FailureOf([&] { upgrade(FileWith(type, static_cast<std::int16_t>(shortest - 1))); }),
+        EXPECT_EQ(FailureOf([&] { each.upgrade(FileWith(each.type, static_cast<std::int16_t>(shortest - 1))); }),
                   failures::outOfRange);
-        EXPECT_EQ(FailureOf([&] { upgrade(FileWith(type, longest)); }), 0);
-        EXPECT_EQ(FailureOf([&] { upgrade(FileWith(type, static_cast<std::int16_t>(longest + 1))); }),
+        EXPECT_EQ(FailureOf([&] { each.upgrade(FileWith(each.type, longest)); }), 0);
+        EXPECT_EQ(FailureOf([&] { each.upgrade(FileWith(each.type, static_cast<std::int16_t>(longest + 1))); }),
                   failures::overflow);
     }
 }

@@ -16,8 +16,9 @@
 #include "tests/support/field_text.h"
 #include "tests/support/widget_journal.h"
 
+#include <algorithm>
 #include <bit>
-#include <ranges>
+#include <iterator>
 #include <sstream>
 
 namespace quor {
@@ -210,9 +211,11 @@ struct APage : EditorFixture {
         (put(dynamic_cast<E*>(&element)), ...);
     }
 
-    static auto RowsOf(std::string_view page)
+    static std::vector<PageRow> RowsOf(std::string_view page)
     {
-        return rows | std::views::filter([page](const PageRow& row) { return row.page == page; });
+        std::vector<PageRow> found;
+        std::ranges::copy_if(rows, std::back_inserter(found), [page](const PageRow& row) { return row.page == page; });
+        return found;
     }
 
     // A new element, selected, with a ground of its own.

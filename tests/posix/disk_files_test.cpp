@@ -141,10 +141,11 @@ TEST_F(OnDisk, OddPathsFailWithoutBlocking)
         {Path("file") + std::string("\0", 1), failures::pathFileAccess},
         {"", failures::fileNotFound},
     };
-    for (const auto& [path, number] : cases) {
-        EXPECT_EQ(FailureOf([&] { files.Open(path, OpenMode::Read); }), number) << path;
+    for (const auto& each : cases) {
+        const std::string& path = each.path;
+        EXPECT_EQ(FailureOf([&] { files.Open(path, OpenMode::Read); }), each.number) << path;
         EXPECT_NE(FailureOf([&] { files.CopyFile(path, Path("target")); }), 0) << path;
-        if (number != failures::fileNotFound) {
+        if (each.number != failures::fileNotFound) {
             EXPECT_NE(FailureOf([&] { files.CopyFile(Path("file"), path); }), 0) << path;
             EXPECT_NE(FailureOf([&] { files.Open(path, OpenMode::Create); }), 0) << path;
         }

@@ -121,9 +121,9 @@ TEST_F(AReporter, ShowsANegativeNumberByItsHexadecimalDigits)
 {
     const std::pair<std::int32_t, const char*> cases[] = {
         {-2147467259, "80004005"}, {-1, "FFFFFFFF"}, {0, "0"}, {2147483647, "2147483647"}};
-    for (const auto& [number, text] : cases) {
-        forms.does = [&](frmError& form) { EXPECT_EQ(form.lblErrNum.Caption(), text); };
-        reporter.ShowError({"m", number, "s", "d", 14001});
+    for (const auto& each : cases) {
+        forms.does = [&](frmError& form) { EXPECT_EQ(form.lblErrNum.Caption(), each.second); };
+        reporter.ShowError({"m", each.first, "s", "d", 14001});
     }
     EXPECT_EQ(forms.shown, 4);
 }
