@@ -66,8 +66,8 @@ bool FilterCalls()
     bool isMade = std::all_of(std::begin(allowedCalls), std::end(allowedCalls),
                               [&](int call) { return seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0) == 0; });
     // To end itself.
-    isMade = isMade && seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
-                                        SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
+    const scmp_arg_cmp itself{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()), 0};
+    isMade = isMade && seccomp_rule_add_array(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1, &itself) == 0;
     // For the threads that there are, too.
     return isMade && seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 && seccomp_load(filter.get()) == 0;
 }
