@@ -13,8 +13,6 @@ else()
   target_compile_options(quor_options INTERFACE -Wno-sign-conversion) # which is no part of GCC's -Wconversion
 endif()
 if(QUOR_SANITIZE)
-  # With the sanitizers' checks in between, GCC 12 takes members of the library's patterns for uninitialised.
-  target_compile_options(quor_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE} -fno-omit-frame-pointer
                                                 -fno-sanitize-recover=all)
   target_link_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE})

@@ -20,7 +20,7 @@ from pathlib import Path
 
 SAMPLES = Path(__file__).resolve().parent.parent / "data/samples"
 IGNORED = {"brk", "mmap", "munmap", "mprotect", "futex", "write", "exit_group", "geteuid", "rt_sigprocmask"}
-ACTIONS = ("error=EIO", "error=EACCES", "error=ENOSPC", "signal=SIGTERM", "signal=SIGKILL")
+ACTIONS = ("error=EIO", "error=EACCES", "error=ENOSPC", "signal=SIGTERM", "signal=SIGQUIT", "signal=SIGKILL")
 SCRATCH = re.compile(r"\.?quor[0-9a-f]{32}\.tmp")
 LIST = "system.posix_acl_access"
 # The owner and user 1234 read and write, the group and others nothing; the mask shows as the group's bits.

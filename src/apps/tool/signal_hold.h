@@ -12,7 +12,7 @@ public:
     {
         sigset_t held;
         sigemptyset(&held);
-        for (const int signal : {SIGHUP, SIGINT, SIGTERM}) {
+        for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) {
             sigaddset(&held, signal);
         }
         pthread_sigmask(SIG_BLOCK, &held, &m_before);
