@@ -71,6 +71,7 @@ TEST_F(TheLogonAtTheWindow, ComesAheadOfWhatIsToldAboutFiles)
 {
     const QString settings = folder + "/view-editor.ini";
     Write("sites.json", "none");
+    QFile::remove(settings); // of a test before this one
     ASSERT_EQ(mkfifo(settings.toLocal8Bit().constData(), 0600), 0) << "opened, it would block";
     QStringList met;
     const auto meet = [&](QWidget& dialog) {
