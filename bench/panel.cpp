@@ -5,8 +5,8 @@
 #include "bench/world.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
-#include "qt/canvas/canvas_view.h"
 #include "qt/theme/theme.h"
+#include "qt/window/canvas_view.h"
 #include "qt/window/main_window.h"
 
 #include <QApplication>

@@ -69,7 +69,7 @@ void World::Renew()
 {
     m_view.reset();
     m_view = std::make_unique<clsCustView>(
-        ViewPorts{m_files, m_boxes, m_reporter, m_forms, m_timers, m_pictures, m_progress, m_live}, m_canvas);
+        ViewPorts{m_files, m_boxes, m_reporter, m_timers, m_pictures, m_progress, m_live}, m_canvas);
 }
 
 EditorPorts World::PortsOfEditor()

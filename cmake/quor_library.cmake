@@ -1,5 +1,5 @@
-# One library a folder: quor_library(document/format LINKS base platform) makes document_format of all sources in
-# src/document/format. A library sees the folders that it names, and what those name.
+# One library a folder: quor_library(format LINKS base platform) makes format of all sources in
+# src/format. A library sees the folders that it names, and what those name.
 
 add_library(quor_options INTERFACE)
 target_include_directories(quor_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -16,6 +16,13 @@ if(QUOR_SANITIZE)
   target_compile_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE} -fno-omit-frame-pointer
                                                 -fno-sanitize-recover=all)
   target_link_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE})
+endif()
+
+# For targets with a precompiled header: without these ccache can't keep what is compiled with one.
+add_library(quor_precompiled INTERFACE)
+if(CCACHE)
+  target_compile_options(quor_precompiled INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess> "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 endif()
 
 function(quor_library folder)

@@ -1,8 +1,8 @@
 // A file of sites: a server that it tells answers each of its units and runs.
 
 #include "base/failure.h"
-#include "binding/simulator/simulated_server.h"
 #include "fuzz/harness.h"
+#include "servers/simulator/simulated_server.h"
 #include "tests/support/fake_timers.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -3,9 +3,9 @@
 
 #include "apps/tool/desk.h"
 #include "base/failure.h"
-#include "document/format/bytes.h"
-#include "document/format/container.h"
-#include "document/format/upgrade.h"
+#include "format/bytes.h"
+#include "format/container.h"
+#include "format/upgrade.h"
 #include "fuzz/harness.h"
 #include "tests/support/fake_files.h"
 

@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 source tools/build.sh
 
 folders=("$@")
-[ $# -gt 0 ] || folders=(document/format elements binding document)
+[ $# -gt 0 ] || folders=(format elements binding document)
 tools/install.sh build test coverage
 build coverage
 find build/coverage -name '*.gcda' -delete

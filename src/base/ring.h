@@ -59,7 +59,6 @@ public:
     ~Ring();
 
     bool IsEmpty() const noexcept { return m_head.m_next == &m_head; }
-    bool IsWalked() const noexcept { return m_walks != nullptr; }
 
     // At the end; out of the ring in which it was.
     void Append(RingNode& node) noexcept;

@@ -138,11 +138,6 @@ std::string FromAnsi(std::span<const std::uint8_t> bytes)
     return text;
 }
 
-std::size_t AnsiLength(std::string_view text) noexcept
-{
-    return CharacterCount(text);
-}
-
 std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept
 {
     while (!text.empty()) {

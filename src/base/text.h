@@ -18,9 +18,6 @@ char16_t FromAnsi(std::uint8_t byte) noexcept;
 // The characters of a byte text as UTF-8.
 std::string FromAnsi(std::span<const std::uint8_t> bytes);
 
-// How many bytes ToAnsi gives.
-std::size_t AnsiLength(std::string_view text) noexcept;
-
 // Writes the text's bytes, of which there are at most text.size(), and gives their end. A character outside the code
 // page, or a byte that is no UTF-8, becomes '?'.
 std::uint8_t* WriteAnsi(std::uint8_t* to, std::string_view text) noexcept;

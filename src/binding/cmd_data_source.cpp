@@ -6,7 +6,7 @@
 #include "binding/server.h"
 #include "binding/sites.h"
 #include "binding/source_trace.h"
-#include "document/format/view_title.h"
+#include "format/view_title.h"
 #include "platform/boxes.h"
 #include "platform/login.h"
 

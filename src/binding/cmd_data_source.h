@@ -4,7 +4,7 @@
 #include "base/event.h"
 #include "base/property.h"
 #include "binding/router.h"
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "base/property.h"
 #include "binding/router.h"
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <cstdint>
 #include <string>

@@ -14,7 +14,7 @@ Collection::Collection(const Kind& kind, Canvas& canvas, Live& live)
 
 Element& Collection::Add(float top, float left, std::string_view name, bool visible)
 {
-    if (m_array == nullptr || !m_kind.Exists()) {
+    if (m_array == nullptr) {
         throw Failure(failures::invalidCall, std::string(m_kind.caption));
     }
     const std::int32_t index = m_array->UpperBound() + 1;

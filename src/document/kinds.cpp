@@ -80,9 +80,7 @@ const Kind* FindKind(std::string_view array) noexcept
 void AddWidgetArrays(Canvas& canvas)
 {
     for (const Kind& kind : kinds) {
-        if (kind.Exists()) {
-            canvas.AddArray(std::string(kind.array), kind.makePrototype());
-        }
+        canvas.AddArray(std::string(kind.array), kind.makePrototype());
     }
 }
 

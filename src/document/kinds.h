@@ -18,11 +18,8 @@ struct Kind {
     std::string_view array;   // widget array of the canvas; also the name of the kind's property page tab
     std::string_view prefix;  // of default names
     std::string_view caption; // tip of the toolbox button, caption of the tab
-    std::unique_ptr<Widget> (*makePrototype)() = nullptr;
-    std::unique_ptr<Element> (*makeElement)(Widget& widget, Live& live) = nullptr;
-
-    // Whether this version can make it; the rest of the row stands all the same.
-    bool Exists() const noexcept { return makeElement != nullptr; }
+    std::unique_ptr<Widget> (*makePrototype)();
+    std::unique_ptr<Element> (*makeElement)(Widget& widget, Live& live);
 };
 
 // In the order of their types, 0 to 10.
@@ -32,7 +29,7 @@ std::span<const Kind> Kinds() noexcept;
 const Kind* FindKind(std::int32_t type) noexcept;
 const Kind* FindKind(std::string_view array) noexcept;
 
-// Gives the canvas the widget arrays of all kinds that exist.
+// Gives the canvas the widget arrays of all kinds.
 void AddWidgetArrays(Canvas& canvas);
 
 } // namespace quor

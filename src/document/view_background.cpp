@@ -1,7 +1,7 @@
 // The view's ground: its colour and its picture, on the canvas.
 
-#include "document/format/record.h"
 #include "document/view_document.h"
+#include "format/record.h"
 #include "platform/boxes.h"
 #include "platform/files.h"
 #include "widgets/canvas.h"

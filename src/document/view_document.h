@@ -20,14 +20,13 @@ namespace quor {
 class Canvas;
 class ContainerReader;
 class Files;
-class Forms;
+class LoadProgress;
 class MessageBoxes;
 class OpenFile;
 class Reporter;
 class ScratchFile;
 class Timer;
 class Timers;
-class frmViewPBar;
 struct Live;
 struct RecordView;
 
@@ -36,10 +35,9 @@ struct ViewPorts {
     Files& files;
     MessageBoxes& boxes;
     Reporter& reporter;
-    Forms& forms;
     Timers& timers;
     Pictures& pictures;
-    frmViewPBar& progress; // the one of the program
+    LoadProgress& progress;
     Live& live;
 };
 

@@ -3,12 +3,11 @@
 #include "base/guard.h"
 #include "base/narrow.h"
 #include "binding/live.h"
-#include "document/format/container.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
+#include "format/container.h"
 #include "platform/boxes.h"
-#include "platform/forms.h"
-#include "support/frm_view_pbar.h"
+#include "platform/load_progress.h"
 #include "widgets/canvas.h"
 
 namespace quor {
@@ -91,11 +90,7 @@ void clsCustView::ReadRecords(ContainerReader& reader)
 {
     const std::vector<std::string> names = reader.Names();
     const std::int32_t count = reader.Header().recordCount;
-    m_ports.progress.Load();
-    m_ports.progress.InitPBar("Loading custom view...", Narrow<std::int16_t>(count));
-    if (count > recordsWithoutProgress) {
-        m_ports.forms.Show(m_ports.progress);
-    }
+    m_ports.progress.Begin("Loading custom view...", Narrow<std::int16_t>(count), count > recordsWithoutProgress);
     // Add subtracts the scroll position, and the elements must land at the stored places.
     m_canvas.ScrollTo(m_canvas.ScrollOffsetX(), 0);
     m_canvas.ScrollTo(0, 0);

@@ -1,9 +1,9 @@
 // Saving a view to its file.
 
 #include "base/guard.h"
-#include "document/format/container.h"
-#include "document/format/record.h"
 #include "document/view_document.h"
+#include "format/container.h"
+#include "format/record.h"
 #include "platform/scratch_file.h"
 
 namespace quor {

@@ -1,11 +1,11 @@
 // Old files: the question, the rewriting in place with a backup, and the load a moment later.
 
 #include "base/guard.h"
-#include "document/format/upgrade.h"
 #include "document/view_document.h"
+#include "format/upgrade.h"
 #include "platform/boxes.h"
-#include "platform/files.h"
 #include "platform/timer.h"
+#include "platform/whole_file.h"
 
 namespace quor {
 

@@ -8,6 +8,7 @@ class CommonDialog;
 class Files;
 class Forms;
 class Help;
+class LoadProgress;
 class MessageBoxes;
 class Pictures;
 class QuorLogin;
@@ -15,7 +16,6 @@ class Reporter;
 class Screen;
 class SystemInfo;
 class Timers;
-class frmViewPBar;
 struct Live;
 
 struct EditorPorts {
@@ -29,7 +29,7 @@ struct EditorPorts {
     ApplicationSettings& settings;
     QuorLogin& login;
     Reporter& reporter;
-    frmViewPBar& progress;
+    LoadProgress& progress;
     Live& live;
     Help& help;
     SystemInfo& systemInfo;

@@ -38,7 +38,7 @@ void frmViewToolbox::cmdTool_MouseDown(std::size_t index, MouseButton button)
 {
     Guard(m_reporter, Ref("frmViewToolbox.cmdTool"), "Unable to select the tool you clicked on. Please try again.",
           [&] {
-              if (button == MouseButton::Left && m_buttons.at(index).Enabled()) {
+              if (button == MouseButton::Left) {
                   m_host.BeginToolDrag(index);
               }
           });

@@ -24,8 +24,6 @@ public:
 struct ToolboxButton {
     const Kind* kind;
     Area place; // twips
-
-    bool Enabled() const noexcept { return kind->Exists(); }
 };
 
 class frmViewToolbox {
@@ -40,7 +38,7 @@ public:
     // The inner width has changed, in twips: the buttons flow from left to right and wrap.
     void Form_Resize(float width);
 
-    // The left button on an enabled one starts its drag.
+    // The left button starts its drag.
     void cmdTool_MouseDown(std::size_t index, MouseButton button);
 
 private:

@@ -1,10 +1,10 @@
 // Copy and paste of one element as its record, and the stacking order.
 
 #include "base/guard.h"
-#include "document/format/view_file.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
+#include "format/view_file.h"
 #include "forms/bars.h"
 
 namespace quor {

@@ -1,10 +1,10 @@
 // The document commands, and how the editor finds out whether the view has changed.
 
 #include "base/guard.h"
-#include "document/format/container.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
 #include "editor/property_panel.h"
+#include "format/container.h"
 #include "platform/boxes.h"
 #include "platform/common_dialog.h"
 #include "platform/files.h"

@@ -113,8 +113,8 @@ void frmMain::ReadCommandLine(const std::string& tail)
 
 std::unique_ptr<clsCustView> frmMain::MakeView()
 {
-    return std::make_unique<clsCustView>(ViewPorts{m_ports.files, m_ports.boxes, m_ports.reporter, m_ports.forms,
-                                                   m_ports.timers, m_ports.pictures, m_ports.progress, m_ports.live},
+    return std::make_unique<clsCustView>(ViewPorts{m_ports.files, m_ports.boxes, m_ports.reporter, m_ports.timers,
+                                                   m_ports.pictures, m_ports.progress, m_ports.live},
                                          m_canvas);
 }
 

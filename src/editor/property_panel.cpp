@@ -1,10 +1,10 @@
 #include "editor/property_panel.h"
 
 #include "base/guard.h"
-#include "binding/pages/frm_cv_bln_data_source.h"
-#include "binding/pages/frm_cv_cmd_data_source.h"
-#include "binding/pages/frm_cv_mtr_data_source.h"
 #include "forms/bars.h"
+#include "pages/data/frm_cv_bln_data_source.h"
+#include "pages/data/frm_cv_cmd_data_source.h"
+#include "pages/data/frm_cv_mtr_data_source.h"
 #include "pages/frm_cv_bln_pic.h"
 #include "pages/frm_cv_cmd_led.h"
 #include "pages/frm_cv_command.h"

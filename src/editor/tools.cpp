@@ -152,9 +152,6 @@ std::unique_ptr<Bars> MakeEditorBars()
         bars->BandOf(band).Tool("miBringFront").SetCategory("Edit");
         bars->BandOf(band).Tool("miSendBack").SetCategory("Edit");
     }
-    for (const Kind& kind : Kinds()) {
-        bars->Tool(insertTools.at(kind.type)).Set(&BarTool::Enabled, kind.Exists());
-    }
     return bars;
 }
 

@@ -4,7 +4,7 @@
 #include "base/narrow.h"
 #include "binding/bln_data_source.h"
 #include "binding/mtr_data_source.h"
-#include "document/format/record.h"
+#include "format/record.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 

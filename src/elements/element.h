@@ -5,8 +5,8 @@
 // ReadControlProps (from the widget) and WriteControlProps (to the widget).
 
 #include "binding/cmd_data_source.h"
-#include "document/format/field_walk.h"
 #include "elements/setting.h"
+#include "format/field_walk.h"
 #include "widgets/widget.h"
 
 #include <cstdint>

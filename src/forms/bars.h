@@ -51,17 +51,15 @@ public:
     explicit BandTool(BarTool& tool) : m_tool(&tool) {}
 
     BarTool& Tool() const noexcept { return *m_tool; }
-    const std::string& Caption() const noexcept { return m_caption ? *m_caption : m_tool->Caption(); }
+    const std::string& Caption() const noexcept { return m_tool->Caption(); }
     const std::string& Tip() const noexcept { return m_tip ? *m_tip : m_tool->Tip(); }
     const std::string& Category() const noexcept { return m_category ? *m_category : m_tool->Category(); }
 
-    void SetCaption(std::string caption) { m_caption = std::move(caption); }
     void SetTip(std::string tip) { m_tip = std::move(tip); }
     void SetCategory(std::string category) { m_category = std::move(category); }
 
 private:
     BarTool* m_tool;
-    std::optional<std::string> m_caption;
     std::optional<std::string> m_tip;
     std::optional<std::string> m_category;
 };

@@ -2,8 +2,7 @@
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "document/format/upgrade.h"
-#include "platform/files.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <charconv>

@@ -21,6 +21,15 @@ void frmViewPBar::Form_Load()
     pbrConfig.Value(0);
 }
 
+void frmViewPBar::Begin(const std::string& caption, std::int16_t maximum, bool isShown)
+{
+    Load();
+    InitPBar(caption, maximum);
+    if (isShown) {
+        m_forms.Show(*this);
+    }
+}
+
 void frmViewPBar::InitPBar(const std::string& caption, std::int16_t maximum) noexcept
 {
     IgnoreFailure([&] { lblStatus.Set(&Label::Caption, caption); });

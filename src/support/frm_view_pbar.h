@@ -1,14 +1,14 @@
 #pragma once
-// The progress of a long load. One instance serves the program; its user loads it, shows it where that is worth it, and
-// unloads it by CloseMe.
+// The progress of a long load. One instance serves the program.
 
 #include "forms/form.h"
+#include "platform/load_progress.h"
 
 namespace quor {
 
 class Forms;
 
-class frmViewPBar final : public Form {
+class frmViewPBar final : public Form, public LoadProgress {
 public:
     explicit frmViewPBar(Forms& forms);
 
@@ -20,10 +20,10 @@ public:
     // None of these fails; a value beyond the maximum changes nothing.
     void InitPBar(const std::string& caption, std::int16_t maximum) noexcept;
     void SetProgBar(std::int32_t value) noexcept;
-    void CloseMe() noexcept;
 
-    // One more; then the event loop may run, whether the form is shown or not: it keeps its pause.
-    void IncrProgBar() noexcept;
+    void Begin(const std::string& caption, std::int16_t maximum, bool isShown) override;
+    void IncrProgBar() noexcept override;
+    void CloseMe() noexcept override;
 
 private:
     void Form_Load() override;

@@ -1,13 +1,6 @@
 #include "base/event.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <stdexcept>
-#include <string>
-#include <vector>
-
-namespace quor {
 namespace {
 
 struct Trail {
@@ -124,4 +117,3 @@ TEST(AnEvent, StopsTheRoundAtAFailureAndWorksAfterIt)
 }
 
 } // namespace
-} // namespace quor

@@ -1,12 +1,7 @@
 #include "binding/bln_data_source.h"
 #include "binding/live.h"
-#include "tests/support/fake_server.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-
-namespace quor {
 namespace {
 
 // What came of the events: "1m" is true and muted, "[on|off]" captions.
@@ -288,4 +283,3 @@ TEST_F(AStatusSource, FollowsANewBindingAndHearsNothingInDesignMode)
 }
 
 } // namespace
-} // namespace quor

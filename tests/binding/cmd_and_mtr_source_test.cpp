@@ -2,14 +2,8 @@
 #include "binding/cmd_data_source.h"
 #include "binding/live.h"
 #include "binding/mtr_data_source.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_login.h"
-#include "tests/support/fake_server.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 struct ASource : testing::Test {
@@ -200,4 +194,3 @@ TEST_F(ASource, ScalesAMeterByItsTypeAndForgetsALostLink)
 }
 
 } // namespace
-} // namespace quor

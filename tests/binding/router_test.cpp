@@ -1,13 +1,8 @@
 #include "binding/bln_data_source.h"
 #include "binding/live.h"
-#include "document/format/record.h"
-#include "tests/support/fake_server.h"
+#include "format/record.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
-namespace quor {
 namespace {
 
 struct Owner final : BlnOwner {
@@ -123,4 +118,3 @@ TEST_F(TheRouter, ForgetsSitesThatNobodyFollows)
 }
 
 } // namespace
-} // namespace quor

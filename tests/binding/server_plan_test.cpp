@@ -1,10 +1,8 @@
-#include "binding/simulator/server_plan.h"
+#include "servers/simulator/server_plan.h"
 
 #include "base/failure.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 std::string WordsOf(const std::string& json)
@@ -61,4 +59,3 @@ TEST(AServerFile, IsRefusedWithTheLineOfItsFault)
 }
 
 } // namespace
-} // namespace quor

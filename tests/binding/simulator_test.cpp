@@ -1,14 +1,7 @@
-#include "binding/simulator/simulated_server.h"
-#include "binding/simulator/sites_file.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_timers.h"
+#include "servers/simulator/simulated_server.h"
+#include "servers/simulator/sites_file.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <map>
-
-namespace quor {
 namespace {
 
 constexpr int second = 1000; // milliseconds of the timers
@@ -218,4 +211,3 @@ TEST(TheSites, ComeAnewFromTheFirstFileThatIsThere)
 }
 
 } // namespace
-} // namespace quor

@@ -1,9 +1,6 @@
 #include "binding/sites.h"
-#include "tests/support/fake_server.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 struct AServerOfThreeSites : testing::Test {
@@ -39,4 +36,3 @@ TEST_F(AServerOfThreeSites, IsWalkedToTheFirstMatchAndItsFailuresPass)
 }
 
 } // namespace
-} // namespace quor

@@ -3,11 +3,9 @@
 #include "base/guard.h"
 #include "binding/bln_data_source.h"
 #include "binding/live.h"
-#include "binding/simulator/simulated_server.h"
-#include "binding/simulator/sites_file.h"
-#include "tests/support/fake_timers.h"
-
-#include <gtest/gtest.h>
+#include "servers/simulator/simulated_server.h"
+#include "servers/simulator/sites_file.h"
+#include "tests/test.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -39,7 +37,6 @@ void operator delete(void* block, std::size_t) noexcept
     std::free(block);
 }
 
-namespace quor {
 namespace {
 
 struct Place {
@@ -178,4 +175,3 @@ TEST_F(TheDay, BringsEachUpdateThatShouldArriveAndKeepsNothing)
 }
 
 } // namespace
-} // namespace quor

@@ -10,20 +10,7 @@
 #include "forms/form.h"
 #include "pages/page.h"
 #include "support/frm_view_pbar.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_clipboard.h"
-#include "tests/support/fake_dialog.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_login.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_screen.h"
-#include "tests/support/fake_settings.h"
-#include "tests/support/fake_system_info.h"
-#include "tests/support/fake_timers.h"
-#include "tests/support/test_reporter.h"
-
-#include <gtest/gtest.h>
+#include "tests/test.h"
 
 namespace quor {
 

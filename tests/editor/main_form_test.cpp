@@ -3,10 +3,8 @@
 #include "elements/label.h"
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 
-#include <limits>
-
-namespace quor {
 namespace {
 
 struct TheMainForm : EditorFixture {
@@ -164,4 +162,3 @@ TEST_F(TheMainForm, RepaintsAllForPlacesThatAreNoPlaces)
 }
 
 } // namespace
-} // namespace quor

@@ -3,8 +3,8 @@
 #include "elements/label.h"
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 struct TheCanvas : EditorFixture {
@@ -82,4 +82,3 @@ TEST_F(TheCanvas, PutsTheGroundOfANewViewAtItsStart)
 }
 
 } // namespace
-} // namespace quor

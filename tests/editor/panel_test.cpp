@@ -1,7 +1,7 @@
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 using ThePanel = EditorFixture;
@@ -15,4 +15,3 @@ TEST_F(ThePanel, ComesToTheFrontWithTheGeneralPageAtEachSelection)
 }
 
 } // namespace
-} // namespace quor

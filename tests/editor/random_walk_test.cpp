@@ -1,11 +1,8 @@
 #include "document/kinds.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 
-#include <random>
-#include <set>
-
-namespace quor {
 namespace {
 
 struct AnyEdit : EditorFixture {
@@ -47,14 +44,7 @@ struct AnyEdit : EditorFixture {
         }
     }
 
-    std::uint8_t AnyKind()
-    {
-        const Kind* kind = nullptr;
-        do {
-            kind = &Kinds()[static_cast<std::size_t>(Draw(0, 10))];
-        } while (!kind->Exists());
-        return kind->type;
-    }
+    std::uint8_t AnyKind() { return Kinds()[static_cast<std::size_t>(Draw(0, 10))].type; }
 
     // Any box or list of the page of its kind.
     void Restyle(const Element& element)
@@ -180,4 +170,3 @@ TEST_F(AnyEdit, LeavesTheViewWhole)
 }
 
 } // namespace
-} // namespace quor

@@ -1,12 +1,10 @@
 #include "binding/live.h"
 #include "elements/led_round.h"
 #include "tests/support/widget_journal.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 struct ALamp : testing::Test {
@@ -71,4 +69,3 @@ TEST_F(ALamp, KeepsItsPlaceInTheViewWhateverIsScrolled)
 }
 
 } // namespace
-} // namespace quor

@@ -3,14 +3,11 @@
 #include "elements/meter_text.h"
 #include "elements/mtr_angle.h"
 #include "elements/mtr_linear.h"
-#include "tests/support/fake_server.h"
 #include "tests/support/widget_journal.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 // A meter in a live view.
@@ -241,4 +238,3 @@ TEST_F(ATextMeter, IsWrittenInItsOrder)
 }
 
 } // namespace
-} // namespace quor

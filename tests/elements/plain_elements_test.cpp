@@ -8,17 +8,12 @@
 #include "elements/led_rect.h"
 #include "elements/picture.h"
 #include "elements/status_label.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_server.h"
 #include "tests/support/field_text.h"
 #include "tests/support/widget_journal.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 // A new element of that kind on a canvas of its own, with every write to its widget in the journal.
@@ -311,4 +306,3 @@ TEST(ALiveLamp, HearsTheServerByWhatItGotOfARecordThatEndsWithinItsSource)
 }
 
 } // namespace
-} // namespace quor

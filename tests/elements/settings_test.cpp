@@ -1,16 +1,12 @@
 #include "binding/live.h"
 #include "document/collection.h"
-#include "document/format/view_file.h"
 #include "document/kinds.h"
+#include "format/view_file.h"
 #include "tests/support/field_filler.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -103,19 +99,7 @@ TEST_P(EverySetting, IsShownByTheWidgetAndTakenFromIt)
     }
 }
 
-std::vector<std::uint8_t> ExistingKinds()
-{
-    std::vector<std::uint8_t> types;
-    for (const Kind& kind : Kinds()) {
-        if (kind.Exists()) {
-            types.push_back(kind.type);
-        }
-    }
-    return types;
-}
-
-INSTANTIATE_TEST_SUITE_P(OfAKind, EverySetting, testing::ValuesIn(ExistingKinds()),
+INSTANTIATE_TEST_SUITE_P(OfAKind, EverySetting, testing::Range<std::uint8_t>(0, 11),
                          [](const auto& kind) { return std::string(Kinds()[kind.param].array); });
 
 } // namespace
-} // namespace quor

@@ -1,22 +1,14 @@
 #include "base/guard.h"
 #include "binding/live.h"
-#include "document/format/bytes.h"
-#include "document/format/container.h"
-#include "document/format/record.h"
-#include "document/format/view_title.h"
+#include "format/bytes.h"
+#include "format/container.h"
+#include "format/record.h"
+#include "format/view_title.h"
 #include "support/frm_view_pbar.h"
 #include "tests/format/samples.h"
 #include "tests/journey_driver/lone_view.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_timers.h"
+#include "tests/test.h"
 
-#include <algorithm>
-#include <limits>
-
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -64,7 +56,7 @@ std::string Outcome(FakeFiles& files, const Bytes& bytes)
     FakePictures pictures(files);
     frmViewPBar progress(forms);
     Live live;
-    LoneView lone(ViewPorts{files, boxes, failed, forms, timers, pictures, progress, live}, nullptr);
+    LoneView lone(ViewPorts{files, boxes, failed, timers, pictures, progress, live}, nullptr);
     lone.Load("a.qvw");
     switch (lone.View().Verdict()) {
     case LoadVerdict::WrongFile:
@@ -302,4 +294,3 @@ TEST(AViewsTitle, IsReadFromSoundFilesOfAnyVersionUpToTheCurrentOne)
 }
 
 } // namespace
-} // namespace quor

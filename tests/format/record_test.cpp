@@ -1,10 +1,10 @@
 #include "base/text.h"
-#include "document/format/record.h"
+#include "format/record.h"
 #include "tests/format/samples.h"
+#include "tests/test.h"
 
 #include <numeric>
 
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -201,4 +201,3 @@ TEST(AFontRecord, LetsTheStoredWeightDecide)
 }
 
 } // namespace
-} // namespace quor

@@ -1,9 +1,9 @@
-#include "document/format/bytes.h"
-#include "document/format/upgrade.h"
-#include "document/format/view_file.h"
+#include "format/bytes.h"
+#include "format/upgrade.h"
+#include "format/view_file.h"
 #include "tests/format/samples.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -112,4 +112,3 @@ TEST(ABackup, HasThePathWithoutItsLastFourCharacters)
 }
 
 } // namespace
-} // namespace quor

@@ -2,11 +2,8 @@
 
 #include "base/failure.h"
 #include "forms/bars.h"
-#include "tests/support/fake_files.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 constexpr ToolRow toolRows[] = {
@@ -196,4 +193,3 @@ TEST_F(BarsInFiles, KeepTheWordsOfAPlaceThatGoesAndComesAgain)
 }
 
 } // namespace
-} // namespace quor

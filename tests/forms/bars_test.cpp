@@ -1,13 +1,8 @@
 #include "forms/bars.h"
 
 #include "base/failure.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-namespace quor {
 namespace {
 
 constexpr ToolRow toolRows[] = {
@@ -141,4 +136,3 @@ TEST(Bars, MayBeClosedUnlessAHandlerCancels)
 }
 
 } // namespace
-} // namespace quor

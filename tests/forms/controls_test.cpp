@@ -2,13 +2,8 @@
 #include "forms/caption.h"
 #include "forms/fields.h"
 #include "forms/form.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-
-namespace quor {
 namespace {
 
 std::int32_t NumberOf(const std::function<void()>& body)
@@ -209,4 +204,3 @@ TEST(AForm, MayBeDestroyedByWhoHearsOfItsEnd)
 }
 
 } // namespace
-} // namespace quor

@@ -2,7 +2,7 @@
 // Values as journeys print and read them.
 
 #include "base/values.h"
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 #include "tests/support/quoted.h"
 #include "widgets/property_visitor.h"
 

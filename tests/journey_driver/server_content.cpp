@@ -1,6 +1,6 @@
 #include "tests/journey_driver/server_content.h"
 
-#include "binding/simulator/server_plan.h"
+#include "servers/simulator/server_plan.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/stage.h"
 

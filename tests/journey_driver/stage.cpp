@@ -241,7 +241,7 @@ void Stage::OpenLive(const std::string& path)
         throw JourneyError("the editor runs already");
     }
     m_live.DesignMode = false;
-    const ViewPorts ports{files, boxes, m_reporter, forms, timers, pictures, m_progress, m_live};
+    const ViewPorts ports{files, boxes, m_reporter, timers, pictures, m_progress, m_live};
     m_liveView = std::make_unique<LoneView>(ports, m_tracer.get());
     m_liveView->Load(path);
 }

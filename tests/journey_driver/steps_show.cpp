@@ -2,10 +2,10 @@
 
 #include "apps/view_json/view_json.h"
 #include "binding/live.h"
-#include "document/format/container.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
 #include "elements/mtr_linear.h"
+#include "format/container.h"
 #include "forms/bars.h"
 #include "forms/form.h"
 #include "support/frm_view_pbar.h"
@@ -154,7 +154,7 @@ void PrintFile(Stage& stage, const Arguments& arguments)
     Silence reporter;
     frmViewPBar progress(forms);
     Live live{true};
-    LoneView lone(ViewPorts{files, boxes, reporter, forms, timers, pictures, progress, live}, nullptr);
+    LoneView lone(ViewPorts{files, boxes, reporter, timers, pictures, progress, live}, nullptr);
     lone.Load(path);
     if (lone.View().Verdict() == LoadVerdict::Ok) {
         for (const std::string& line : SplitLines(JsonText(ViewToJson(lone.View())))) {

@@ -2,14 +2,8 @@
 #include "login/frm_log_on.h"
 #include "login/user_login.h"
 #include "platform/password_hash.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_timers.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 const std::string hashStart = "$argon2id$v=19$m=65536,t=2,p=1$";
@@ -167,4 +161,3 @@ TEST_F(TheLogin, LetsNobodyInByADamagedFile)
 }
 
 } // namespace
-} // namespace quor

@@ -1,12 +1,8 @@
 #include "elements/led_round.h"
 #include "elements/meter_text.h"
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/fake_server.h"
+#include "tests/test.h"
 
-#include <algorithm>
-#include <functional>
-
-namespace quor {
 namespace {
 
 constexpr const char* statusPage = "frmCVBlnDataSource";
@@ -372,4 +368,3 @@ TEST_F(ADataPage, WritesAndSaysNothingWhileItIsNotBound)
 }
 
 } // namespace
-} // namespace quor

@@ -9,8 +9,8 @@
 #include "elements/picture.h"
 #include "elements/status_label.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 struct AnElementPage : EditorFixture {
@@ -198,4 +198,3 @@ TEST_F(AnElementPage, OpensThePictureDialogWithWhatTheFieldHas)
 }
 
 } // namespace
-} // namespace quor

@@ -1,8 +1,7 @@
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/fake_server.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 struct APageOfAFailingServer : EditorFixture {
@@ -31,4 +30,3 @@ TEST_F(APageOfAFailingServer, SaysThatItCannotTellTheUnits)
 }
 
 } // namespace
-} // namespace quor

@@ -2,11 +2,8 @@
 
 #include "base/failure.h"
 #include "base/values.h"
-#include "tests/support/fake_dialog.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 Font MediumFont()
@@ -50,4 +47,3 @@ TEST(TheFontDialog, BringsBackWhatWasPicked)
 }
 
 } // namespace
-} // namespace quor

@@ -1,8 +1,8 @@
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 #include "widgets/canvas.h"
 
-namespace quor {
 namespace {
 
 using TheGeneralPage = EditorFixture;
@@ -86,4 +86,3 @@ TEST_F(TheViewPage, IsBoundToTheDocumentOfTheMoment)
 }
 
 } // namespace
-} // namespace quor

@@ -1,7 +1,7 @@
 #include "elements/led_round.h"
 #include "tests/editor/editor_fixture.h"
+#include "tests/test.h"
 
-namespace quor {
 namespace {
 
 constexpr std::string_view page = "frmCVLEDRound";
@@ -36,4 +36,3 @@ TEST_F(ALampPage, TakesNoClickOnASwatchWhoseButtonIsOffAndWritesTheOldColourOnCa
 }
 
 } // namespace
-} // namespace quor

@@ -15,13 +15,11 @@
 #include "tests/editor/editor_fixture.h"
 #include "tests/support/field_text.h"
 #include "tests/support/widget_journal.h"
+#include "tests/test.h"
 
-#include <algorithm>
 #include <bit>
 #include <iterator>
-#include <sstream>
 
-namespace quor {
 namespace {
 
 // What the user gives a control (of a list or an option its index, of a box what it is then), the setting, or the
@@ -425,4 +423,3 @@ TEST_F(APage, SaysWhichCharactersAViewFileCannotHold)
 }
 
 } // namespace
-} // namespace quor

@@ -1,20 +1,11 @@
 #include "binding/live.h"
-#include "document/format/upgrade.h"
+#include "platform/whole_file.h"
 #include "posix/disk_files.h"
 #include "support/frm_view_pbar.h"
 #include "tests/format/samples.h"
 #include "tests/journey_driver/lone_view.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_timers.h"
-#include "tests/support/test_reporter.h"
+#include "tests/test.h"
 
-#include <filesystem>
-#include <fstream>
-
-namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
@@ -38,7 +29,7 @@ TEST(AConversion, KeepsModeAndLinkOfTheFile)
     FakePictures pictures(noFiles);
     frmViewPBar progress(forms);
     Live live;
-    LoneView view({files, boxes, reporter, forms, timers, pictures, progress, live}, nullptr);
+    LoneView view({files, boxes, reporter, timers, pictures, progress, live}, nullptr);
     boxes.answers = {BoxAnswer::Yes};
     view.Load(folder / "link.qvw");
 
@@ -50,4 +41,3 @@ TEST(AConversion, KeepsModeAndLinkOfTheFile)
 }
 
 } // namespace
-} // namespace quor

@@ -2,20 +2,13 @@
 #include "posix/disk_files.h"
 #include "posix/system_clock.h"
 #include "posix/user_folders.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <pwd.h>
-#include <random>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
-#include <vector>
 
-namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
@@ -376,4 +369,3 @@ TEST(TheClock, TellsDateAndTimeInAtMost22Characters)
 }
 
 } // namespace
-} // namespace quor

@@ -4,25 +4,18 @@
 #include "document/view_document.h"
 #include "elements/led_round.h"
 #include "tests/qt/desk.h"
+#include "tests/qt/test.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
-#include <QTest>
 
-#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-
-#include <sstream>
 
 namespace {
 
-using namespace quor;
-using quor::testing::Desk;
-
-struct TheStatusPageAtTheWindow : ::testing::Test {
-    Desk desk;
+struct TheStatusPageAtTheWindow : testing::Test {
+    EditorDesk desk;
 
     // The element at that place, with its status page in front.
     void Select(const QPoint& at)

@@ -4,30 +4,24 @@
 
 #include "document/view_document.h"
 #include "elements/picture.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-using namespace quor;
-using quor::testing::Desk;
-
-QWidget& View(Desk& desk)
+QWidget& View(EditorDesk& desk)
 {
     return *desk.Window().Canvas().viewport();
 }
 
 // The popup that is open, or null; it is closed.
-bool ClosedAPopup(Desk& desk)
+bool ClosedAPopup(EditorDesk& desk)
 {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (menu != nullptr) {
@@ -39,7 +33,7 @@ bool ClosedAPopup(Desk& desk)
 
 TEST(CanvasMouse, ADialogThatOpensAtAPressEndsTheDrag)
 {
-    Desk desk;
+    EditorDesk desk;
     const QString path = desk.PathOf("gone.png");
     ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32).save(path));
     desk.DragTool(9, {300, 300});
@@ -62,7 +56,7 @@ TEST(CanvasMouse, ADialogThatOpensAtAPressEndsTheDrag)
 
 TEST(CanvasMouse, AReleaseBelongsToWhatWasPressed)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     for (const QPoint& released : {QPoint(105, 105), QPoint(130, 105), QPoint(121, 121)}) { // lamp, canvas, handle
         QTest::mousePress(&View(desk), Qt::RightButton, {}, {105, 105});
@@ -74,7 +68,7 @@ TEST(CanvasMouse, AReleaseBelongsToWhatWasPressed)
 
 TEST(CanvasMouse, TheMenuKeyOpensThePopup)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, View(desk).mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&desk.Window().Canvas(), &event);
@@ -84,7 +78,7 @@ TEST(CanvasMouse, TheMenuKeyOpensThePopup)
 
 TEST(CanvasMouse, ADragToTheEdgeScrolls)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     desk.Click({300, 300});
     Canvas& canvas = desk.Main().ssScroll();
@@ -102,7 +96,7 @@ TEST(CanvasMouse, ADragToTheEdgeScrolls)
 
 TEST(CanvasMouse, AnEdgeThatIsSizedFollowsThePointerWhileItScrolls)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     Canvas& canvas = desk.Main().ssScroll();
     const QPoint corner(View(desk).width() - 4, View(desk).height() - 4);
@@ -116,7 +110,7 @@ TEST(CanvasMouse, AnEdgeThatIsSizedFollowsThePointerWhileItScrolls)
 
 TEST(CanvasMouse, DeleteIsTheInsertedElementsWhereverTheFocusWas)
 {
-    Desk desk;
+    EditorDesk desk;
     auto* name = desk.Window().findChild<QLineEdit*>(QStringLiteral("txtViewName"));
     ASSERT_NE(name, nullptr);
     name->setFocus();
@@ -129,7 +123,7 @@ TEST(CanvasMouse, DeleteIsTheInsertedElementsWhereverTheFocusWas)
 
 TEST(CanvasMouse, OrderAndGridHaveTheirKeys)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(4, {100, 100});
     desk.DragTool(4, {120, 110});
     const QString front = desk.Elements().last();

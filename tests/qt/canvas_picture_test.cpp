@@ -3,25 +3,20 @@
 #include "tests/qt/desk.h"
 
 #include "document/view_document.h"
+#include "tests/qt/test.h"
 #include "widgets/round_led.h"
 #include "widgets/text_label.h"
 
 #include <QEvent>
 #include <QImage>
 #include <QPaintEvent>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
-
-using namespace quor;
-using quor::testing::Desk;
 
 constexpr QRgb mark = 0xFF1D66E0;
 constexpr QRgb face = 0xFFD5D9DE;
 
-QImage Shown(Desk& desk)
+QImage Shown(EditorDesk& desk)
 {
     return desk.Window().Canvas().viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
@@ -58,7 +53,7 @@ public:
 
 TEST(CanvasPicture, TheSelectionHasEightHandlesAndAFrameJustOutside)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.Main().HideGrid();
     desk.DragTool(3, {100, 100}); // 17 x 17 at 100, 100
     const QImage image = Shown(desk);
@@ -82,7 +77,7 @@ TEST(CanvasPicture, TheSelectionHasEightHandlesAndAFrameJustOutside)
 
 TEST(CanvasPicture, ADragShowsItsOutlineWhereItWouldLand)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.Main().HideGrid();
     desk.DragTool(3, {100, 100});
     QWidget* view = desk.Window().Canvas().viewport();
@@ -102,7 +97,7 @@ TEST(CanvasPicture, ADragShowsItsOutlineWhereItWouldLand)
 
 TEST(CanvasPicture, TheGridHasFaintLinesAndEachTenthIsStronger)
 {
-    Desk desk;
+    EditorDesk desk;
     const QImage image = Shown(desk);
     const QRgb shadow = 0xFF8A929B;
     EXPECT_EQ(image.pixel(5, 5), face);
@@ -116,7 +111,7 @@ TEST(CanvasPicture, TheGridHasFaintLinesAndEachTenthIsStronger)
 
 TEST(CanvasPicture, TheGridEndsWhereTheCanvasDoes)
 {
-    Desk desk;
+    EditorDesk desk;
     Canvas& canvas = desk.Main().ssScroll();
     canvas.SetScrollMaxima(105 * 15, 85 * 15);
     desk.Main().LoadGrid();
@@ -131,7 +126,7 @@ TEST(CanvasPicture, TheGridEndsWhereTheCanvasDoes)
 
 TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.Main().HideGrid();
     desk.DragTool(10, {100, 100});
     Widget& label = *desk.Main().ssScroll().Back();
@@ -151,7 +146,7 @@ TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
 
 TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.Main().HideGrid();
     QImage red(30, 20, QImage::Format_RGB32);
     red.fill(Qt::red);
@@ -178,7 +173,7 @@ TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)
 
 TEST(CanvasPicture, AChangeRepaintsItsAreaAlone)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     desk.DragTool(3, {500, 400});
     desk.Click({300, 300});

@@ -2,21 +2,15 @@
 
 #include "base/values.h"
 #include "qt/ports/qt_common_dialog.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
-namespace quor {
 namespace {
 
 using Act = std::function<void(QWidget& dialog)>;
@@ -36,7 +30,7 @@ void PressEnter(QWidget& dialog)
     QTest::keyClick(&dialog, Qt::Key_Return);
 }
 
-struct TheFontDialog : ::testing::Test {
+struct TheFontDialog : testing::Test {
     QtCommonDialog dialog;
 
     TheFontDialog()
@@ -147,4 +141,3 @@ TEST(TheColorDialog, GivesBackTheColorThatItShows)
 }
 
 } // namespace
-} // namespace quor

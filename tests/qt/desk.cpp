@@ -1,6 +1,7 @@
 #include "tests/qt/desk.h"
 
 #include "document/view_document.h"
+#include "tests/test.h"
 #include "widgets/widget.h"
 
 #include <QAction>
@@ -16,9 +17,7 @@
 #include <QTest>
 #include <QToolBar>
 
-#include <gtest/gtest.h>
-
-namespace quor::testing {
+namespace quor {
 
 namespace {
 
@@ -57,17 +56,17 @@ QAction* FindAction(const QMenu& menu, const QString& name)
 
 } // namespace
 
-Desk::Home::Home(const QString& path) : before(QDir::currentPath())
+EditorDesk::Home::Home(const QString& path) : before(QDir::currentPath())
 {
     QDir::setCurrent(path);
 }
 
-Desk::Home::~Home()
+EditorDesk::Home::~Home()
 {
     QDir::setCurrent(before);
 }
 
-Desk::Desk(const std::string& tail) : m_home(m_folder.path()), m_program(tail)
+EditorDesk::EditorDesk(const std::string& tail) : m_home(m_folder.path()), m_program(tail)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { MeetNext(); });
@@ -80,19 +79,19 @@ Desk::Desk(const std::string& tail) : m_home(m_folder.path()), m_program(tail)
     Settle();
 }
 
-Desk::~Desk()
+EditorDesk::~EditorDesk()
 {
     EXPECT_TRUE(m_answers.empty()) << "a dialog was expected and did not come";
     EXPECT_EQ(m_met, QStringList()) << "dialogs came that nobody asked about";
     m_program.EndSession();
 }
 
-void Desk::Settle()
+void EditorDesk::Settle()
 {
     QTest::qWait(40);
 }
 
-void Desk::DragTool(int index, const QPoint& to)
+void EditorDesk::DragTool(int index, const QPoint& to)
 {
     auto* cell = Window().findChild<QWidget*>(QStringLiteral("cmdTool(%1)").arg(index));
     ASSERT_NE(cell, nullptr);
@@ -104,7 +103,7 @@ void Desk::DragTool(int index, const QPoint& to)
     Settle();
 }
 
-void Desk::Drag(const QPoint& from, const QPoint& to, bool gives)
+void EditorDesk::Drag(const QPoint& from, const QPoint& to, bool gives)
 {
     QTest::mousePress(&Canvas(), Qt::LeftButton, {}, from);
     QTest::mouseMove(&Canvas(), (from + to) / 2);
@@ -116,20 +115,20 @@ void Desk::Drag(const QPoint& from, const QPoint& to, bool gives)
     Settle();
 }
 
-void Desk::Click(const QPoint& at, Qt::MouseButton button)
+void EditorDesk::Click(const QPoint& at, Qt::MouseButton button)
 {
     QTest::mouseClick(&Canvas(), button, {}, at);
     Settle();
 }
 
-void Desk::DragHandle(std::size_t handle, const QPoint& by)
+void EditorDesk::DragHandle(std::size_t handle, const QPoint& by)
 {
     const GrabHandle& grab = Main().ssScroll().Handles().at(handle);
     ASSERT_TRUE(grab.visible);
     Drag(Middle(grab), Middle(grab) + by);
 }
 
-void Desk::Key(int key, Qt::KeyboardModifiers modifiers)
+void EditorDesk::Key(int key, Qt::KeyboardModifiers modifiers)
 {
     if (QApplication::activeWindow() == nullptr) { // as a desktop does when a dialog has gone
         Window().activateWindow();
@@ -140,7 +139,7 @@ void Desk::Key(int key, Qt::KeyboardModifiers modifiers)
     Settle();
 }
 
-void Desk::Choose(const char* tool)
+void EditorDesk::Choose(const char* tool)
 {
     for (QAction* header : Window().menuBar()->actions()) {
         emit header->menu()->aboutToShow();
@@ -153,17 +152,17 @@ void Desk::Choose(const char* tool)
     FAIL() << tool << " is in no menu";
 }
 
-void Desk::Meet(std::function<void(QWidget&)> answer)
+void EditorDesk::Meet(std::function<void(QWidget&)> answer)
 {
     m_answers.push_back(std::move(answer));
 }
 
-void Desk::MeetAndCancel()
+void EditorDesk::MeetAndCancel()
 {
     Meet([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
 }
 
-void Desk::MeetAndType(const QString& path)
+void EditorDesk::MeetAndType(const QString& path)
 {
     Meet([path](QWidget& dialog) {
         auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
@@ -173,7 +172,7 @@ void Desk::MeetAndType(const QString& path)
     });
 }
 
-void Desk::MeetAndPush(const QString& button)
+void EditorDesk::MeetAndPush(const QString& button)
 {
     Meet([button](QWidget& dialog) {
         for (auto* each : dialog.findChildren<QPushButton*>()) {
@@ -187,7 +186,7 @@ void Desk::MeetAndPush(const QString& button)
 }
 
 // A dialog that nobody expects is cancelled, and fails the test at its end.
-void Desk::MeetNext()
+void EditorDesk::MeetNext()
 {
     QWidget* dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || !dialog->isVisible()) {
@@ -205,13 +204,13 @@ void Desk::MeetNext()
     m_watch.start();
 }
 
-QStringList Desk::Met()
+QStringList EditorDesk::Met()
 {
     Settle();
     return std::exchange(m_met, {});
 }
 
-QStringList Desk::Elements()
+QStringList EditorDesk::Elements()
 {
     QStringList elements;
     for (const Widget* widget = Main().ssScroll().Back(); widget != nullptr; widget = widget->Above()) {
@@ -226,7 +225,7 @@ QStringList Desk::Elements()
     return elements;
 }
 
-QStringList Desk::Toolbar()
+QStringList EditorDesk::Toolbar()
 {
     QStringList tools;
     for (const QAction* action : Window().findChild<QToolBar*>("bndToolBar")->actions()) {
@@ -237,4 +236,4 @@ QStringList Desk::Toolbar()
     return tools;
 }
 
-} // namespace quor::testing
+} // namespace quor

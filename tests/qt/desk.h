@@ -3,7 +3,7 @@
 
 #include "apps/editor/program.h"
 #include "editor/main_form.h"
-#include "qt/canvas/canvas_view.h"
+#include "qt/window/canvas_view.h"
 #include "qt/window/main_window.h"
 
 #include <QTemporaryDir>
@@ -16,13 +16,13 @@
 class QAction;
 class QWidget;
 
-namespace quor::testing {
+namespace quor {
 
-class Desk {
+class EditorDesk {
 public:
     // In a folder of its own, which is the current one. The window is shown.
-    explicit Desk(const std::string& tail = {});
-    ~Desk();
+    explicit EditorDesk(const std::string& tail = {});
+    ~EditorDesk();
 
     frmMain& Main() { return *m_program.MainForm(); }
     MainWindow& Window() { return *m_program.Window(); }
@@ -74,7 +74,7 @@ private:
     Program m_program;
 };
 
-} // namespace quor::testing
+} // namespace quor
 
 // For messages of failed tests.
 inline void PrintTo(const QString& text, std::ostream* out)

@@ -8,21 +8,16 @@
 #include "qt/ports/qt_help.h"
 #include "qt/ports/qt_system_info.h"
 #include "qt/theme/theme.h"
-#include "tests/support/fake_timers.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTextBrowser>
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 void Press(QWidget& widget, int key)
@@ -148,4 +143,3 @@ TEST(TheSystemInformation, HasAWordForEachFact)
 }
 
 } // namespace
-} // namespace quor

@@ -3,6 +3,7 @@
 #include "tests/qt/picture_of.h"
 
 #include "document/kinds.h"
+#include "tests/qt/test.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/canvas.h"
@@ -14,18 +15,9 @@
 
 #include <QElapsedTimer>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <functional>
-
 namespace {
 
-using namespace quor;
-using quor::testing::PictureOf;
-
-class EveryKind : public ::testing::Test {
+class EveryKind : public testing::Test {
 protected:
     EveryKind() { AddWidgetArrays(canvas); }
 

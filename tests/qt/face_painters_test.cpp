@@ -2,6 +2,7 @@
 
 #include "qt/painters/painters.h"
 #include "qt/ports/qt_pictures.h"
+#include "tests/qt/test.h"
 #include "widgets/panel.h"
 #include "widgets/push_button.h"
 #include "widgets/rect_led.h"
@@ -9,14 +10,9 @@
 #include "widgets/text_label.h"
 
 #include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 namespace {
-
-using namespace quor;
 
 constexpr QRgb white = 0xFFFFFFFF;
 constexpr QRgb face = 0xFFD5D9DE;

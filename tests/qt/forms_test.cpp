@@ -6,10 +6,8 @@
 #include "qt/theme/theme.h"
 #include "support/frm_error.h"
 #include "support/frm_view_pbar.h"
-#include "tests/support/fake_clipboard.h"
-#include "tests/support/fake_screen.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -19,9 +17,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 QWidget* WindowOf(const char* form)
@@ -284,4 +279,3 @@ TEST_F(TheFormRuntime, HandsInputToTheModelsAndShowsWhatTheyMakeOfIt)
 }
 
 } // namespace
-} // namespace quor

@@ -5,25 +5,20 @@
 #include "editor/main_form.h"
 #include "login/user_list.h"
 #include "qt/window/main_window.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
 namespace {
 
-using namespace quor;
-
-struct TheLogonAtTheWindow : ::testing::Test {
+struct TheLogonAtTheWindow : testing::Test {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/quor";
     Program* program = nullptr;
 

@@ -4,6 +4,7 @@
 
 #include "document/view_document.h"
 #include "elements/led_round.h"
+#include "tests/qt/test.h"
 
 #include <QAbstractButton>
 #include <QColorDialog>
@@ -13,14 +14,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStandardPaths>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
-
-using namespace quor;
-using quor::testing::Desk;
 
 constexpr int roundLed = 3;
 constexpr int rectLed = 4;
@@ -30,7 +25,7 @@ QPoint PlaceOf(int lamp)
     return {100 + 60 * (lamp % 4), 100 + 50 * (lamp / 4)};
 }
 
-template <class W = QWidget> W& Part(Desk& desk, const char* name)
+template <class W = QWidget> W& Part(EditorDesk& desk, const char* name)
 {
     W* found = desk.Window().findChild<W*>(name);
     if (found == nullptr) {
@@ -39,13 +34,13 @@ template <class W = QWidget> W& Part(Desk& desk, const char* name)
     return *found;
 }
 
-void ShowPage(Desk& desk, const char* caption)
+void ShowPage(EditorDesk& desk, const char* caption)
 {
     QTest::mouseClick(&Part(desk, caption), Qt::LeftButton);
     desk.Settle();
 }
 
-void Type(Desk& desk, const char* field, const char* text)
+void Type(EditorDesk& desk, const char* field, const char* text)
 {
     auto& edit = Part<QLineEdit>(desk, field);
     QTest::mouseClick(&edit, Qt::LeftButton);
@@ -54,12 +49,12 @@ void Type(Desk& desk, const char* field, const char* text)
     desk.Settle();
 }
 
-QColor PixelAt(Desk& desk, const QPoint& place)
+QColor PixelAt(EditorDesk& desk, const QPoint& place)
 {
     return desk.Window().Canvas().viewport()->grab().toImage().pixelColor(place);
 }
 
-void RestyleLamp(Desk& desk, int lamp)
+void RestyleLamp(EditorDesk& desk, int lamp)
 {
     desk.Click(PlaceOf(lamp) + QPoint(8, 8));
     ShowPage(desk, "LED (Round)");
@@ -76,7 +71,7 @@ void RestyleLamp(Desk& desk, int lamp)
     EXPECT_NE(PixelAt(desk, PlaceOf(lamp) + QPoint(8, 13)), before) << "the unlit colour follows the lit one at once";
 }
 
-void SetPitch(Desk& desk, const char* pixels)
+void SetPitch(EditorDesk& desk, const char* pixels)
 {
     desk.Meet([pixels](QWidget& dialog) {
         auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
@@ -88,7 +83,7 @@ void SetPitch(Desk& desk, const char* pixels)
     EXPECT_EQ(desk.Met().size(), 1);
 }
 
-void TakeNewOffTheToolbar(Desk& desk)
+void TakeNewOffTheToolbar(EditorDesk& desk)
 {
     desk.Meet([](QWidget& dialog) {
         auto* toolbar = dialog.findChild<QListWidget*>("lstToolbar");
@@ -107,7 +102,7 @@ TEST(Window, APanelOfTwelveLampsIsComposedAndStandsAtTheNextStart)
     QStringList drawn;
     QStringList toolbar;
     {
-        Desk desk;
+        EditorDesk desk;
         for (int lamp = 0; lamp < 12; ++lamp) {
             desk.DragTool(roundLed, PlaceOf(lamp) + QPoint(1, 1));
         }
@@ -151,7 +146,7 @@ TEST(Window, APanelOfTwelveLampsIsComposedAndStandsAtTheNextStart)
         EXPECT_TRUE(desk.HasEnded());
     }
     {
-        Desk desk;
+        EditorDesk desk;
         EXPECT_EQ(desk.Toolbar(), toolbar);
         EXPECT_EQ(desk.Main().GridSize(), 20);
         QFile copy(desk.PathOf("twelve.qvw"));

@@ -5,14 +5,12 @@
 #include "apps/metafile/enhanced_writer.h"
 #include "apps/metafile/harmless_svg.h"
 #include "qt/ports/metafile_drawing.h"
+#include "tests/qt/test.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/socket.h>
@@ -21,7 +19,6 @@
 
 namespace {
 
-using namespace quor;
 using namespace std::chrono_literals;
 
 std::span<const std::uint8_t> Wide(const QString& text)

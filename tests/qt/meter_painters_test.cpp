@@ -4,6 +4,7 @@
 #include "qt/painters/angular_gauge_painter.h"
 #include "qt/painters/linear_gauge_painter.h"
 #include "qt/painters/painters.h"
+#include "tests/qt/test.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/canvas.h"
@@ -12,19 +13,10 @@
 
 #include <QElapsedTimer>
 #include <QImage>
-#include <QPainter>
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
 #include <numbers>
-#include <vector>
 
 namespace {
-
-using namespace quor;
 
 constexpr QRgb ground = 0xFFF4F4F4;
 constexpr Color blue{0x00FF0000};

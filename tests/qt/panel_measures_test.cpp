@@ -2,6 +2,7 @@
 
 #include "qt/window/panel_tabs.h"
 #include "tests/qt/panel_fixture.h"
+#include "tests/qt/test.h"
 
 #include <QAbstractButton>
 #include <QFontInfo>
@@ -9,11 +10,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
 
-#include <map>
-
-namespace quor {
 namespace {
 
 // What the part looks like, and what of it is on the screen.
@@ -201,4 +198,3 @@ TEST_F(ThePanel, IsWidenedByItsEdgeAndFillsItsWidth)
 }
 
 } // namespace
-} // namespace quor

@@ -1,16 +1,13 @@
 // The property panel in the main window: its tabs, what is typed on its pages, and whose keys are whose.
 
-#include "qt/canvas/canvas_view.h"
+#include "qt/window/canvas_view.h"
 #include "qt/window/panel_tabs.h"
 #include "tests/qt/panel_fixture.h"
+#include "tests/qt/test.h"
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QTest>
 
-#include <vector>
-
-namespace quor {
 namespace {
 
 // All that can be clicked, written to or read on a page, by its name.
@@ -226,4 +223,3 @@ TEST_F(ThePanel, KeepsTheEditKeysToTextAndTheCanvasItsOwn)
 }
 
 } // namespace
-} // namespace quor

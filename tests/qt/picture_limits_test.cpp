@@ -2,21 +2,19 @@
 
 #include "base/failure.h"
 #include "qt/ports/qt_pictures.h"
+#include "tests/qt/test.h"
 
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 namespace {
 
-using namespace quor;
 using namespace std::chrono_literals;
 
-class PictureLimitsTest : public ::testing::Test {
+class PictureLimitsTest : public testing::Test {
 protected:
     std::string Bitmap(const char* name, int side)
     {

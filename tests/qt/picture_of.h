@@ -7,7 +7,7 @@
 #include <QImage>
 #include <QPainter>
 
-namespace quor::testing {
+namespace quor {
 
 // On a ground of that colour, by a painter that is scaled: the toolkit ignores a device pixel ratio below 1.
 inline QImage PictureOf(const Widget& widget, const QRectF& area, const QSize& size, qreal scale = 1,
@@ -21,4 +21,4 @@ inline QImage PictureOf(const Widget& widget, const QRectF& area, const QSize& s
     return image;
 }
 
-} // namespace quor::testing
+} // namespace quor

@@ -3,17 +3,14 @@
 #include "base/failure.h"
 #include "qt/ports/metafile_header.h"
 #include "qt/ports/qt_pictures.h"
+#include "tests/qt/test.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 namespace {
-
-using namespace quor;
 
 const QString samples = QStringLiteral(QUOR_TEST_DATA "/pictures/");
 

@@ -5,19 +5,13 @@
 #include "qt/ports/qt_screen.h"
 #include "qt/ports/qt_settings.h"
 #include "qt/ports/qt_timers.h"
+#include "tests/qt/test.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
 namespace {
-
-using namespace quor;
 
 std::int32_t NumberOf(const std::function<void()>& body)
 {

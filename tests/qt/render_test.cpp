@@ -3,6 +3,7 @@
 #include "apps/tool/view_renderer.h"
 #include "apps/tool/view_tool.h"
 #include "posix/disk_files.h"
+#include "tests/qt/test.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,15 +12,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 namespace {
 
-using namespace quor;
-
-class Render : public ::testing::Test {
+class Render : public testing::Test {
 protected:
     int Run(const QString& view, const std::vector<std::string>& options)
     {

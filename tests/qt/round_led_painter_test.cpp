@@ -1,19 +1,13 @@
 // The round lamp is measured in pictures of it.
 
 #include "qt/painters/round_led_painter.h"
+#include "tests/qt/test.h"
 #include "widgets/round_led.h"
 
 #include <QElapsedTimer>
 #include <QImage>
-#include <QPainter>
-
-#include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace {
-
-using namespace quor;
 
 constexpr QRgb ground = 0xFFFFFFFF;
 constexpr int plainGreen = 0x0000C800;

@@ -2,22 +2,16 @@
 
 #include "apps/editor/session_end.h"
 #include "tests/qt/desk.h"
-
-#include <QApplication>
-
-#include <gtest/gtest.h>
+#include "tests/qt/test.h"
 
 #include <csignal>
 
 namespace {
 
-using namespace quor;
-using quor::testing::Desk;
-
 TEST(TheEndOfTheSession, AsksNothingWhetherItIsAQuitEventOrASignal)
 {
     for (const bool isSignal : {false, true}) {
-        Desk desk;
+        EditorDesk desk;
         desk.DragTool(3, {100, 100});
         int ends = 0;
         const SessionEnd sessionEnd([&] {

@@ -4,6 +4,7 @@
 
 #include "document/kinds.h"
 #include "qt/ports/qt_pictures.h"
+#include "tests/qt/test.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/canvas.h"
@@ -19,17 +20,7 @@
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <string>
-#include <vector>
-
 namespace {
-
-using namespace quor;
 
 constexpr Color pink{0x00FF00FF};
 constexpr Color grey{0x00808080};
@@ -109,7 +100,7 @@ struct Row {
     Effect effect;
 };
 
-class Settings : public ::testing::Test {
+class Settings : public testing::Test {
 protected:
     Settings()
     {
@@ -130,7 +121,7 @@ protected:
                 change.write(widget);
             }
             const QRectF area(0, 0, widget.Width() / twipsPerPixelX, widget.Height() / twipsPerPixelY);
-            const auto shown = [&] { return quor::testing::PictureOf(widget, area, area.size().toSize()); };
+            const auto shown = [&] { return PictureOf(widget, area, area.size().toSize()); };
             const QImage before = shown();
             row.change.write(widget);
             const QImage after = shown();

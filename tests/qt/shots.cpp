@@ -67,11 +67,9 @@ void KeepPages(Program& program, const QString& path)
     main.ReleaseControl();
     keep("view");
     for (const Kind& kind : Kinds()) {
-        if (kind.Exists()) {
-            main.InsertElement(kind.type);
-            main.SelectControl(*main.ssScroll().Front());
-            keep(QString::fromLatin1(kind.array.data(), static_cast<qsizetype>(kind.array.size())));
-        }
+        main.InsertElement(kind.type);
+        main.SelectControl(*main.ssScroll().Front());
+        keep(QString::fromLatin1(kind.array.data(), static_cast<qsizetype>(kind.array.size())));
     }
 }
 

@@ -3,10 +3,10 @@
 #include "tests/qt/desk.h"
 
 #include "forms/bars.h"
-#include "qt/canvas/canvas_view.h"
+#include "qt/window/canvas_view.h"
+#include "tests/qt/test.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -14,19 +14,13 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTextBrowser>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-using namespace quor;
-using quor::testing::Desk;
-
 TEST(Window, ThreeLampsAreDrawnSavedAndOpenedAgain)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {101, 98});
     desk.DragTool(3, {203, 98});
     desk.DragTool(3, {304, 202});
@@ -69,7 +63,7 @@ TEST(Window, ThreeLampsAreDrawnSavedAndOpenedAgain)
 
 TEST(Window, EveryDialogCanBeCancelled)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     const QStringList drawn = desk.Elements();
 
@@ -101,7 +95,7 @@ TEST(Window, EveryDialogCanBeCancelled)
 
 TEST(Window, EscapeGivesUpADragAndASizing)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     const QStringList drawn = desk.Elements();
     desk.Drag({105, 105}, {300, 300}, true);
@@ -117,7 +111,7 @@ TEST(Window, EscapeGivesUpADragAndASizing)
 
 TEST(Window, TheRightButtonOpensThePopupOfWhatItIsOver)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     desk.Click({400, 300});
     desk.Click({105, 105}, Qt::RightButton);
@@ -134,7 +128,7 @@ TEST(Window, TheRightButtonOpensThePopupOfWhatItIsOver)
 
 TEST(Window, TheScrollBarsMoveTheViewAndFollowIt)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.DragTool(3, {100, 100});
     CanvasView& canvas = desk.Window().Canvas();
     canvas.verticalScrollBar()->setValue(700);
@@ -155,7 +149,7 @@ TEST(Window, ThePanelsComeAndGoWithTheirTools)
         const char* band;
         const char* tool;
     } rows[] = {{"bndToolbox", "miToolbox"}, {"bndObjProps", "miToolProps"}};
-    Desk desk;
+    EditorDesk desk;
     for (const auto& row : rows) {
         auto* panel = desk.Window().findChild<QWidget*>(row.band);
         const BarTool& tool = desk.Main().abViewEdit().Tool(row.tool);
@@ -176,7 +170,7 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
     const QString layout = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quor";
     QStringList arranged;
     {
-        Desk desk;
+        EditorDesk desk;
         arranged = desk.Toolbar();
         desk.Meet([](QWidget& dialog) {
             auto* tools = dialog.findChild<QListWidget*>("lstTools");
@@ -200,7 +194,7 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
         EXPECT_TRUE(desk.Window().close());
     }
     {
-        Desk desk;
+        EditorDesk desk;
         EXPECT_EQ(desk.Toolbar(), arranged);
         EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
     }
@@ -209,7 +203,7 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
 
 TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
 {
-    Desk desk;
+    EditorDesk desk;
     desk.Meet([&desk](QWidget& dialog) {
         auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
         EXPECT_EQ(dialog.focusWidget(), size);

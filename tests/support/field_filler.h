@@ -1,7 +1,7 @@
 #pragma once
 // Fills the fields of a record with values of a fixed random sequence, to find what one of its orders forgets.
 
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <random>
 #include <string>

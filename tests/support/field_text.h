@@ -1,7 +1,7 @@
 #pragma once
 // The settings of an element as text, by their names in the record: to compare what is stored with what is wanted.
 
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <map>
 #include <string>

@@ -1,14 +1,8 @@
 #include "platform/system_info.h"
 #include "support/frm_about.h"
 #include "support/frm_system_info.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_system_info.h"
-#include "tests/support/fake_timers.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 struct Dialogs : testing::Test {
@@ -38,4 +32,3 @@ TEST_F(Dialogs, AboutShowsWhatThePlatformKnows)
 }
 
 } // namespace
-} // namespace quor

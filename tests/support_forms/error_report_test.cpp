@@ -3,17 +3,8 @@
 #include "base/failure.h"
 #include "platform/forms.h"
 #include "support/frm_error.h"
-#include "tests/support/fake_clipboard.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_screen.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <functional>
-#include <string>
-
-namespace quor {
 namespace {
 
 constexpr std::size_t lineLength = 237;
@@ -179,4 +170,3 @@ TEST(TheVersion, IsThreeNumbers)
 }
 
 } // namespace
-} // namespace quor

@@ -2,10 +2,8 @@
 
 #include "base/failure.h"
 #include "platform/forms.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 struct Loop final : Forms {
@@ -77,4 +75,3 @@ TEST(TheProgress, BeginsAnewAtEachLoad)
 }
 
 } // namespace
-} // namespace quor

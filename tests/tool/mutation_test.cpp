@@ -1,11 +1,9 @@
 #include "base/guard.h"
-#include "document/format/bytes.h"
-#include "document/format/container.h"
+#include "format/bytes.h"
+#include "format/container.h"
+#include "tests/test.h"
 #include "tests/tool/tool_case.h"
 
-#include <random>
-
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -104,4 +102,3 @@ TEST_F(MutatedFiles, OfOldVersionsAreUpgradedOrRefused)
 }
 
 } // namespace
-} // namespace quor

@@ -1,7 +1,6 @@
 #include "apps/tool/password_prompt.h"
 #include "base/failure.h"
-
-#include <gtest/gtest.h>
+#include "tests/test.h"
 
 #include <csignal>
 #include <pty.h>
@@ -11,7 +10,6 @@
 #include <termios.h>
 #include <unistd.h>
 
-namespace quor {
 namespace {
 
 // A process that asks at a terminal of its own. It ends with 0 for the password "secret", 1 for another, 2 for none.
@@ -103,4 +101,3 @@ TEST(TheQuestionForAPassword, EndsWithASignalAndLeavesTheTerminalAsItWas)
 }
 
 } // namespace
-} // namespace quor

@@ -3,9 +3,7 @@
 
 #include "apps/tool/view_tool.h"
 #include "tests/format/samples.h"
-#include "tests/support/fake_files.h"
-
-#include <sstream>
+#include "tests/test.h"
 
 namespace quor {
 

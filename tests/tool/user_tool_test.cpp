@@ -2,17 +2,11 @@
 #include "apps/tool/user_tool.h"
 #include "base/failure.h"
 #include "posix/disk_files.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
@@ -153,4 +147,3 @@ TEST_F(TheUserTool, LeavesAFolderInThePlaceOfTheFileAlone)
 }
 
 } // namespace
-} // namespace quor

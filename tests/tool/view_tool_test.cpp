@@ -1,12 +1,11 @@
 #include "base/text.h"
 #include "posix/disk_files.h"
+#include "tests/test.h"
 #include "tests/tool/tool_case.h"
 
 #include <fcntl.h>
-#include <filesystem>
 #include <unistd.h>
 
-namespace quor {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -249,4 +248,3 @@ TEST_F(Tool, ShowsItsUsageWhereItIsNotUnderstood)
 }
 
 } // namespace
-} // namespace quor

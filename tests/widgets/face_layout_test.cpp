@@ -1,13 +1,10 @@
 #include "widgets/face_layout.h"
 
+#include "tests/test.h"
 #include "widgets/face_places.h"
 #include "widgets/switch_led.h"
 
-#include <gtest/gtest.h>
-
 namespace {
-
-using namespace quor;
 
 FacePlan PlanWith(std::int32_t captionPlace, std::int32_t picturePlace)
 {

@@ -1,5 +1,6 @@
 // Where the parts of gauges lie, for plain numbers and for those that only a damaged file has.
 
+#include "tests/test.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/arc_layout.h"
 #include "widgets/canvas.h"
@@ -8,18 +9,7 @@
 #include "widgets/linear_layout.h"
 #include "widgets/widget_array.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <limits>
-#include <memory>
-#include <string>
-#include <vector>
-
 namespace {
-
-using namespace quor;
 
 constexpr double none = std::numeric_limits<double>::quiet_NaN();
 constexpr double endless = std::numeric_limits<double>::infinity();

@@ -5,8 +5,6 @@
 #include "apps/login/sodium_hasher.h"
 #include "base/event.h"
 #include "binding/live.h"
-#include "binding/simulator/simulated_server.h"
-#include "binding/simulator/sites_file.h"
 #include "editor/application.h"
 #include "login/user_login.h"
 #include "posix/disk_files.h"
@@ -22,6 +20,8 @@
 #include "qt/ports/qt_system_info.h"
 #include "qt/ports/qt_timers.h"
 #include "qt/theme/theme.h"
+#include "servers/simulator/simulated_server.h"
+#include "servers/simulator/sites_file.h"
 #include "support/error_report.h"
 #include "support/frm_view_pbar.h"
 

@@ -1,10 +1,10 @@
 #pragma once
-// The ports of a document that nobody sees: boxes and reports are kept, forms and pictures are none.
+// The ports of a document that nobody sees: boxes and reports are kept, progress and pictures are none.
 
 #include "base/failure.h"
 #include "base/guard.h"
 #include "platform/boxes.h"
-#include "platform/forms.h"
+#include "platform/load_progress.h"
 #include "platform/pictures.h"
 #include "platform/timer.h"
 
@@ -40,13 +40,11 @@ public:
     }
 };
 
-class NoForms final : public Forms {
+class NoProgress final : public LoadProgress {
 public:
-    void Show(Form& /*form*/) override {}
-    void ShowModal(std::unique_ptr<Form> /*form*/) override {}
-    void Hide(Form& /*form*/) override {}
-    void UnloadAll() override {}
-    void RunEvents() override {}
+    void Begin(const std::string& /*caption*/, std::int16_t /*maximum*/, bool /*isShown*/) override {}
+    void IncrProgBar() noexcept override {}
+    void CloseMe() noexcept override {}
 };
 
 class NoTimers final : public Timers {

@@ -49,7 +49,6 @@ Desk::Desk(Files& files, Pictures* pictures)
     : m_files(files), m_live{true}, m_view({.files = files,
                                             .boxes = m_boxes,
                                             .reporter = m_reports,
-                                            .forms = m_forms,
                                             .timers = m_timers,
                                             .pictures = pictures == nullptr ? m_pictures : *pictures,
                                             .progress = m_progress,

@@ -4,7 +4,6 @@
 #include "apps/tool/console_ports.h"
 #include "binding/live.h"
 #include "document/view_document.h"
-#include "support/frm_view_pbar.h"
 #include "widgets/canvas.h"
 
 #include <string>
@@ -49,10 +48,9 @@ private:
     Files& m_files;
     KeptBoxes m_boxes;
     KeptReports m_reports;
-    NoForms m_forms;
+    NoProgress m_progress;
     NoTimers m_timers;
     NoPictures m_pictures;
-    frmViewPBar m_progress{m_forms};
     Live m_live;
     Canvas m_canvas;
     clsCustView m_view;

@@ -7,9 +7,10 @@
 #include "apps/view_json/view_json.h"
 #include "base/guard.h"
 #include "base/text.h"
-#include "document/format/container.h"
-#include "document/format/upgrade.h"
+#include "format/container.h"
+#include "format/upgrade.h"
 #include "platform/scratch_file.h"
+#include "platform/whole_file.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>

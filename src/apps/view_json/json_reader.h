@@ -4,7 +4,7 @@
 // A failure names the key: 5 where a key is missing or unknown, 13 where a value is of another type, 6 where it does
 // not fit the record.
 
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <nlohmann/json_fwd.hpp>
 #include <string>

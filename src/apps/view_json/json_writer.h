@@ -1,7 +1,7 @@
 #pragma once
 // A record's fields as the members of a JSON object.
 
-#include "document/format/field_walk.h"
+#include "format/field_walk.h"
 
 #include <nlohmann/json_fwd.hpp>
 #include <vector>

@@ -1,6 +1,5 @@
 #include "qt/canvas/marks.h"
 
-#include "editor/mouse.h"
 #include "qt/painters/painters.h"
 #include "qt/theme/style_parts.h"
 #include "widgets/canvas.h"
@@ -78,11 +77,10 @@ void DrawGhost(QPainter& painter, const QRectF& area)
     DrawDashed(painter, area, WithAlpha(markColor, ghostOpacity), {3, 3});
 }
 
-void DrawOutline(QPainter& painter, const DragOutline& outline)
+void DrawOutline(QPainter& painter, const QRectF& area, bool isNew)
 {
-    const QRectF area = PixelsOf(outline.area);
     painter.fillRect(Snapped(painter, area), WithAlpha(markColor, fillOpacity));
-    if (outline.what == DragOutline::What::Insert) {
+    if (isNew) {
         DrawDashed(painter, area, markColor, {4, 3});
     } else {
         DrawBox(painter, area, 0, {}, markColor);

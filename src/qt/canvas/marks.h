@@ -11,7 +11,6 @@ class QPainter;
 namespace quor {
 
 class Canvas;
-struct DragOutline;
 
 // The frame around the selected widget just within its handles, in pixels; empty if none is selected.
 QRectF SelectionFrame(const Canvas& canvas);
@@ -22,8 +21,8 @@ void DrawSelection(QPainter& painter, const Canvas& canvas);
 // The outline of an element that paints nothing, so that it can be found.
 void DrawGhost(QPainter& painter, const QRectF& area);
 
-// What follows the pointer.
-void DrawOutline(QPainter& painter, const DragOutline& outline);
+// What follows the pointer; that of a new element is dashed.
+void DrawOutline(QPainter& painter, const QRectF& area, bool isNew);
 
 // The numbers beside the pointer, kept within the view.
 class PointerTip {

@@ -101,11 +101,6 @@ qreal TextBlock::TopBaseline(qreal top) const noexcept
     return HalvesUp(top + (m_lineHeight + capShare * m_size) / 2);
 }
 
-qreal TextBlock::CapsBaseline(qreal top) const noexcept
-{
-    return HalvesUp(top + capShare * m_size);
-}
-
 void TextBlock::Draw(QPainter& painter, qreal left, qreal right, qreal baseline, TextSide side, const QColor& color,
                      const QColor& outline) const
 {

@@ -36,8 +36,6 @@ public:
     qreal MiddleBaseline(qreal top, qreal height) const noexcept;
     // The first baseline of a text whose first line starts there.
     qreal TopBaseline(qreal top) const noexcept;
-    // The first baseline of a text whose capitals reach up to there.
-    qreal CapsBaseline(qreal top) const noexcept;
 
     // Each line at its side of the room between left and right, on a whole pixel; a wider one begins at the left. The
     // outline, if it is a colour, is a pixel around each letter.

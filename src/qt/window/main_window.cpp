@@ -2,10 +2,10 @@
 
 #include "editor/main_form.h"
 #include "forms/bars.h"
-#include "qt/canvas/canvas_view.h"
 #include "qt/ports/qt_text.h"
 #include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
+#include "qt/window/canvas_view.h"
 #include "qt/window/dock_panel.h"
 #include "qt/window/panel_edge.h"
 #include "qt/window/status_line.h"

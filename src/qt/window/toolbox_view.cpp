@@ -2,11 +2,11 @@
 
 #include "editor/main_form.h"
 #include "editor/tools.h"
-#include "qt/canvas/canvas_view.h"
 #include "qt/painters/painters.h"
 #include "qt/ports/qt_text.h"
 #include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
+#include "qt/window/canvas_view.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -51,7 +51,6 @@ public:
         setObjectName(QStringLiteral("cmdTool(%1)").arg(index));
         setAccessibleName(name);
         setToolTip(name);
-        setEnabled(button.Enabled());
         setAttribute(Qt::WA_Hover);
     }
 
@@ -60,11 +59,10 @@ protected:
     {
         QPainter painter(this);
         const ThemeColors& colors = m_theme.Colors();
-        if (isEnabled() && (m_isHeld || underMouse())) {
+        if (m_isHeld || underMouse()) {
             DrawBox(painter, QRect(0, 0, face, face), radii::button, m_isHeld ? colors.pressed : colors.hover);
         }
-        m_icon.paint(&painter, QRect(iconInset, iconInset, iconSize, iconSize), Qt::AlignCenter,
-                     isEnabled() ? QIcon::Normal : QIcon::Disabled);
+        m_icon.paint(&painter, QRect(iconInset, iconInset, iconSize, iconSize));
     }
 
     void mousePressEvent(QMouseEvent* event) override

@@ -1,12 +1,10 @@
 #include "tests/journey_driver/answers.h"
 
 #include "tests/support/quoted.h"
-
-#include <gtest/gtest.h>
+#include "tests/test.h"
 
 #include <initializer_list>
 
-namespace quor {
 namespace {
 
 using Kind = Expected::Kind;
@@ -119,4 +117,3 @@ TEST(ADifference, ShowsBothAndMarksWhatIsNotMet)
 }
 
 } // namespace
-} // namespace quor

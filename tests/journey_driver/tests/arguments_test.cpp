@@ -1,8 +1,6 @@
 #include "tests/journey_driver/arguments.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 TEST(TheWordsOfAStep, FitItsShapeOrAreRefused)
@@ -43,4 +41,3 @@ TEST(TheWordsOfAStep, FitItsShapeOrAreRefused)
 }
 
 } // namespace
-} // namespace quor

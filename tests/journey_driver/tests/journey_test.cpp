@@ -1,8 +1,6 @@
 #include "tests/journey_driver/journey.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 std::string ErrorOf(std::string_view text)
@@ -53,4 +51,3 @@ TEST(AMalformedLine, IsNamed)
 }
 
 } // namespace
-} // namespace quor

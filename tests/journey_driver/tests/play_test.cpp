@@ -1,10 +1,6 @@
 #include "tests/journey_driver/play.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-
-namespace quor {
 namespace {
 
 std::string Differences(std::string_view text)
@@ -62,4 +58,3 @@ TEST(AJourneyOfTheProgram, KeepsAReportOpenForStepsThatSpeakOfIt)
 }
 
 } // namespace
-} // namespace quor

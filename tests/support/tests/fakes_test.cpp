@@ -1,12 +1,6 @@
 #include "base/failure.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_dialog.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_timers.h"
+#include "tests/test.h"
 
-#include <gtest/gtest.h>
-
-namespace quor {
 namespace {
 
 template <class Action> int NumberOf(Action action)
@@ -121,4 +115,3 @@ TEST(DialogsOfTests, FollowTheScriptAndCancelWithoutOne)
 }
 
 } // namespace
-} // namespace quor

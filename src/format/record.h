@@ -1,0 +1,88 @@
+#pragma once
+// The bytes of a record: its text and font fields, a walk that writes a record and one that reads a payload.
+
+#include "format/field_walk.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor {
+
+// Appends the text in windows-1252 and a zero byte.
+void AppendZString(std::vector<std::uint8_t>& bytes, std::string_view text);
+
+// Reads up to a zero byte or the end of the bytes, and moves the position by the text's length plus 1. At or behind the
+// end the text is empty.
+void ExtractZString(std::span<const std::uint8_t> bytes, std::size_t& position, std::string& text);
+
+void AppendFontRecord(std::vector<std::uint8_t>& bytes, const Font& font);
+
+// Sets the font's attributes, the weight last, and moves the position behind the record. Fails with 9, font and
+// position unchanged, where the fixed bytes are not all there.
+void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& position, Font& font);
+
+// Builds one record in a buffer that keeps its memory from one record to the next.
+class RecordWriter final : public FieldWalk {
+public:
+    RecordWriter(std::vector<std::uint8_t>& buffer, std::uint8_t type);
+
+    // Completes the record: the buffer holds it and nothing else, frame included. Gives the sum of its bytes. Fails
+    // with 6 if the payload has more than 32,767 bytes.
+    std::int32_t Finish();
+
+private:
+    void Field(std::string_view, bool& value) override;
+    void Field(std::string_view, WideFlag& value) override;
+    void Field(std::string_view, std::uint8_t& value) override;
+    void Field(std::string_view, std::int16_t& value) override;
+    void Field(std::string_view, std::int32_t& value) override;
+    void Field(std::string_view, float& value) override;
+    void Field(std::string_view, Color& value) override;
+    void Field(std::string_view, Font& value) override;
+    void Field(std::string_view, std::string& value) override;
+    void ByteField(std::string_view, std::int32_t& value) override; // fails with 6 where it does not fit a byte
+    void NameField(std::string_view, std::string& value) override;
+    void Begin(std::string_view) override {}
+    void End() override {}
+
+    template <class T> void Put(T value);
+    std::uint8_t* Room(std::size_t count);
+    void Grow(std::size_t count);
+
+    std::vector<std::uint8_t>& m_buffer;
+};
+
+// Reads the fields of a payload. A field that is not wholly there fails with 9, says where, and moves nothing.
+class RecordReader final : public FieldWalk {
+public:
+    explicit RecordReader(std::span<const std::uint8_t> payload) : m_payload(payload) {}
+
+    // Of the next field.
+    std::size_t Position() const noexcept { return m_position; }
+
+private:
+    void Field(std::string_view name, bool& value) override;
+    void Field(std::string_view name, WideFlag& value) override;
+    void Field(std::string_view name, std::uint8_t& value) override;
+    void Field(std::string_view name, std::int16_t& value) override;
+    void Field(std::string_view name, std::int32_t& value) override;
+    void Field(std::string_view name, float& value) override;
+    void Field(std::string_view name, Color& value) override;
+    void Field(std::string_view name, Font& value) override;
+    void Field(std::string_view name, std::string& value) override;
+    void ByteField(std::string_view name, std::int32_t& value) override;
+    void NameField(std::string_view name, std::string& value) override; // reads it and drops it
+    void Begin(std::string_view) override {}
+    void End() override {}
+
+    template <class T> void Take(std::string_view name, T& value);
+
+    std::span<const std::uint8_t> m_payload;
+    std::size_t m_position = 0;
+};
+
+} // namespace quor
