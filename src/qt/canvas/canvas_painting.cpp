@@ -1,11 +1,12 @@
 #include "qt/canvas/canvas_painting.h"
 
 #include "qt/canvas/marks.h"
-#include "qt/painters/device_space.h"
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/painters.h"
 #include "qt/painters/picture_drawing.h"
 #include "qt/ports/qt_text.h"
-#include "qt/theme/style_parts.h"
 #include "widgets/canvas.h"
 
 #include <QPainter>

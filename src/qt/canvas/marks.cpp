@@ -1,7 +1,8 @@
 #include "qt/canvas/marks.h"
 
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/painters.h"
-#include "qt/theme/style_parts.h"
 #include "widgets/canvas.h"
 
 #include <QFontMetrics>
@@ -18,6 +19,7 @@ constexpr qreal frameOpacity = 0.55;
 constexpr qreal ghostOpacity = 0.45;
 constexpr qreal fillOpacity = 0.07;
 constexpr qreal tipOpacity = 0.92;
+constexpr qreal tipRadius = 3;
 
 // The nearest pixel; the middle at half a pixel rounds down.
 qreal NearestDown(qreal value)
@@ -103,7 +105,7 @@ PointerTip::PointerTip(const QString& text, const QFont& font, const QPoint& poi
 
 void PointerTip::Draw(QPainter& painter, const QFont& font) const
 {
-    DrawBox(painter, m_place, radii::control, WithAlpha(QColor(0x1B, 0x22, 0x2A), tipOpacity));
+    DrawBox(painter, m_place, tipRadius, WithAlpha(QColor(0x1B, 0x22, 0x2A), tipOpacity));
     painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(m_place, Qt::AlignCenter | Qt::TextSingleLine, m_text);

@@ -1,7 +1,7 @@
 #include "qt/painters/analog_display_painter.h"
 
+#include "qt/drawing/device_space.h"
 #include "qt/painters/bevel.h"
-#include "qt/painters/device_space.h"
 #include "qt/painters/gauge_painting.h"
 #include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"

@@ -1,9 +1,9 @@
 #include "qt/painters/angular_gauge_painter.h"
 
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
-#include "qt/painters/device_space.h"
 #include "qt/painters/gauge_painting.h"
-#include "qt/painters/mixing.h"
 #include "qt/painters/smooth_fills.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/angular_gauge.h"

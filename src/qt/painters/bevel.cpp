@@ -1,8 +1,8 @@
 #include "qt/painters/bevel.h"
 
-#include "qt/painters/device_space.h"
-#include "qt/painters/mixing.h"
-#include "qt/painters/rounded.h"
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 
 namespace quor {
 

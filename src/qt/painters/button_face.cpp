@@ -1,9 +1,9 @@
 #include "qt/painters/button_face.h"
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/kept_picture.h"
-#include "qt/painters/mixing.h"
-#include "qt/painters/rounded.h"
 
 #include <QLinearGradient>
 

@@ -1,6 +1,6 @@
 #include "qt/painters/captioned_face.h"
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
 #include "qt/painters/picture_drawing.h"
 #include "qt/painters/text_block.h"
 

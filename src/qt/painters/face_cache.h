@@ -2,7 +2,7 @@
 // The parts of instruments that stand still, kept as pictures until a setting changes. What is lost is drawn again, so
 // the bound on their memory costs time only.
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
 
 #include <QByteArray>
 #include <QCache>

@@ -1,8 +1,8 @@
 #include "qt/painters/gauge_painting.h"
 
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
-#include "qt/painters/device_space.h"
-#include "qt/painters/mixing.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/gauge_scale.h"
 #include "widgets/scale_gauge.h"

@@ -1,8 +1,8 @@
 #include "qt/painters/lamp_face.h"
 
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/kept_picture.h"
-#include "qt/painters/mixing.h"
-#include "qt/painters/rounded.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/round_led.h"
 

@@ -1,10 +1,10 @@
 #include "qt/painters/linear_gauge_painter.h"
 
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
-#include "qt/painters/device_space.h"
 #include "qt/painters/gauge_painting.h"
-#include "qt/painters/mixing.h"
-#include "qt/painters/rounded.h"
 #include "qt/painters/smooth_fills.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/linear_gauge.h"

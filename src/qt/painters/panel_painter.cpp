@@ -1,8 +1,8 @@
 #include "qt/painters/panel_painter.h"
 
+#include "qt/drawing/device_space.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/captioned_face.h"
-#include "qt/painters/device_space.h"
 #include "qt/painters/picture_drawing.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/panel.h"

@@ -1,7 +1,7 @@
 #include "qt/painters/picture_drawing.h"
 
 #include "platform/pictures.h"
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
 #include "qt/ports/qt_pictures.h"
 
 #include <QBrush>

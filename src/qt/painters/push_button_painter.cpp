@@ -1,9 +1,9 @@
 #include "qt/painters/push_button_painter.h"
 
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
 #include "qt/painters/button_face.h"
 #include "qt/painters/captioned_face.h"
-#include "qt/painters/device_space.h"
-#include "qt/painters/rounded.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/push_button.h"
 

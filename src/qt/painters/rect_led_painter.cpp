@@ -1,9 +1,9 @@
 #include "qt/painters/rect_led_painter.h"
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/boxes.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/lamp_face.h"
-#include "qt/painters/mixing.h"
-#include "qt/painters/rounded.h"
 #include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/rect_led.h"

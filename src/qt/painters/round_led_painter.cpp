@@ -1,9 +1,9 @@
 #include "qt/painters/round_led_painter.h"
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/kept_picture.h"
 #include "qt/painters/lamp_face.h"
-#include "qt/painters/mixing.h"
 #include "qt/painters/smooth_fills.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/round_led.h"

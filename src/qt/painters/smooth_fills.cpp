@@ -1,6 +1,6 @@
 #include "qt/painters/smooth_fills.h"
 
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
 
 #include <QPainter>
 

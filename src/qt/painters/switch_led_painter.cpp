@@ -1,7 +1,7 @@
 #include "qt/painters/switch_led_painter.h"
 
+#include "qt/drawing/device_space.h"
 #include "qt/painters/button_face.h"
-#include "qt/painters/device_space.h"
 #include "qt/painters/lamp_face.h"
 #include "qt/painters/text_block.h"
 #include "qt/ports/qt_text.h"

@@ -9,6 +9,9 @@ namespace quor {
 // In device pixels, beyond all pictures: the toolkit takes seconds for curves farther away, so they are cut there.
 inline constexpr QRectF reachable(-2'000, -2'000, 34'000, 34'000);
 
+// With the edges rounded.
+QRectF OnWholePixels(const QRectF& area);
+
 class DeviceSpace {
 public:
     // The area is in the painter's coordinates before, in device pixels after.
@@ -17,7 +20,7 @@ public:
     DeviceSpace(const DeviceSpace&) = delete;
     DeviceSpace& operator=(const DeviceSpace&) = delete;
 
-    // With the edges rounded to whole pixels.
+    // On whole pixels.
     const QRectF& Area() const noexcept { return m_area; }
     // The area's, in device-independent pixels. What fits and where lines break is decided by it, at every scale alike.
     const QSizeF& Size() const noexcept { return m_size; }

@@ -1,4 +1,4 @@
-#include "qt/painters/device_space.h"
+#include "qt/drawing/device_space.h"
 
 #include <QTransform>
 
@@ -7,14 +7,18 @@
 
 namespace quor {
 
+QRectF OnWholePixels(const QRectF& area)
+{
+    return {QPointF(std::round(area.left()), std::round(area.top())),
+            QPointF(std::round(area.right()), std::round(area.bottom()))};
+}
+
 DeviceSpace::DeviceSpace(QPainter& painter, const QRectF& area) : m_painter(painter), m_size(area.size())
 {
     painter.save();
     const QTransform toDevice = painter.deviceTransform();
     const QTransform& toWorld = painter.worldTransform();
-    const QRectF exact = toDevice.mapRect(area);
-    m_area.setCoords(std::round(exact.left()), std::round(exact.top()), std::round(exact.right()),
-                     std::round(exact.bottom()));
+    m_area = OnWholePixels(toDevice.mapRect(area));
     m_scale = toDevice.m11();
     painter.setWorldTransform(toDevice.inverted() * toWorld);
 }

@@ -1,7 +1,5 @@
 #pragma once
-// Colours as the painters mix them, in sRGB.
-
-#include "base/values.h"
+// Colours mixed with others, in sRGB.
 
 #include <QColor>
 
@@ -28,14 +26,20 @@ inline QColor Darker(const QColor& color, qreal share)
     return MixedWith(color, 0, share);
 }
 
+inline QColor WithAlpha(QColor color, qreal opacity)
+{
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
 inline QColor WhiteAt(qreal opacity)
 {
-    return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));
+    return WithAlpha(Qt::white, opacity);
 }
 
 inline QColor BlackAt(qreal opacity)
 {
-    return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
+    return WithAlpha(Qt::black, opacity);
 }
 
 // What is seen of a colour that lies over an opaque one.
