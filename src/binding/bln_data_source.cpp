@@ -6,7 +6,6 @@
 #include "binding/masks.h"
 #include "binding/server.h"
 #include "binding/sites.h"
-#include "binding/source_trace.h"
 
 #include <charconv>
 #include <cmath>
@@ -92,18 +91,14 @@ std::weak_ptr<char> clsBlnDataSource::Life()
 
 void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->UpdateBlnData(*this, value, mute);
-    }
+    m_live.Tracer->UpdateBlnData(*this, value, mute);
     // Last: the owner may end the source.
     IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
 }
 
 bool clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->LabelData(*this, on, off);
-    }
+    m_live.Tracer->LabelData(*this, on, off);
     const std::weak_ptr<char> life = Life();
     IgnoreFailure([&] { m_owner.m_BlnDataSource_LabelData(on, off); });
     return !life.expired();

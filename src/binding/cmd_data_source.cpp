@@ -5,7 +5,6 @@
 #include "binding/live.h"
 #include "binding/server.h"
 #include "binding/sites.h"
-#include "binding/source_trace.h"
 #include "format/view_title.h"
 #include "platform/boxes.h"
 #include "platform/login.h"
@@ -69,17 +68,13 @@ void clsCmdDataSource::UpdateEnable()
 {
     m_lockReason = WorkOutLock();
     m_enabled = CmdDataType() != actions::none && m_lockReason.empty();
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->ToggleEnable(*this, m_enabled);
-    }
+    m_live.Tracer->ToggleEnable(*this, m_enabled);
     ToggleEnable.Raise(m_enabled);
 }
 
 void clsCmdDataSource::RaiseLabel(const std::string& caption)
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->LabelData(*this, caption);
-    }
+    m_live.Tracer->LabelData(*this, caption);
     LabelData.Raise(caption);
 }
 

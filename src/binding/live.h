@@ -2,6 +2,7 @@
 // What elements and their data sources need of the process.
 
 #include "binding/router.h"
+#include "platform/trace.h"
 
 #include <functional>
 #include <string>
@@ -12,7 +13,6 @@ class Files;
 class MessageBoxes;
 class Pictures;
 class QuorLogin;
-class SourceTrace;
 class TeskCatalogHost;
 class TeskServer;
 class TeskSiteCatalog;
@@ -32,7 +32,7 @@ struct Live {
     Pictures* PictureFiles = nullptr; // for elements that show a file
     Files* ViewFiles = nullptr;       // for the titles of views that a click would open
     std::function<void(const std::string&)> LoadCustomView;
-    SourceTrace* Trace = nullptr;
+    const Trace* Tracer = &noTrace;
 
     // Brings the server's events to the sources.
     Router Routes;

@@ -6,7 +6,6 @@
 #include "binding/live.h"
 #include "binding/masks.h"
 #include "binding/server.h"
-#include "binding/source_trace.h"
 
 namespace quor {
 
@@ -42,25 +41,19 @@ void clsMtrDataSource::Follow()
 
 void clsMtrDataSource::RaiseUpdate(float value, bool mute)
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->UpdateMtrData(*this, value, mute);
-    }
+    m_live.Tracer->UpdateMtrData(*this, value, mute);
     IgnoreFailure([&] { m_owner.m_MtrDataSource_UpdateMtrData(value, mute); });
 }
 
 void clsMtrDataSource::RaiseDecimalPlaces()
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->DecPlacesChanged(*this, DecimalPlaces());
-    }
+    m_live.Tracer->DecPlacesChanged(*this, DecimalPlaces());
     IgnoreFailure([&] { m_owner.m_MtrDataSource_DecPlacesChanged(DecimalPlaces()); });
 }
 
 void clsMtrDataSource::RaiseLabel(const MeterLabel& label)
 {
-    if (m_live.Trace != nullptr) {
-        m_live.Trace->LabelData(*this, label);
-    }
+    m_live.Tracer->LabelData(*this, label);
     IgnoreFailure([&] { m_owner.m_MtrDataSource_LabelData(label); });
 }
 

@@ -138,9 +138,6 @@ void clsCustView::RefreshAll()
 
 void clsCustView::RepaintAll()
 {
-    if (m_canvas.Tracer() == nullptr) {
-        return; // nobody would hear: the canvas knows already what has changed
-    }
     for (const std::uint8_t type : repaintOrder) {
         for (const std::unique_ptr<Element>& element : *m_collections[type]) {
             element->RepaintWhatShowsThrough();

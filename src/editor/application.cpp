@@ -25,7 +25,6 @@ void Application::OpenMainForm()
 {
     m_main = std::make_unique<frmMain>(m_ports);
     m_mainUnloaded = m_main->Unloaded.Subscribe([this] { EndUnlessFormsAreLeft(); });
-    MainFormLoads.Raise(*m_main);
     m_main->Form_Load(m_tail);
     if (!m_main->IsUnloading()) { // the session may have ended during the load
         MainFormShown.Raise(*m_main);

@@ -20,7 +20,6 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    Event<frmMain&> MainFormLoads; // it exists and is about to run its load
     Event<frmMain&> MainFormShown;
     Event<> Ended;
 

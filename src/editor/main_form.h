@@ -42,10 +42,7 @@ public:
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
-    // Raised whenever the selection is set to another widget, and at each release (null).
-    Event<const Widget*> SelectionChanged;
-    Event<const std::string&> StatusChanged; // the status text was set
-    Event<> DragChanged;                     // a drag or a sizing began, moved or ended
+    Event<> DragChanged; // a drag or a sizing began, moved or ended
     Event<> Unloaded;
 
     // Start and end (main_start.cpp). The tail is that of the command line.

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "base/text.h"
+#include "binding/live.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
 #include "editor/main_form.h"
@@ -69,7 +70,7 @@ void frmMain::SelectControl(Widget& widget)
         const bool changed = m_selected == nullptr || m_selected->Tag() != widget.Tag();
         m_selected = &widget;
         if (changed) {
-            SelectionChanged.Raise(m_selected);
+            m_ports.live.Tracer->Selects(m_selected);
         }
         m_bars->Focus();
         ShowPropertyPages(widget.Name(), changed);
@@ -83,7 +84,7 @@ void frmMain::ReleaseControl()
 {
     Guard(m_ports.reporter, Ref("frmMain.ReleaseControl"), "Unable to release the selected control.", [&] {
         m_selected = nullptr;
-        SelectionChanged.Raise(nullptr);
+        m_ports.live.Tracer->Selects(nullptr);
         HideHandles();
         ShowPropertyPages(PropertyPanel::viewBand, true);
         SetStatusCaption(nullptr);
@@ -115,7 +116,7 @@ void frmMain::SetStatusCaption(const Widget* widget)
     Band& status = m_bars->BandOf("bndStatus");
     status.Tool("lblSelectedControl").Tool().Set(&BarTool::Caption, text);
     status.Refresh();
-    StatusChanged.Raise(text);
+    m_ports.live.Tracer->SetsStatus(text);
 }
 
 Element* frmMain::GetSelectedElement() const

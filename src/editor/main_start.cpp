@@ -35,6 +35,7 @@ frmMain::frmMain(const EditorPorts& ports)
       m_toolbox(std::make_unique<frmViewToolbox>(ports.reporter, *this)), tmrDelControl(ports.timers.Make())
 {
     AddWidgetArrays(m_canvas);
+    m_canvas.SetTracer(*m_ports.live.Tracer);
     m_view = MakeView();
     m_panel = std::make_unique<PropertyPanel>(*m_bars, *this);
     m_canvas.SetScrollMaxima(startWidth, startHeight);

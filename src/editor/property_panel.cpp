@@ -1,6 +1,7 @@
 #include "editor/property_panel.h"
 
 #include "base/guard.h"
+#include "binding/live.h"
 #include "forms/bars.h"
 #include "pages/data/frm_cv_bln_data_source.h"
 #include "pages/data/frm_cv_cmd_data_source.h"
@@ -138,14 +139,14 @@ void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, b
     if (row != std::end(kindPages)) {
         ShowTabs(row->tabs);
     }
-    TabsSet.Raise();
+    m_host.PageLive().Tracer->SetsTabs(m_bars.BandOf(panelBand));
     if (element != nullptr) {
         Bind(generalPage, *element, name);
         if (reload && row != std::end(kindPages)) {
             Bind(row->pages, *element, name);
         }
     } else if (reload && isView && m_viewPage != nullptr) {
-        Called.Raise({"SetProps", m_viewPage->Name(), {}});
+        m_host.PageLive().Tracer->Calls("SetProps", m_viewPage->Name(), {});
         m_viewPage->SetProps();
     }
     m_bars.RecalcLayout();
@@ -164,7 +165,7 @@ void PropertyPanel::Clear(std::string_view pages)
 {
     while (!pages.empty()) {
         if (Page* page = FindPage(TakeName(pages))) {
-            Called.Raise({"ClearOwner", page->Name(), {}});
+            m_host.PageLive().Tracer->Calls("ClearOwner", page->Name(), {});
             page->ClearOwner();
         }
     }
@@ -174,7 +175,7 @@ void PropertyPanel::Bind(std::string_view pages, Element& element, std::string_v
 {
     while (!pages.empty()) {
         if (Page* page = FindPage(TakeName(pages))) {
-            Called.Raise({"SetOwner", page->Name(), element.ObjName()});
+            m_host.PageLive().Tracer->Calls("SetOwner", page->Name(), element.ObjName());
             page->SetOwner(element, array);
         }
     }

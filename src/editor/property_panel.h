@@ -1,8 +1,6 @@
 #pragma once
 // The panel of property pages (bndObjProps): which tabs show for a selection, and which pages are bound to it.
 
-#include "base/event.h"
-
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,13 +14,6 @@ class Page;
 class PageHost;
 class frmCVViewProps;
 
-// A call of a page, as it happens.
-struct PageCall {
-    std::string_view verb; // "ClearOwner", "SetOwner" or "SetProps"
-    std::string_view page;
-    std::string_view element; // the name, for SetOwner
-};
-
 class PropertyPanel {
 public:
     static constexpr std::string_view viewBand = "prpViewProps";
@@ -30,9 +21,6 @@ public:
 
     PropertyPanel(Bars& bars, PageHost& host);
     ~PropertyPanel();
-
-    Event<const PageCall&> Called;
-    Event<> TabsSet;
 
     // Makes the pages and puts each into its tool. There is no page before.
     void BindPanels();

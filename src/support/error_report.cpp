@@ -38,7 +38,7 @@ ErrorReporter::ErrorReporter(const Ports& ports, std::string programFolder, std:
 void ErrorReporter::ShowError(const ErrorReport& report) noexcept
 {
     LogError(report);
-    IgnoreFailure([&] { Reported.Raise(report); });
+    m_ports.trace.Reports(report);
     IgnoreFailure([&] {
         auto form = std::make_unique<frmError>(m_ports.screen, m_ports.clipboard, m_ports.clock);
         form->SetError(report);

@@ -1,8 +1,8 @@
 #pragma once
 // Where every failure ends that a procedure catches: a line in the error log and the error dialog.
 
-#include "base/event.h"
 #include "base/guard.h"
+#include "platform/trace.h"
 
 #include <string>
 
@@ -22,12 +22,11 @@ public:
         Screen& screen;
         Clipboard& clipboard;
         Clock& clock;
+        const Trace& trace = noTrace;
     };
 
     // The log is "error.log" in the program's folder; in the user's one where the other can't be written.
     ErrorReporter(const Ports& ports, std::string programFolder, std::string userFolder);
-
-    Event<const ErrorReport&> Reported; // before the dialog shows
 
     // Logs the report and shows it. Returns when the user is done; its own failures are forgotten.
     void ShowError(const ErrorReport& report) noexcept override;

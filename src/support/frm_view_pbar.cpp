@@ -6,7 +6,7 @@
 
 namespace quor {
 
-frmViewPBar::frmViewPBar(Forms& forms) : Form("frmViewPBar"), m_forms(forms)
+frmViewPBar::frmViewPBar(Forms& forms, const Trace& trace) : Form("frmViewPBar"), m_forms(forms), m_trace(trace)
 {
     Set(&Form::Caption, "Custom View Editor");
     Set(&Form::ControlBox, false);
@@ -41,7 +41,7 @@ void frmViewPBar::IncrProgBar() noexcept
     if (pbrConfig.Value() < pbrConfig.Maximum()) {
         IgnoreFailure([&] { pbrConfig.Value(pbrConfig.Value() + 1); });
     }
-    IgnoreFailure([&] { Stepped.Raise(pbrConfig.Value()); });
+    m_trace.Steps(pbrConfig.Value());
     IgnoreFailure([&] { m_forms.RunEvents(); });
 }
 

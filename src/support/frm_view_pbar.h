@@ -3,6 +3,7 @@
 
 #include "forms/form.h"
 #include "platform/load_progress.h"
+#include "platform/trace.h"
 
 namespace quor {
 
@@ -10,12 +11,10 @@ class Forms;
 
 class frmViewPBar final : public Form, public LoadProgress {
 public:
-    explicit frmViewPBar(Forms& forms);
+    explicit frmViewPBar(Forms& forms, const Trace& trace = noTrace);
 
     Label& lblStatus = Make<Label>("lblStatus", "", LabelRole::Message);
     ProgressBar& pbrConfig = Make<ProgressBar>("pbrConfig");
-
-    Event<std::int32_t> Stepped; // the bar's value, at each IncrProgBar, before the event loop may run
 
     // None of these fails; a value beyond the maximum changes nothing.
     void InitPBar(const std::string& caption, std::int16_t maximum) noexcept;
@@ -29,6 +28,7 @@ private:
     void Form_Load() override;
 
     Forms& m_forms;
+    const Trace& m_trace;
 };
 
 } // namespace quor

@@ -9,6 +9,7 @@
 #include "base/event.h"
 #include "base/values.h"
 #include "platform/pictures.h"
+#include "platform/trace.h"
 #include "widgets/widget.h"
 
 #include <array>
@@ -131,8 +132,9 @@ public:
     void Invalidate(const Area& area);
     void InvalidateAll();
 
-    WidgetTrace* Tracer() const noexcept { return m_tracer; }
-    void SetTracer(WidgetTrace* tracer) noexcept { m_tracer = tracer; } // not owned; null for none
+    // Hears of the canvas's widgets. Not owned.
+    const Trace& Tracer() const noexcept { return *m_tracer; }
+    void SetTracer(const Trace& tracer) noexcept { m_tracer = &tracer; }
 
 private:
     friend class CanvasHold;
@@ -156,7 +158,7 @@ private:
     std::int32_t m_scrollY = 0;
     std::int32_t m_scrollMaxX = 0;
     std::int32_t m_scrollMaxY = 0;
-    WidgetTrace* m_tracer = nullptr;
+    const Trace* m_tracer = &noTrace;
     int m_holds = 0;
     std::vector<Area> m_stale; // what changed during the hold
 };

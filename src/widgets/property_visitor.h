@@ -23,4 +23,19 @@ public:
     virtual void Visit(std::string_view name, const PictureRef& value) = 0;
 };
 
+// A property and the value that is written to it, of any type.
+struct WrittenProperty {
+    template <class T>
+    WrittenProperty(std::string_view property, const T& written)
+        : name(property), value(&written), visit([](PropertyVisitor& visitor, const WrittenProperty& self) {
+              visitor.Visit(self.name, *static_cast<const T*>(self.value));
+          })
+    {
+    }
+
+    std::string_view name;
+    const void* value;
+    void (*visit)(PropertyVisitor& visitor, const WrittenProperty& self);
+};
+
 } // namespace quor

@@ -53,16 +53,18 @@ void Widget::InvalidateChanged(const Area& before, const Area& after) const
     }
 }
 
-void Widget::Repaint() const
+void Widget::RepaintNow() const
 {
-    if (WidgetTrace* trace = Tracer()) {
-        trace->Repaints(*this);
+    if (m_canvas != nullptr) {
+        m_canvas->Tracer().Repaints(*this);
     }
 }
 
-WidgetTrace* Widget::Tracer() const noexcept
+void Widget::Writes(const WrittenProperty& property) const
 {
-    return m_canvas == nullptr ? nullptr : m_canvas->Tracer();
+    if (m_canvas != nullptr) {
+        m_canvas->Tracer().Writes(*this, property);
+    }
 }
 
 } // namespace quor

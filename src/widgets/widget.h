@@ -17,14 +17,6 @@ namespace quor {
 class Canvas;
 class WidgetArray;
 
-// Who wants to know of every write and repaint, equal values too.
-class WidgetTrace : public PropertyVisitor {
-public:
-    // Followed by one Visit with the property.
-    virtual void Writes(const class Widget& widget) = 0;
-    virtual void Repaints(const class Widget& widget) = 0;
-};
-
 class Widget {
 public:
     // In twips, within the visible part of the canvas.
@@ -44,7 +36,7 @@ public:
     void Set(Property<Name, T> W::*property, std::type_identity_t<T> value)
     {
         auto& written = static_cast<W&>(*this).*property;
-        Trace(written.name, value);
+        Writes({written.name, value});
         if (written() == value) {
             return;
         }
@@ -71,10 +63,10 @@ public:
     Widget* Above() const noexcept { return m_above; }
     Widget* Below() const noexcept { return m_below; }
 
-    // Asks for it to be painted, and with what lies behind. Only a tracer hears: whatever changes how a widget or what
+    // Asks for it to be painted, and with what lies behind. Only the trace hears: whatever changes how a widget or what
     // lies behind it looks has told the canvas by itself, so nothing is painted twice or in vain.
-    void RepaintNow() const { Repaint(); }
-    void RepaintAll() const { Repaint(); }
+    void RepaintNow() const;
+    void RepaintAll() const { RepaintNow(); }
 
     // Whether the user may move it among the others, to the front or to the back.
     virtual bool MayBeReordered() const { return true; }
@@ -112,16 +104,7 @@ private:
 
     void InvalidateShown() const;
     void InvalidateChanged(const Area& before, const Area& after) const;
-    void Repaint() const;
-    WidgetTrace* Tracer() const noexcept;
-
-    template <class T> void Trace(std::string_view name, const T& value) const
-    {
-        if (WidgetTrace* trace = Tracer()) {
-            trace->Writes(*this);
-            trace->Visit(name, value);
-        }
-    }
+    void Writes(const WrittenProperty& property) const;
 
     Canvas* m_canvas = nullptr;
     WidgetArray* m_array = nullptr;

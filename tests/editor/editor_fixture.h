@@ -28,7 +28,11 @@ struct EditorFixture : testing::Test {
     FakeScreen screen;
     Live live;
     TestReporter reporter;
-    frmViewPBar progress{forms};
+    struct StepTrace final : Trace {
+        std::function<void()> atAStep = [] {};
+        void Steps(std::int32_t /*progress*/) const override { atAStep(); }
+    } trace;
+    frmViewPBar progress{forms, trace};
     frmMain main{EditorPorts{.files = files,
                              .boxes = boxes,
                              .dlgProp = dialog,

@@ -81,8 +81,7 @@ TEST_F(TheMainForm, SurvivesTheEndOfTheSessionInTheMiddleOfALoad)
     Insert<clsLEDRound>();
     Insert<clsLEDRound>();
     ASSERT_TRUE(main.SaveView("a.qvw"));
-    const Subscription session =
-        progress.Stepped.Subscribe([this](std::int32_t) { main.Close(CloseReason::TaskManager); });
+    trace.atAStep = [this] { main.Close(CloseReason::TaskManager); };
     main.OpenView("a.qvw");
     EXPECT_EQ(ends, 1);
 }

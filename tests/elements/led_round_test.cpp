@@ -19,7 +19,7 @@ struct ALamp : testing::Test {
     {
         canvas.SetScrollMaxima(9000, 9000);
         led.ReadControlProps();
-        canvas.SetTracer(&journal);
+        canvas.SetTracer(journal);
     }
 };
 

@@ -26,7 +26,7 @@ template <class E> struct AMeter : testing::Test {
         meter->MtrDataSource.Set(&clsMtrDataSource::Site, "Ridge");
         meter->MtrDataSource.Set(&clsMtrDataSource::Unit, 2);
         meter->MtrDataSource.Set(&clsMtrDataSource::Channel, 1);
-        canvas.SetTracer(&journal);
+        canvas.SetTracer(journal);
     }
 
     std::unique_ptr<E> MakeOne(std::int32_t index)

@@ -32,7 +32,7 @@ template <class E> struct OnCanvas {
         files.PutText("on.bmp", "on");
         files.PutText("off.bmp", "off");
         element.ReadControlProps();
-        canvas.SetTracer(&journal);
+        canvas.SetTracer(journal);
     }
 
     Widget& MakeReady(TeskServer* server)

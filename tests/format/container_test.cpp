@@ -56,7 +56,7 @@ std::string Outcome(FakeFiles& files, const Bytes& bytes)
     FakePictures pictures(files);
     frmViewPBar progress(forms);
     Live live;
-    LoneView lone(ViewPorts{files, boxes, failed, timers, pictures, progress, live}, nullptr);
+    LoneView lone(ViewPorts{files, boxes, failed, timers, pictures, progress, live});
     lone.Load("a.qvw");
     switch (lone.View().Verdict()) {
     case LoadVerdict::WrongFile:

@@ -35,7 +35,7 @@ using NamedValue = std::function<void(std::string_view name, const std::string& 
 void VisitFont(const Font& font, const NamedValue& visit);
 
 // Says what a visitor sees as a name and a text, a font attribute by attribute.
-template <class Visitor> class SayingVisitor : public Visitor {
+class SayingVisitor : public PropertyVisitor {
 public:
     void Visit(std::string_view name, bool value) override { Say(name, ValueText(value)); }
     void Visit(std::string_view name, std::int32_t value) override { Say(name, ValueText(value)); }
@@ -59,7 +59,7 @@ private:
 };
 
 // Each property of a widget with its value.
-class PropertyPrinter final : public SayingVisitor<PropertyVisitor> {
+class PropertyPrinter final : public SayingVisitor {
 public:
     explicit PropertyPrinter(NamedValue print) : m_print(std::move(print)) {}
 

@@ -1,6 +1,7 @@
 #pragma once
 // A view opened by itself, without the editor around it.
 
+#include "binding/live.h"
 #include "document/kinds.h"
 #include "document/view_document.h"
 #include "widgets/canvas.h"
@@ -12,14 +13,13 @@ namespace quor {
 
 class LoneView {
 public:
-    // The trace may be null.
-    LoneView(const ViewPorts& ports, WidgetTrace* trace)
+    explicit LoneView(const ViewPorts& ports)
     {
         constexpr std::int32_t width = 30'000; // twips
         constexpr std::int32_t height = 22'500;
         AddWidgetArrays(m_canvas);
         m_canvas.SetScrollMaxima(width, height);
-        m_canvas.SetTracer(trace);
+        m_canvas.SetTracer(*ports.live.Tracer);
         m_view = std::make_unique<clsCustView>(ports, m_canvas);
     }
 

@@ -1,18 +1,19 @@
 #include "tests/journey_driver/stage.h"
 
 #include "base/guard.h"
+#include "binding/mtr_data_source.h"
 #include "document/view_document.h"
 #include "editor/application.h"
 #include "editor/main_form.h"
 #include "editor/property_panel.h"
+#include "elements/status_element.h"
 #include "forms/bars.h"
 #include "pages/page.h"
 #include "support/frm_view_pbar.h"
 #include "tests/journey_driver/format.h"
 #include "tests/journey_driver/lone_view.h"
 #include "tests/journey_driver/raised_lines.h"
-#include "tests/journey_driver/source_tracer.h"
-#include "tests/journey_driver/widget_tracer.h"
+#include "tests/journey_driver/tracer.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -48,23 +49,11 @@ std::string DialogText(const CommonDialog& dialog, DialogKind kind)
     return text;
 }
 
-std::string TabsText(const Band& panel)
-{
-    std::string text = "tabs";
-    for (const Band* child : panel.Children()) {
-        if (child->Visible()) {
-            text += ' ' + Quoted(child->Caption);
-        }
-    }
-    return text + " front " + Quoted(panel.CurrentChild() == nullptr ? "" : panel.CurrentChild()->Caption);
-}
-
 } // namespace
 
 Stage::Stage(Output& output, std::string folder)
-    : out(output), m_folder(std::move(folder)),
-      m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock}, programFolder, "user"),
-      m_tracer(std::make_unique<WidgetTracer>(*this)), m_sourceTracer(std::make_unique<SourceTracer>(*this))
+    : out(output), m_folder(std::move(folder)), m_tracer(std::make_unique<Tracer>(*this)), m_progress(forms, *m_tracer),
+      m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock, *m_tracer}, programFolder, "user")
 {
     m_live.Server = &server;
     m_live.CatalogHost = &server;
@@ -72,7 +61,7 @@ Stage::Stage(Output& output, std::string folder)
     m_live.Boxes = &boxes;
     m_live.PictureFiles = &pictures;
     m_live.ViewFiles = &files;
-    m_live.Trace = m_sourceTracer.get();
+    m_live.Tracer = m_tracer.get();
     ListenToPorts();
 }
 
@@ -121,12 +110,6 @@ void Stage::ListenToPorts()
     }));
     keep(dialog.Shown.Subscribe([this](DialogKind kind) { out.Line(DialogText(dialog, kind)); }));
     keep(forms.Shown.Subscribe([this](Form& form) { OnForm(form); }));
-    keep(m_progress.Stepped.Subscribe([this](std::int32_t value) {
-        if (IsTraced("screen")) {
-            out.Line("progress step " + std::to_string(value));
-        }
-    }));
-    keep(m_reporter.Reported.Subscribe([this](const ErrorReport& report) { OnReport(report); }));
     keep(forms.ModalShown.Subscribe([this](Form& form) {
         if (form.Name() == reportForm) {
             for (const std::string& button : std::exchange(reportButtons, {})) {
@@ -145,25 +128,9 @@ void Stage::OnForm(Form& form)
     }
 }
 
-void Stage::OnStatus(const std::string& text)
-{
-    // The fields of a page that takes over an element set one and the same text again and again.
-    std::string line = "status " + Quoted(text);
-    if (line != m_status) {
-        out.Line(line);
-        m_status = std::move(line);
-    }
-}
-
-void Stage::OnReport(const ErrorReport& report)
-{
-    out.Line("error " + Quoted(report.message) + " number " + ValueText(report.number) + " source " +
-             Quoted(report.source) + " description " + Quoted(report.description) + " ref " + ValueText(report.ref));
-}
-
 void Stage::BeforeStep(std::span<const Word> words)
 {
-    m_status.clear();
+    m_tracer->BeginStep();
     // An error report stays on the screen for steps that speak of it; else the user has read it.
     const bool isRead = std::ranges::none_of(words, [](const Word& word) { return word.text.starts_with(reportForm); });
     if (isRead) {
@@ -197,42 +164,16 @@ void Stage::Start(const std::string& tail)
     m_live.DesignMode = false;
     m_live.Catalog = nullptr;
     m_endIsTold = false;
-    m_selected.clear();
+    m_tracer->BeginProgram();
     const EditorPorts ports{files,    boxes, dialog,     forms,      timers, screen, pictures,
                             settings, login, m_reporter, m_progress, m_live, help,   systemInfo};
     m_application = std::make_unique<Application>(ports, tail);
     const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
-    keep(m_application->MainFormLoads.Subscribe([this](frmMain& main) { ListenTo(main); }));
-    keep(m_application->MainFormShown.Subscribe([this](frmMain&) { out.Line("main form"); }));
+    keep(m_application->MainFormShown.Subscribe([this, keep](frmMain& main) {
+        out.Line("main form");
+        keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Line("popup " + band.Name); }));
+    }));
     m_application->Start();
-}
-
-void Stage::ListenTo(frmMain& main)
-{
-    const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
-    main.ssScroll().SetTracer(m_tracer.get());
-    keep(main.SelectionChanged.Subscribe([this](const Widget* widget) {
-        const std::string name = widget == nullptr ? "" : widget->Tag();
-        if (widget == nullptr) {
-            out.Line("select none");
-        } else if (name != m_selected) {
-            out.Line("select " + Quoted(name));
-        }
-        m_selected = name;
-    }));
-    keep(main.StatusChanged.Subscribe([this](const std::string& text) { OnStatus(text); }));
-    PropertyPanel& panel = main.Panel();
-    keep(panel.TabsSet.Subscribe([this, &main] {
-        m_status.clear();
-        out.Line(TabsText(main.abViewEdit().BandOf("bndObjProps")));
-    }));
-    keep(panel.Called.Subscribe([this](const PageCall& call) {
-        if (IsTraced("pages")) {
-            const std::string element = call.verb == "SetOwner" ? ' ' + Quoted(call.element) : "";
-            out.Line(std::string(call.verb) + ' ' + std::string(call.page) + element);
-        }
-    }));
-    keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Line("popup " + band.Name); }));
 }
 
 void Stage::OpenLive(const std::string& path)
@@ -242,7 +183,7 @@ void Stage::OpenLive(const std::string& path)
     }
     m_live.DesignMode = false;
     const ViewPorts ports{files, boxes, m_reporter, timers, pictures, m_progress, m_live};
-    m_liveView = std::make_unique<LoneView>(ports, m_tracer.get());
+    m_liveView = std::make_unique<LoneView>(ports);
     m_liveView->Load(path);
 }
 

@@ -34,8 +34,7 @@ class Element;
 class Form;
 class LoneView;
 class RaisedLines;
-class SourceTracer;
-class WidgetTracer;
+class Tracer;
 class clsCustView;
 class frmMain;
 
@@ -101,23 +100,17 @@ public:
 private:
     template <class IsIt> const Element* Find(std::size_t& position, IsIt isIt) const;
     void ListenToPorts();
-    void ListenTo(frmMain& main);
     void OnForm(Form& form);
-    void OnStatus(const std::string& text);
-    void OnReport(const ErrorReport& report);
     void CloseReports();
 
     std::string m_folder;
     Live m_live;
-    frmViewPBar m_progress{forms};
+    std::unique_ptr<Tracer> m_tracer;
+    frmViewPBar m_progress;
     ErrorReporter m_reporter;
-    std::unique_ptr<WidgetTracer> m_tracer;
-    std::unique_ptr<SourceTracer> m_sourceTracer;
     RaisedLines* m_raised = nullptr; // of the event under way
     std::unique_ptr<Application> m_application;
     std::unique_ptr<LoneView> m_liveView;
-    std::string m_selected; // the name of the selected element
-    std::string m_status;   // the line that was last told in this step
     bool m_endIsTold = true;
     std::vector<Subscription> m_portSubscriptions;
     std::vector<Subscription> m_programSubscriptions;

@@ -154,7 +154,7 @@ void PrintFile(Stage& stage, const Arguments& arguments)
     Silence reporter;
     frmViewPBar progress(forms);
     Live live{true};
-    LoneView lone(ViewPorts{files, boxes, reporter, timers, pictures, progress, live}, nullptr);
+    LoneView lone(ViewPorts{files, boxes, reporter, timers, pictures, progress, live});
     lone.Load(path);
     if (lone.View().Verdict() == LoadVerdict::Ok) {
         for (const std::string& line : SplitLines(JsonText(ViewToJson(lone.View())))) {

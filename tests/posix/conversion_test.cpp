@@ -29,7 +29,7 @@ TEST(AConversion, KeepsModeAndLinkOfTheFile)
     FakePictures pictures(noFiles);
     frmViewPBar progress(forms);
     Live live;
-    LoneView view({files, boxes, reporter, timers, pictures, progress, live}, nullptr);
+    LoneView view({files, boxes, reporter, timers, pictures, progress, live});
     boxes.answers = {BoxAnswer::Yes};
     view.Load(folder / "link.qvw");
 

@@ -1,6 +1,7 @@
 #pragma once
 // What is written to widgets, and their repaints, as short text.
 
+#include "platform/trace.h"
 #include "widgets/widget.h"
 
 #include <string>
@@ -8,7 +9,7 @@
 
 namespace quor {
 
-class WidgetJournal final : public WidgetTrace {
+class WidgetJournal final : public Trace, public PropertyVisitor {
 public:
     // What came since the last call, such as "Active=true repaint ".
     std::string Take() { return std::exchange(m_text, {}); }
@@ -16,8 +17,11 @@ public:
     // The same without the values.
     std::string TakeNames() { return std::exchange(m_names, {}); }
 
-    void Writes(const Widget& /*widget*/) override {}
-    void Repaints(const Widget& /*widget*/) override { m_text += "repaint "; }
+    void Writes(const Widget& /*widget*/, const WrittenProperty& property) const override
+    {
+        property.visit(const_cast<WidgetJournal&>(*this), property);
+    }
+    void Repaints(const Widget& /*widget*/) const override { m_text += "repaint "; }
     void Visit(std::string_view name, bool value) override { Add(name, value ? "true" : "false"); }
     void Visit(std::string_view name, std::int32_t value) override { Add(name, std::to_string(value)); }
     void Visit(std::string_view name, float value) override { Add(name, std::to_string(static_cast<int>(value))); }
@@ -37,7 +41,7 @@ private:
         m_text += std::string(name) + '=' + value + ' ';
     }
 
-    std::string m_text;
+    mutable std::string m_text;
     std::string m_names;
 };
 

@@ -87,7 +87,6 @@ TEST_F(AReporter, LogsInTheUsersFolderWhereTheProgramsCannotBeWritten)
 TEST_F(AReporter, ReturnsWhateverFails)
 {
     forms.does = [](frmError&) { throw Failure(failures::internal); };
-    const Subscription watcher = reporter.Reported.Subscribe([](const ErrorReport&) { throw Failure(5); });
     reporter.ShowError(report);
     EXPECT_EQ(forms.shown, 1);
     EXPECT_TRUE(files.Has("/program/error.log"));

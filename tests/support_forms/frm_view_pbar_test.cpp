@@ -27,8 +27,6 @@ TEST(TheProgress, StepsToItsMaximumAndRunsTheLoopAtEachStep)
 {
     Loop loop;
     frmViewPBar form(loop);
-    std::string steps;
-    const Subscription trace = form.Stepped.Subscribe([&](std::int32_t value) { steps += std::to_string(value); });
     form.Load();
     form.InitPBar("Loading custom view...", 2);
     for (int step = 0; step < 3; ++step) {
@@ -37,7 +35,6 @@ TEST(TheProgress, StepsToItsMaximumAndRunsTheLoopAtEachStep)
     EXPECT_EQ(form.lblStatus.Caption(), "Loading custom view...");
     EXPECT_EQ(form.pbrConfig.Maximum(), 2);
     EXPECT_EQ(form.pbrConfig.Value(), 2);
-    EXPECT_EQ(steps, "122");
     EXPECT_EQ(loop.runs, 3);
 }
 
