@@ -67,7 +67,7 @@ public:
     double Select(std::int64_t number)
     {
         const CanvasTarget target{CanvasTarget::What::Element, &Led(number)};
-        return SecondsUntilPainted([&] { m_main.Press(target, MouseButton::Middle, 0, 0); });
+        return SecondsUntilPainted([&] { m_main.Mouse().Press(target, MouseButton::Middle, 0, 0); });
     }
 
     double Delete()

@@ -47,7 +47,7 @@ void Measure(Results& results)
             QApplication::processEvents();
             QElapsedTimer watch;
             watch.start();
-            main.Press(target, MouseButton::Middle, 0, 0);
+            main.Mouse().Press(target, MouseButton::Middle, 0, 0);
             const double models = SecondsOf(watch);
             QApplication::processEvents();
             if (sample > 0) { // the first one makes the page

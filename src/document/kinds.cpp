@@ -22,29 +22,16 @@ namespace quor {
 
 namespace {
 
-template <class E> constexpr Kind KindOf(std::string_view array, std::string_view prefix, std::string_view caption)
+template <class E> constexpr Kind KindOf()
 {
-    return {E::type,
-            array,
-            prefix,
-            caption,
-            []() -> std::unique_ptr<Widget> { return E::Prototype(); },
+    return {kindNames[E::type], E::type, []() -> std::unique_ptr<Widget> { return E::Prototype(); },
             [](Widget& widget, Live& live) -> std::unique_ptr<Element> { return std::make_unique<E>(widget, live); }};
 }
 
-constexpr std::array kinds = {
-    KindOf<clsMeterText>("ctlMeterText", "Meter (Text) ", "Meter (Text)"),
-    KindOf<clsMtrAngle>("ctlMeterAngle", "Meter (Angle) ", "Meter (Angular)"),
-    KindOf<clsMtrLinear>("ctlMeterLinear", "Meter (Linear) ", "Meter (Linear)"),
-    KindOf<clsLEDRound>("ctlLEDRound", "LED (Round) ", "LED (Round)"),
-    KindOf<clsLEDRect>("ctlLEDRect", "LED (Rectangular) ", "LED (Rectangular)"),
-    KindOf<clsStatusLabel>("ctlStatusLabel", "Status Label ", "Status Label"),
-    KindOf<clsBoolPic>("ctlBlnPic", "Round LED ",
-                       "Status Picture"), // the prefix is on purpose: names in files are kept
-    KindOf<clsCmdLED>("ctlCmdLED", "Command and LED ", "Command and LED"),
-    KindOf<clsCommand>("ctlCommand", "Command ", "Command"),
-    KindOf<clsPicture>("ctlPicture", "Picture ", "Picture"),
-    KindOf<clsLabel>("ctlLabel", "Label ", "Label"),
+constexpr std::array<Kind, kindCount> kinds = {
+    KindOf<clsMeterText>(), KindOf<clsMtrAngle>(),    KindOf<clsMtrLinear>(), KindOf<clsLEDRound>(),
+    KindOf<clsLEDRect>(),   KindOf<clsStatusLabel>(), KindOf<clsBoolPic>(),   KindOf<clsCmdLED>(),
+    KindOf<clsCommand>(),   KindOf<clsPicture>(),     KindOf<clsLabel>(),
 };
 
 constexpr bool TypesArePositions()

@@ -1,5 +1,5 @@
 #pragma once
-// The toolbox: eleven buttons, one a kind of element, that are dragged onto the canvas.
+// The toolbox: a button a kind of element, that are dragged onto the canvas.
 
 #include "base/values.h"
 #include "document/kinds.h"
@@ -10,15 +10,9 @@
 
 namespace quor {
 
+class CanvasMouse;
 class Reporter;
 enum class MouseButton : std::int16_t;
-
-// What takes up the drag of a button.
-class ToolDragHost {
-public:
-    virtual ~ToolDragHost() = default;
-    virtual void BeginToolDrag(std::size_t index) = 0;
-};
 
 // One of the buttons (cmdTool); its index is the type of the kind.
 struct ToolboxButton {
@@ -29,11 +23,10 @@ struct ToolboxButton {
 class frmViewToolbox {
 public:
     static constexpr float buttonSize = 405; // twips
-    static constexpr std::size_t buttonCount = 11;
 
-    frmViewToolbox(Reporter& reporter, ToolDragHost& host);
+    frmViewToolbox(Reporter& reporter, CanvasMouse& mouse);
 
-    const std::array<ToolboxButton, buttonCount>& cmdTool() const noexcept { return m_buttons; }
+    const std::array<ToolboxButton, kindCount>& cmdTool() const noexcept { return m_buttons; }
 
     // The inner width has changed, in twips: the buttons flow from left to right and wrap.
     void Form_Resize(float width);
@@ -43,8 +36,8 @@ public:
 
 private:
     Reporter& m_reporter;
-    ToolDragHost& m_host;
-    std::array<ToolboxButton, buttonCount> m_buttons;
+    CanvasMouse& m_mouse;
+    std::array<ToolboxButton, kindCount> m_buttons;
 };
 
 } // namespace quor

@@ -1,83 +1,47 @@
-// The bars: tools dispatched by name, and the tools that follow their bands.
+// The bars: their files, tools dispatched by name, the tools that follow their bands, and the dialogs behind them.
 
-#include "base/guard.h"
+#include "editor/frm_customize.h"
+#include "editor/frm_options.h"
 #include "editor/main_form.h"
 #include "editor/tools.h"
 #include "platform/files.h"
+#include "platform/forms.h"
+#include "platform/help.h"
 #include "platform/settings.h"
+#include "support/frm_about.h"
 
 namespace quor {
 
 namespace {
 
-constexpr std::string_view defaultLayoutFile = "td_cvedit_def_2.dat";
-constexpr std::string_view userLayoutFile = "tb_cvedit_user.dat";
-constexpr std::string_view usageFile = "tb_cvedit_usage.dat";
 constexpr std::string_view loadWords = "Unable to load the layout of the toolbars.";
 
-std::string PathIn(const std::string& folder, std::string_view file)
-{
-    return folder + (folder.ends_with('/') ? "" : "/") + std::string(file);
-}
+// The files of the bars; none where there is no folder to keep them.
+struct BarsFiles {
+    explicit BarsFiles(const std::string& folder) : isKept(!folder.empty())
+    {
+        const std::string start = folder + (folder.ends_with('/') ? "" : "/");
+        standard = start + "td_cvedit_def_2.dat";
+        own = start + "tb_cvedit_user.dat";
+        usage = start + "tb_cvedit_usage.dat";
+    }
+
+    bool isKept;
+    std::string standard;
+    std::string own;
+    std::string usage;
+};
 
 } // namespace
 
-void frmMain::BindBars()
-{
-    m_subscriptions.push_back(
-        m_bars->ToolClick.Subscribe([this](const std::string& tool) { abViewEdit_ToolClick(tool); }));
-    m_subscriptions.push_back(
-        m_bars->BandOpen.Subscribe([this](const std::string& band) { abViewEdit_Band(band, true); }));
-    m_subscriptions.push_back(
-        m_bars->BandClose.Subscribe([this](const std::string& band) { abViewEdit_Band(band, false); }));
-    m_subscriptions.push_back(m_bars->KeyDown.Subscribe([this](std::int16_t code) { KeyDown(code); }));
-    m_subscriptions.push_back(m_bars->QueryClose.Subscribe([this](bool& cancel) { abViewEdit_QueryClose(cancel); }));
-}
-
-void frmMain::abViewEdit_ToolClick(const std::string& tool)
-{
-    const EditorTool* row = FindEffect(tool);
-    if (row == nullptr) {
-        return;
-    }
-    Guard(m_ports.reporter, Ref("frmMain.abViewEdit_ToolClick"),
-          "The toolbar command you clicked on (" + m_bars->Tool(tool).Caption() + ") did not work properly.",
-          [&] { row->effect(*this); });
-}
-
-void frmMain::abViewEdit_Band(const std::string& band, bool isOpen)
-{
-    const auto follow = [&] {
-        if (band == "bndToolbox") {
-            m_bars->Tool("miToolbox").Set(&BarTool::Checked, isOpen);
-        } else if (band == "bndObjProps") {
-            m_bars->Tool("miToolProps").Set(&BarTool::Checked, isOpen);
-        }
-    };
-    if (isOpen) {
-        Guard(m_ports.reporter, Ref("frmMain.abViewEdit_BandOpen"), "An error occurred while updating the toolbar",
-              follow);
-    } else {
-        Guard(m_ports.reporter, Ref("frmMain.abViewEdit_BandClose"), "An error occurred while updating the toolbar.",
-              follow);
-    }
-}
-
-void frmMain::ToggleBand(std::string_view tool, std::string_view band)
-{
-    // The checked state follows from the band's own event.
-    m_bars->BandOf(band).Set(&Band::Visible, !m_bars->Tool(tool).Checked());
-    m_bars->RecalcLayout();
-}
-
-// The bars can do without their files: what can't be read leaves them as they are built in. The load of a file that was
-// there and couldn't be read tells that the close is not to write over it.
-bool frmMain::LoadBarsFile(const std::function<void()>& load)
+// The bars can do without their files: what can't be read leaves them as they are built in. False tells that the close
+// is not to write over it: it was there and couldn't be read.
+bool frmMain::LoadBarsFile(void (*load)(Bars& bars, Files& files, const std::string& path), const std::string& path)
 {
     bool isReplaceable = false;
     GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"), loadWords, [&] {
         try {
-            load();
+            load(*m_bars, m_ports.files, path);
             isReplaceable = true;
         } catch (const Failure& failure) {
             isReplaceable = failure.Number() == failures::invalidCall; // it is damaged
@@ -89,26 +53,23 @@ bool frmMain::LoadBarsFile(const std::function<void()>& load)
 
 void frmMain::LoadToolbarLayout()
 {
-    Files& files = m_ports.files;
     GuardToLog(m_ports.reporter, Ref("frmMain.LoadToolbarLayout"), loadWords, [&] {
-        const std::string folder = m_ports.settings.ToolbarDirectory();
-        if (folder.empty()) {
-            return; // nowhere to keep them
+        Files& files = m_ports.files;
+        const BarsFiles paths(m_ports.settings.ToolbarDirectory());
+        if (!paths.isKept) {
+            return;
         }
-        const std::string standard = PathIn(folder, defaultLayoutFile);
-        const std::string own = PathIn(folder, userLayoutFile);
-        const std::string usage = PathIn(folder, usageFile);
-        const bool hasStandard = files.FileExists(standard);
-        if (hasStandard && files.FileExists(own)) {
-            m_replacesLayout = LoadBarsFile([&] { LoadLayout(*m_bars, files, own); });
-            m_replacesUsage = !files.FileExists(usage) || LoadBarsFile([&] { LoadUsage(*m_bars, files, usage); });
+        const bool hasStandard = files.FileExists(paths.standard);
+        if (hasStandard && files.FileExists(paths.own)) {
+            m_replacesLayout = LoadBarsFile(LoadLayout, paths.own);
+            m_replacesUsage = !files.FileExists(paths.usage) || LoadBarsFile(LoadUsage, paths.usage);
             return;
         }
         m_replacesLayout = m_replacesUsage = true;
         if (hasStandard) {
-            LoadLayout(*m_bars, files, standard);
+            LoadLayout(*m_bars, files, paths.standard);
         } else {
-            SaveLayout(*m_bars, files, standard);
+            SaveLayout(*m_bars, files, paths.standard);
         }
     });
 }
@@ -116,14 +77,64 @@ void frmMain::LoadToolbarLayout()
 void frmMain::SaveToolbarLayout()
 {
     GuardToLog(m_ports.reporter, Ref("frmMain.SaveToolbarLayout"), "Unable to save the layout of the toolbars.", [&] {
-        const std::string folder = m_ports.settings.ToolbarDirectory();
-        if (!folder.empty() && m_replacesLayout) {
-            SaveLayout(*m_bars, m_ports.files, PathIn(folder, userLayoutFile));
+        const BarsFiles paths(m_ports.settings.ToolbarDirectory());
+        if (paths.isKept && m_replacesLayout) {
+            SaveLayout(*m_bars, m_ports.files, paths.own);
         }
-        if (!folder.empty() && m_replacesUsage) {
-            SaveUsage(*m_bars, m_ports.files, PathIn(folder, usageFile));
+        if (paths.isKept && m_replacesUsage) {
+            SaveUsage(*m_bars, m_ports.files, paths.usage);
         }
     });
+}
+
+void frmMain::abViewEdit_ToolClick(const std::string& tool)
+{
+    if (const EditorTool* row = FindEffect(tool)) {
+        Try(Ref("frmMain.abViewEdit_ToolClick"),
+            "The toolbar command you clicked on (" + m_bars->Tool(tool).Caption() + ") did not work properly.",
+            [&] { row->effect(*this); });
+    }
+}
+
+void frmMain::abViewEdit_Band(const std::string& band, bool isOpen)
+{
+    Try(isOpen ? Ref("frmMain.abViewEdit_BandOpen") : Ref("frmMain.abViewEdit_BandClose"),
+        isOpen ? "An error occurred while updating the toolbar" : "An error occurred while updating the toolbar.", [&] {
+            if (band == "bndToolbox") {
+                m_bars->Tool("miToolbox").Set(&BarTool::Checked, isOpen);
+            } else if (band == "bndObjProps") {
+                m_bars->Tool("miToolProps").Set(&BarTool::Checked, isOpen);
+            }
+        });
+}
+
+void frmMain::ToggleBand(std::string_view tool, std::string_view band)
+{
+    // The checked state follows from the band's own event.
+    m_bars->BandOf(band).Set(&Band::Visible, !m_bars->Tool(tool).Checked());
+    m_bars->RecalcLayout();
+}
+
+void frmMain::ShowCustomize()
+{
+    m_ports.forms.ShowModal(std::make_unique<frmCustomize>(*m_bars, m_builtInLayout));
+}
+
+void frmMain::ShowOptions()
+{
+    m_ports.forms.ShowModal(std::make_unique<frmOptions>(
+        frmOptions::Ports{m_ports.settings, m_ports.help, m_ports.screen, m_ports.reporter, m_grid}));
+}
+
+void frmMain::ShowContents()
+{
+    m_ports.help.ShowContents(m_ports.settings.HelpFile());
+}
+
+void frmMain::ShowAbout()
+{
+    m_ports.forms.ShowModal(
+        std::make_unique<frmAbout>(frmAbout::Ports{m_ports.forms, m_ports.boxes, m_ports.systemInfo}));
 }
 
 } // namespace quor

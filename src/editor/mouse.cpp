@@ -1,7 +1,5 @@
 #include "editor/mouse.h"
 
-#include "widgets/canvas.h"
-
 #include <algorithm>
 
 namespace quor {
@@ -66,9 +64,8 @@ Widget* WidgetAt(const Canvas& canvas, const Area& reach, float x, float y) noex
 // All that can be scrolled to, within the visible part.
 Area ReachOf(const Canvas& canvas, const Area& shown)
 {
-    const auto left = static_cast<float>(-canvas.ScrollOffsetX());
-    const auto top = static_cast<float>(-canvas.ScrollOffsetY());
-    return United(shown, {left, top, static_cast<float>(canvas.ScrollMaxX()), static_cast<float>(canvas.ScrollMaxY())});
+    return United(shown, canvas.FromView(
+                             {0, 0, static_cast<float>(canvas.ScrollMaxX()), static_cast<float>(canvas.ScrollMaxY())}));
 }
 
 } // namespace

@@ -2,16 +2,14 @@
 // Mouse and keys on the canvas: their numbers, what lies under the pointer, and what a drag or a sizing shows
 // meanwhile.
 
-#include "base/values.h"
+#include "widgets/canvas.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace quor {
-
-class Canvas;
-class Widget;
 
 enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };
 
@@ -34,6 +32,15 @@ struct CanvasTarget {
 // The foremost at that place: visible handles, widgets, the background image, the canvas. A widget is pressed on 7 x 7
 // pixels at least, and one that can't be scrolled to at the canvas's edge. `shown` is what the user sees of the canvas.
 CanvasTarget HitTest(const Canvas& canvas, const Area& shown, float x, float y) noexcept;
+
+// Which edges a handle stands at and moves: -1 left or top, 1 right or bottom, 0 none.
+struct HandleEdges {
+    int x;
+    int y;
+};
+inline constexpr std::array<HandleEdges, Canvas::handleCount> handleEdges = {
+    {{-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}},
+};
 
 // The outline that follows the pointer.
 struct DragOutline {

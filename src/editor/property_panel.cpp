@@ -2,6 +2,8 @@
 
 #include "base/guard.h"
 #include "binding/live.h"
+#include "document/kinds.h"
+#include "elements/scale_meter.h"
 #include "forms/bars.h"
 #include "pages/data/frm_cv_bln_data_source.h"
 #include "pages/data/frm_cv_cmd_data_source.h"
@@ -29,66 +31,52 @@ namespace {
 
 constexpr std::string_view panelBand = "bndObjProps";
 
-// The pages in the order in which they are made, each with its tool.
-struct PanelRow {
-    std::string_view tool;
-    std::unique_ptr<Page> (*make)(PageHost& host);
-};
-
-template <class P> std::unique_ptr<Page> MakePage(PageHost& host)
+template <class P> std::unique_ptr<Page> Make(PageHost& host)
 {
     return std::make_unique<P>(host);
 }
 
-constexpr PanelRow panelRows[] = {
-    {"tlViewProps", MakePage<frmCVViewProps>},
-    {"tlMeterText", MakePage<frmCVMeterText>},
-    {"tlMeterAngle", MakePage<frmCVMeterAngle>},
-    {"tlMeterLinear", MakePage<frmCVMeterLinear>},
-    {"tlLEDRound", MakePage<frmCVLEDRound>},
-    {"tlLEDRect", MakePage<frmCVLEDRect>},
-    {"tlStatusLabel", MakePage<frmCVStatusLabel>},
-    {"tlBlnPic", MakePage<frmCVBlnPic>},
-    {"tlCmdLED", MakePage<frmCVCmdLED>},
-    {"tlCommand", MakePage<frmCVCommand>},
-    {"tlPicture", MakePage<frmCVPicture>},
-    {"tlLabel", MakePage<frmCVLabel>},
-    {"tlMeterProps", MakePage<frmCVMeterProps>},
-    {"tlBlnDataSource", MakePage<frmCVBlnDataSource>},
-    {"tlMtrDataSource", MakePage<frmCVMtrDataSource>},
-    {"tlCmdDataSource", MakePage<frmCVCmdDataSource>},
-    {"tlGeneral", MakePage<frmCVGeneral>},
+constexpr std::unique_ptr<Page> (*pageMakers[])(PageHost&) = {
+    Make<frmCVViewProps>,  Make<frmCVMeterText>,     Make<frmCVMeterAngle>,    Make<frmCVMeterLinear>,
+    Make<frmCVLEDRound>,   Make<frmCVLEDRect>,       Make<frmCVStatusLabel>,   Make<frmCVBlnPic>,
+    Make<frmCVCmdLED>,     Make<frmCVCommand>,       Make<frmCVPicture>,       Make<frmCVLabel>,
+    Make<frmCVMeterProps>, Make<frmCVBlnDataSource>, Make<frmCVMtrDataSource>, Make<frmCVCmdDataSource>,
+    Make<frmCVGeneral>,
 };
 
-// What a kind shows beside its own tab, the general one and the action, and the pages that are bound to an element of
-// it behind the general page, in their order.
-struct KindPages {
-    std::string_view array;
+constexpr std::string_view viewPage = "frmCVViewProps";
+constexpr std::string_view generalPage = "frmCVGeneral";
+
+std::string PageNameOf(std::string_view array)
+{
+    return "frmCV" + std::string(array.substr(3));
+}
+
+std::string ToolOf(const Page& page)
+{
+    return "tl" + page.Name().substr(5);
+}
+
+// What an element shows beside its own tab, the general one and the action, and the pages that are bound to it behind
+// the general one and its own.
+struct DataPages {
     std::string_view tabs;
     std::string_view pages;
 };
 
-constexpr KindPages kindPages[] = {
-    {"ctlMeterText", "prpMtrDataSource", "frmCVMeterText frmCVMtrDataSource frmCVCmdDataSource"},
-    {"ctlMeterAngle", "prpMtrDataSource prpMeterProps",
-     "frmCVMeterAngle frmCVMtrDataSource frmCVCmdDataSource frmCVMeterProps"},
-    {"ctlMeterLinear", "prpMtrDataSource prpMeterProps",
-     "frmCVMeterLinear frmCVMtrDataSource frmCVCmdDataSource frmCVMeterProps"},
-    {"ctlLEDRound", "prpBlnDataSource", "frmCVLEDRound frmCVCmdDataSource frmCVBlnDataSource"},
-    {"ctlLEDRect", "prpBlnDataSource", "frmCVLEDRect frmCVCmdDataSource frmCVBlnDataSource"},
-    {"ctlStatusLabel", "prpBlnDataSource", "frmCVStatusLabel frmCVCmdDataSource frmCVBlnDataSource"},
-    {"ctlBlnPic", "prpBlnDataSource", "frmCVBlnPic frmCVCmdDataSource frmCVBlnDataSource"},
-    {"ctlCmdLED", "prpBlnDataSource", "frmCVCmdLED frmCVCmdDataSource frmCVBlnDataSource"},
-    {"ctlCommand", "", "frmCVCommand frmCVCmdDataSource"},
-    {"ctlPicture", "", "frmCVPicture frmCVCmdDataSource"},
-    {"ctlLabel", "", "frmCVLabel frmCVCmdDataSource"},
-};
-
-constexpr std::string_view generalPage = "frmCVGeneral";
-constexpr std::string_view clearOrder =
-    "frmCVMeterText frmCVMeterAngle frmCVMeterLinear frmCVLEDRound frmCVLEDRect frmCVStatusLabel frmCVBlnPic "
-    "frmCVCmdLED frmCVCommand frmCVPicture frmCVLabel frmCVCmdDataSource frmCVMtrDataSource frmCVBlnDataSource "
-    "frmCVMeterProps";
+DataPages DataPagesOf(Element& element)
+{
+    if (dynamic_cast<ScaleMeter*>(&element) != nullptr) {
+        return {"prpMtrDataSource prpMeterProps", "frmCVMtrDataSource frmCVCmdDataSource frmCVMeterProps"};
+    }
+    if (element.MeterSource() != nullptr) {
+        return {"prpMtrDataSource", "frmCVMtrDataSource frmCVCmdDataSource"};
+    }
+    if (element.StatusSource() != nullptr) {
+        return {"prpBlnDataSource", "frmCVCmdDataSource frmCVBlnDataSource"};
+    }
+    return {"", "frmCVCmdDataSource"};
+}
 
 } // namespace
 
@@ -96,18 +84,17 @@ PropertyPanel::PropertyPanel(Bars& bars, PageHost& host) : m_bars(bars), m_host(
 
 void PropertyPanel::BindPanels()
 {
-    for (const PanelRow& row : panelRows) {
-        m_pages.push_back(row.make(m_host));
+    for (const auto& make : pageMakers) {
+        m_pages.push_back(make(m_host));
         m_pages.back()->Load();
-        m_bars.Tool(row.tool).Set(&BarTool::HostedForm, m_pages.back().get());
+        m_bars.Tool(ToolOf(*m_pages.back())).Set(&BarTool::HostedForm, m_pages.back().get());
     }
-    m_viewPage = dynamic_cast<frmCVViewProps*>(FindPage("frmCVViewProps"));
 }
 
 PropertyPanel::~PropertyPanel()
 {
-    for (const PanelRow& row : panelRows) {
-        IgnoreFailure([&] { m_bars.Tool(row.tool).Set(&BarTool::HostedForm, nullptr); });
+    for (const std::unique_ptr<Page>& page : m_pages) {
+        IgnoreFailure([&] { m_bars.Tool(ToolOf(*page)).Set(&BarTool::HostedForm, nullptr); });
     }
 }
 
@@ -132,22 +119,24 @@ void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, b
     m_bars.BandOf(panelBand).SetCurrentChild(isView ? viewBand : generalBand);
     Clear(generalPage);
     if (reload) {
-        Clear(clearOrder);
+        for (const KindNames& kind : kindNames) {
+            Clear(PageNameOf(kind.array));
+        }
+        Clear("frmCVCmdDataSource frmCVMtrDataSource frmCVBlnDataSource frmCVMeterProps");
     }
-    const auto* row = std::find_if(std::begin(kindPages), std::end(kindPages),
-                                   [&](const KindPages& kind) { return kind.array == name; });
-    if (row != std::end(kindPages)) {
-        ShowTabs(row->tabs);
+    if (element != nullptr) {
+        ShowTabs(DataPagesOf(*element).tabs);
     }
     m_host.PageLive().Tracer->SetsTabs(m_bars.BandOf(panelBand));
     if (element != nullptr) {
         Bind(generalPage, *element, name);
-        if (reload && row != std::end(kindPages)) {
-            Bind(row->pages, *element, name);
+        if (reload) {
+            Bind(PageNameOf(name), *element, name);
+            Bind(DataPagesOf(*element).pages, *element, name);
         }
-    } else if (reload && isView && m_viewPage != nullptr) {
-        m_host.PageLive().Tracer->Calls("SetProps", m_viewPage->Name(), {});
-        m_viewPage->SetProps();
+    } else if (auto* page = dynamic_cast<frmCVViewProps*>(FindPage(viewPage)); page != nullptr && reload) {
+        m_host.PageLive().Tracer->Calls("SetProps", viewPage, {});
+        page->SetProps();
     }
     m_bars.RecalcLayout();
 }

@@ -12,7 +12,6 @@ class Bars;
 class Element;
 class Page;
 class PageHost;
-class frmCVViewProps;
 
 class PropertyPanel {
 public:
@@ -43,7 +42,6 @@ private:
     Bars& m_bars;
     PageHost& m_host;
     std::vector<std::unique_ptr<Page>> m_pages;
-    frmCVViewProps* m_viewPage = nullptr;
 };
 
 } // namespace quor

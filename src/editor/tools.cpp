@@ -4,6 +4,8 @@
 #include "editor/main_form.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace quor {
 
@@ -13,14 +15,19 @@ using enum ToolStart;
 
 constexpr std::string_view pageCategory = "PropertyDialogs";
 constexpr std::string_view panelBand = "bndObjProps";
+constexpr int firstPageTool = 5; // the numbers of the others follow
 
-template <std::uint8_t Type> void Insert(frmMain& main)
+// The parts of a table as one.
+template <class Row, std::size_t... Sizes> consteval auto Joined(const std::array<Row, Sizes>&... parts)
 {
-    main.InsertElement(Type);
+    std::array<Row, (Sizes + ...)> rows{};
+    auto place = rows.begin();
+    ((place = std::copy(parts.begin(), parts.end(), place)), ...);
+    return rows;
 }
 
 // clang-format off
-constexpr EditorTool toolRows[] = {
+constexpr auto firstTools = std::to_array<EditorTool>({
     {{1, "miFile", "&File", "", "Menus", Enabled, "", "bndFile"}},
     {{45, "miEdit", "&Edit", "", "Menus", Enabled, "", "bndEdit"}},
     {{50, "miView", "&View", "", "Menus", Enabled, "", "bndView"}},
@@ -31,17 +38,8 @@ constexpr EditorTool toolRows[] = {
     {{3, "lblSelectedControl", "", "", "Panels"}},
     {{20, "tlGeneral", "General", "", pageCategory}},
     {{4, "tlViewProps", "Custom View Settings", "", pageCategory}},
-    {{5, "tlMeterText", "Meter (Text)", "", pageCategory}},
-    {{6, "tlMeterAngle", "Meter (Angular)", "", pageCategory}},
-    {{7, "tlMeterLinear", "Meter (Linear)", "", pageCategory}},
-    {{8, "tlLEDRound", "LED (Round)", "", pageCategory}},
-    {{9, "tlLEDRect", "LED (Rectangular)", "", pageCategory}},
-    {{10, "tlStatusLabel", "Status Label", "", pageCategory}},
-    {{11, "tlBlnPic", "Status Picture", "", pageCategory}},
-    {{12, "tlCmdLED", "Command and LED", "", pageCategory}},
-    {{13, "tlCommand", "Command", "", pageCategory}},
-    {{14, "tlPicture", "Picture", "", pageCategory}},
-    {{15, "tlLabel", "Label", "", pageCategory}},
+});
+constexpr auto middleTools = std::to_array<EditorTool>({
     {{16, "tlMeterProps", "Positions and Colors", "", pageCategory}},
     {{17, "tlBlnDataSource", "Status Data", "", pageCategory}},
     {{18, "tlMtrDataSource", "Meter Data", "", pageCategory}},
@@ -50,7 +48,7 @@ constexpr EditorTool toolRows[] = {
 
     {{24, "miNew", "&New", "", "File", Enabled, "Ctrl+N"}, [](frmMain& main) { main.NewView(); }},
     {{47, "miOpen", "&Open...", "Open", "File", Enabled, "Ctrl+O"}, [](frmMain& main) { main.OpenView(""); }},
-    {{22, "miSave", "&Save", "", "File", Enabled, "Ctrl+S"}, [](frmMain& main) { main.SaveView(main.CurrentFile()); }},
+    {{22, "miSave", "&Save", "", "File", Enabled, "Ctrl+S"}, [](frmMain& main) { main.SaveView(main.Session().CurrentFile()); }},
     {{23, "miSaveAs", "Save &As...", "Save As", "File", Enabled, "Ctrl+Shift+S"}, [](frmMain& main) { main.SaveView(""); }},
     {{25, "miExit", "E&xit", "", "File", Enabled, "Ctrl+Q"}, [](frmMain& main) { main.Close(CloseReason::Code); }},
 
@@ -63,34 +61,23 @@ constexpr EditorTool toolRows[] = {
 
     {{52, "miToolbox", "&Toolbox", "View Toolbox", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolbox", "bndToolbox"); }},
     {{51, "miToolProps", "Tool &Properties", "View Tool Properties", "View", Checked}, [](frmMain& main) { main.ToggleBand("miToolProps", "bndObjProps"); }},
-    {{49, "miGrid", "&Grid", "View Grid", "View", Enabled, "Ctrl+G"}, [](frmMain& main) { main.ToggleGrid(); }},
+    {{49, "miGrid", "&Grid", "View Grid", "View", Enabled, "Ctrl+G"}, [](frmMain& main) { main.Grid().Toggle(); }},
 
     {{48, "miOrder", "&Order", "", "Format", Enabled, "", "bndOrder"}},
     {{57, "miAlignToGrid", "Align to &Grid", "", "Format", Disabled}, [](frmMain& main) { main.AlignToGrid(); }},
     {{58, "miSizeToGrid", "Size to Gri&d", "", "Format", Disabled}, [](frmMain& main) { main.SizeToGrid(); }},
-    {{32, "miSnapToGrid", "&Snap to Grid", "", "Format", Enabled, "Ctrl+Shift+G"}, [](frmMain& main) { main.ToggleSnap(); }},
+    {{32, "miSnapToGrid", "&Snap to Grid", "", "Format", Enabled, "Ctrl+Shift+G"}, [](frmMain& main) { main.Grid().ToggleSnap(); }},
     {{31, "miBringFront", "Bring to &Front", "", "Format", Disabled, "Ctrl+Shift+F", "", KeyScope::Canvas}, [](frmMain& main) { main.ReorderControl(true); }},
     {{30, "miSendBack", "Send to &Back", "", "Format", Disabled, "Ctrl+Shift+B", "", KeyScope::Canvas}, [](frmMain& main) { main.ReorderControl(false); }},
-
-    {{36, insertTools[0], "Text Meter", "", "Tools"}, Insert<0>},
-    {{34, insertTools[1], "Angular Meter", "", "Tools"}, Insert<1>},
-    {{35, insertTools[2], "Linear Meter", "", "Tools"}, Insert<2>},
-    {{37, insertTools[3], "Round LED", "", "Tools"}, Insert<3>},
-    {{38, insertTools[4], "Rectangular LED", "", "Tools"}, Insert<4>},
-    {{41, insertTools[5], "Status Label", "", "Tools"}, Insert<5>},
-    {{42, insertTools[6], "Status Picture", "", "Tools"}, Insert<6>},
-    {{44, insertTools[7], "Command with LED", "", "Tools"}, Insert<7>},
-    {{43, insertTools[8], "Command Button", "", "Tools"}, Insert<8>},
-    {{40, insertTools[9], "Picture", "", "Tools"}, Insert<9>},
-    {{39, insertTools[10], "Label", "", "Tools"}, Insert<10>},
-
+});
+constexpr auto lastTools = std::to_array<EditorTool>({
     {{60, "miCustomize", "&Customize...", "Customize", "ToolMenu"}, [](frmMain& main) { main.ShowCustomize(); }},
     {{59, "miOptions", "&Options...", "Options", "ToolMenu"}, [](frmMain& main) { main.ShowOptions(); }},
     {{27, "miContents", "Custom View &Help", "", "Help", Enabled, "F1"}, [](frmMain& main) { main.ShowContents(); }},
     {{26, "miAbout", "&About Custom View Editor", "", "Help"}, [](frmMain& main) { main.ShowAbout(); }},
-};
+});
 
-constexpr BandRow bandRows[] = {
+constexpr auto firstBands = std::to_array<BandRow>({
     {"bndMenu", "Main Menu", "miFile miEdit miView miFormat miTools miHelp", BandKind::MenuBar},
     {"bndFile", "&File", "miNew miOpen tlSep miSave miSaveAs tlSep miExit"},
     {"bndEdit", "Edit", "miCut miCopy miPaste tlSep miInsert tlSep miDelete miClear"},
@@ -110,32 +97,50 @@ constexpr BandRow bandRows[] = {
     {panelBand, "Properties", "", BandKind::Panel},
     {"prpGeneral", "General", "tlGeneral", BandKind::Child, panelBand},
     {"prpViewProps", "Custom View Settings", "tlViewProps", BandKind::Child, panelBand},
-    {"ctlMeterText", "Meter (Text)", "tlMeterText", BandKind::Child, panelBand},
-    {"ctlMeterAngle", "Meter (Angular)", "tlMeterAngle", BandKind::Child, panelBand},
-    {"ctlMeterLinear", "Meter (Linear)", "tlMeterLinear", BandKind::Child, panelBand},
-    {"ctlLEDRound", "LED (Round)", "tlLEDRound", BandKind::Child, panelBand},
-    {"ctlLEDRect", "LED (Rectangular)", "tlLEDRect", BandKind::Child, panelBand},
-    {"ctlStatusLabel", "Status Label", "tlStatusLabel", BandKind::Child, panelBand},
-    {"ctlBlnPic", "Status Picture", "tlBlnPic", BandKind::Child, panelBand},
-    {"ctlCmdLED", "Command and LED", "tlCmdLED", BandKind::Child, panelBand},
-    {"ctlCommand", "Command", "tlCommand", BandKind::Child, panelBand},
-    {"ctlPicture", "Picture", "tlPicture", BandKind::Child, panelBand},
-    {"ctlLabel", "Label", "tlLabel", BandKind::Child, panelBand},
+});
+constexpr auto lastBands = std::to_array<BandRow>({
     {"prpMeterProps", "Positions and Colors", "tlMeterProps", BandKind::Child, panelBand},
     {"prpBlnDataSource", "Status Data", "tlBlnDataSource", BandKind::Child, panelBand},
     {"prpMtrDataSource", "Meter Data", "tlMtrDataSource", BandKind::Child, panelBand},
     {"prpCmdDataSource", "Action", "tlCmdDataSource", BandKind::Child, panelBand},
-};
+});
 // clang-format on
 
+// Of the kinds: the tools that host their pages, those that insert an element, and the tabs.
+constexpr std::string_view PageTool(std::size_t type)
+{
+    return kindNames[type].array.substr(1);
+}
+
+template <std::size_t... Type> consteval auto PageTools(std::index_sequence<Type...>)
+{
+    return std::array{
+        EditorTool{{firstPageTool + int{Type}, PageTool(Type), kindNames[Type].caption, "", pageCategory}}...};
+}
+
+template <std::size_t Type> void Insert(frmMain& main)
+{
+    main.InsertElement(Type);
+}
+
+template <std::size_t... Type> consteval auto InsertTools(std::index_sequence<Type...>)
+{
+    return std::array{EditorTool{
+        {kindNames[Type].toolId, kindNames[Type].tool, kindNames[Type].toolCaption, "", "Tools"}, Insert<Type>}...};
+}
+
+template <std::size_t... Type> consteval auto PageTabs(std::index_sequence<Type...>)
+{
+    return std::array{
+        BandRow{kindNames[Type].array, kindNames[Type].caption, PageTool(Type), BandKind::Child, panelBand}...};
+}
+
+constexpr std::make_index_sequence<kindCount> types;
+constexpr auto toolRows = Joined(firstTools, PageTools(types), middleTools, InsertTools(types), lastTools);
+constexpr auto bandRows = Joined(firstBands, PageTabs(types), lastBands);
 constexpr BarTables<EditorTool> tables{toolRows, bandRows};
 
 } // namespace
-
-const BarTables<EditorTool>& EditorBars() noexcept
-{
-    return tables;
-}
 
 const EditorTool* FindEffect(std::string_view tool) noexcept
 {

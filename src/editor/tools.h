@@ -3,8 +3,7 @@
 
 #include "forms/bars.h"
 
-#include <array>
-#include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace quor {
@@ -16,18 +15,10 @@ struct EditorTool : ToolRow {
     void (*effect)(frmMain& main) = nullptr;
 };
 
-const BarTables<EditorTool>& EditorBars() noexcept;
-
 // Null for a tool without an effect and for unknown names.
 const EditorTool* FindEffect(std::string_view tool) noexcept;
 
 // The bars as they stand at design time, with the words that differ in one band.
 std::unique_ptr<Bars> MakeEditorBars();
-
-// The tools that insert an element, by its type.
-inline constexpr std::array<std::string_view, 11> insertTools = {
-    "miMtrText", "miMtrAngle", "miMtrLinear", "miLEDRound", "miLEDRect", "miStatLabel",
-    "miStatPic", "miCmdLED",   "miCommand",   "miPic",      "miLabel",
-};
 
 } // namespace quor

@@ -50,8 +50,7 @@ template <class Row> struct BarTables {
     std::span<const Row> tools;
     std::span<const BandRow> bands;
 
-    template <std::size_t Tools, std::size_t Bands>
-    consteval BarTables(const Row (&toolRows)[Tools], const BandRow (&bandRows)[Bands])
+    consteval BarTables(std::span<const Row> toolRows, std::span<const BandRow> bandRows)
         : tools(toolRows), bands(bandRows)
     {
         for (const Row& tool : tools) {

@@ -108,7 +108,7 @@ private:
     Property<"CurrentChild", Band*> m_current{nullptr};
 };
 
-class Bars final : public Looks<Bars> {
+class Bars final : public Shown {
 public:
     template <class Row> explicit Bars(const BarTables<Row>& tables)
     {
@@ -129,9 +129,6 @@ public:
     // For whoever draws the bars: Changed asks for the layout.
     Event<Band&> Popup;
     Event<> Focused;
-
-    // The control that fills what the bars leave of the window, by its name.
-    Property<"ClientArea", std::string> ClientArea;
 
     // In the order of the tables. Names that aren't there fail with 5.
     const KeyedList<std::unique_ptr<BarTool>>& Tools() const noexcept { return m_tools; }

@@ -102,6 +102,18 @@ void Canvas::ScrollTo(std::int32_t x, std::int32_t y)
     Scrolled.Raise();
 }
 
+Area Canvas::ToView(const Area& area) const noexcept
+{
+    return {area.left + static_cast<float>(m_scrollX), area.top + static_cast<float>(m_scrollY), area.width,
+            area.height};
+}
+
+Area Canvas::FromView(const Area& area) const noexcept
+{
+    return {area.left - static_cast<float>(m_scrollX), area.top - static_cast<float>(m_scrollY), area.width,
+            area.height};
+}
+
 void Canvas::ShiftBy(float x, float y)
 {
     for (Widget* widget = m_back; widget != nullptr; widget = widget->m_above) {

@@ -102,6 +102,10 @@ public:
     void SetScrollMaxima(std::int32_t x, std::int32_t y);
     void ScrollTo(std::int32_t x, std::int32_t y);
 
+    // From a place within the visible part to that within the view, and back.
+    Area ToView(const Area& area) const noexcept;
+    Area FromView(const Area& area) const noexcept;
+
     Color BackColor() const noexcept { return m_backColor; }
     void SetBackColor(Color color);
     const PictureRef& Picture() const noexcept { return m_picture; }

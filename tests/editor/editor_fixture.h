@@ -64,7 +64,7 @@ struct EditorFixture : testing::Test {
     void Select(const Element& element)
     {
         CanvasTarget target{CanvasTarget::What::Element, element.MyControl()};
-        main.Press(target, MouseButton::Middle, 0, 0);
+        main.Mouse().Press(target, MouseButton::Middle, 0, 0);
     }
 
     template <class C = Control> C& On(std::string_view page, std::string_view control) const

@@ -111,11 +111,11 @@ TEST_F(TheMainForm, SizesAtThePlaceInTheViewWhenTheCanvasScrollsMeanwhile)
     led.Set(&Element::ObjLeft, 3000);
     led.Set(&Element::ObjTop, 3000);
     main.ssScroll().ScrollTo(1500, 750);
-    main.BeginSizing(7);
-    main.SizeBy(45, 45);
+    main.Mouse().Press({CanvasTarget::What::Handle, nullptr, 7}, MouseButton::Left, 0, 0);
+    main.Mouse().SizeBy(45, 45);
     main.ssScroll().ScrollTo(0, 0);
-    main.SizeBy(45, 45);
-    main.EndSizing();
+    main.Mouse().SizeBy(45, 45);
+    main.Mouse().Release({}, MouseButton::Left);
     EXPECT_EQ(PlaceOf(led), (Area{3000, 3000, 300, 300}));
 }
 

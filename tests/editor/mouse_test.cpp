@@ -64,12 +64,12 @@ TEST_F(TheCanvas, RefusesAPressBeyondSixteenBitsOfALamp)
     clsLEDRound& led = Lamp({0, 0, 37'500, 37'500});
     const CanvasTarget target{CanvasTarget::What::Element, led.MyControl()};
     reporter.Announce(Ref("frmMain.Widget_MouseDown"));
-    main.Press(target, MouseButton::Left, 32'768, 10);
+    main.Mouse().Press(target, MouseButton::Left, 32'768, 10);
     ASSERT_FALSE(reporter.reports.empty());
     EXPECT_EQ(reporter.reports.back().number, failures::overflow);
     EXPECT_EQ(main.SelectedWidget(), nullptr);
-    EXPECT_FALSE(main.IsDragging());
-    main.Press(target, MouseButton::Left, 32'767, 10);
+    EXPECT_FALSE(main.Mouse().IsDragging());
+    main.Mouse().Press(target, MouseButton::Left, 32'767, 10);
     EXPECT_EQ(main.SelectedWidget(), led.MyControl());
 }
 

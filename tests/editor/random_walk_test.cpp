@@ -21,26 +21,26 @@ struct AnyEdit : EditorFixture {
 
     void Drag(const Element& element)
     {
-        main.Press({CanvasTarget::What::Element, element.MyControl()}, MouseButton::Left, 10, 10);
+        main.Mouse().Press({CanvasTarget::What::Element, element.MyControl()}, MouseButton::Left, 10, 10);
         const auto x = static_cast<float>(Draw(-500, 9000));
         const auto y = static_cast<float>(Draw(-500, 9000));
         if (Draw(0, 5) == 0) {
-            main.CancelDrag();
+            main.Mouse().CancelDrag();
             return;
         }
         const CanvasTarget target = At(x, y);
-        main.Drop(target, x - target.left, y - target.top);
+        main.Mouse().Drop(target, x - target.left, y - target.top);
     }
 
     void Size()
     {
-        main.Press({CanvasTarget::What::Handle, nullptr, static_cast<std::size_t>(Draw(0, 7))}, MouseButton::Left, 0,
-                   0);
-        main.SizeBy(static_cast<float>(Draw(-600, 600)), static_cast<float>(Draw(-600, 600)));
+        main.Mouse().Press({CanvasTarget::What::Handle, nullptr, static_cast<std::size_t>(Draw(0, 7))},
+                           MouseButton::Left, 0, 0);
+        main.Mouse().SizeBy(static_cast<float>(Draw(-600, 600)), static_cast<float>(Draw(-600, 600)));
         if (Draw(0, 5) == 0) {
-            main.CancelDrag();
+            main.Mouse().CancelDrag();
         } else {
-            main.EndSizing();
+            main.Mouse().Release({}, MouseButton::Left);
         }
     }
 
@@ -99,7 +99,7 @@ struct AnyEdit : EditorFixture {
             main.SizeToGrid();
             break;
         case 9:
-            main.ToggleSnap();
+            main.Grid().ToggleSnap();
             break;
         case 10:
             Select(*element);
@@ -110,8 +110,8 @@ struct AnyEdit : EditorFixture {
             Restyle(*element);
             break;
         case 12:
-            main.BeginToolDrag(AnyKind());
-            main.Drop(At(300, 300), 5, 5);
+            main.Mouse().BeginToolDrag(AnyKind());
+            main.Mouse().Drop(At(300, 300), 5, 5);
             break;
         default:
             if (Draw(0, 40) == 0) {

@@ -22,7 +22,7 @@ constexpr BandRow bandRows[] = {
     {"prpGeneral", "General", "tlGeneral", BandKind::Child, "bndProps"},
     {"bndStatus", "Status", "", BandKind::StatusBar},
 };
-constexpr BarTables tables(toolRows, bandRows);
+constexpr BarTables<ToolRow> tables(toolRows, bandRows);
 
 const std::string builtIn = "quor bars layout 1\n"
                             "band bndToolBar shown 0 miNew tlSep miPaste\n"

@@ -22,7 +22,7 @@ constexpr BandRow bandRows[] = {
     {"prpGeneral", "General", "tlGeneral", BandKind::Child, "bndProps"},
     {"prpView", "View", "", BandKind::Child, "bndProps"},
 };
-constexpr BarTables tables(toolRows, bandRows);
+constexpr BarTables<ToolRow> tables(toolRows, bandRows);
 
 std::int32_t NumberOf(const std::function<void()>& body)
 {

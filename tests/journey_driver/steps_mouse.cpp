@@ -62,7 +62,7 @@ Place FindPlace(Stage& stage, const Arguments& arguments)
     if (ReadNumbered(word, "handle:", Canvas::handleCount, index)) {
         return {HandleTarget(stage, index)};
     }
-    if (ReadNumbered(word, "toolbox:", frmViewToolbox::buttonCount, index)) {
+    if (ReadNumbered(word, "toolbox:", kindCount, index)) {
         return {{}, index};
     }
     return {ElementTarget(stage, word)};
@@ -88,7 +88,7 @@ void Press(Stage& stage, const Arguments& arguments)
     if (place.toolboxButton != noToolbox) {
         stage.Main().Toolbox().cmdTool_MouseDown(place.toolboxButton, button);
     } else {
-        stage.Main().Press(place.target, button, At(arguments, 1), At(arguments, 2));
+        stage.Main().Mouse().Press(place.target, button, At(arguments, 1), At(arguments, 2));
     }
 }
 
@@ -96,9 +96,9 @@ void Drop(Stage& stage, const Arguments& arguments)
 {
     const Place place = FindPlace(stage, arguments);
     if (place.toolboxButton != noToolbox) {
-        stage.Main().CancelDrag();
+        stage.Main().Mouse().CancelDrag();
     } else {
-        stage.Main().Drop(place.target, At(arguments, 1), At(arguments, 2));
+        stage.Main().Mouse().Drop(place.target, At(arguments, 1), At(arguments, 2));
     }
 }
 
@@ -106,13 +106,13 @@ void Release(Stage& stage, const Arguments& arguments)
 {
     const Place place = FindPlace(stage, arguments);
     if (place.toolboxButton == noToolbox) {
-        stage.Main().Release(place.target, ButtonOf(arguments[3]), At(arguments, 1), At(arguments, 2));
+        stage.Main().Mouse().Release(place.target, ButtonOf(arguments[3]));
     }
 }
 
 void Click(Stage& stage, const Arguments&)
 {
-    stage.Main().ssScroll_Click();
+    stage.Main().ReleaseControl();
 }
 
 void Size(Stage& stage, const Arguments& arguments)
@@ -120,10 +120,10 @@ void Size(Stage& stage, const Arguments& arguments)
     std::size_t index = 0;
     ReadNumbered("handle:" + arguments[0], "handle:", Canvas::handleCount, index);
     const CanvasTarget handle = HandleTarget(stage, index);
-    frmMain& main = stage.Main();
-    main.Press(handle, MouseButton::Left, Canvas::handleSize / 2, Canvas::handleSize / 2);
-    main.SizeBy(At(arguments, 1), At(arguments, 2));
-    main.EndSizing();
+    CanvasMouse& mouse = stage.Main().Mouse();
+    mouse.Press(handle, MouseButton::Left, Canvas::handleSize / 2, Canvas::handleSize / 2);
+    mouse.SizeBy(At(arguments, 1), At(arguments, 2));
+    mouse.Release(handle, MouseButton::Left);
 }
 
 void ResizeToolbox(Stage& stage, const Arguments& arguments)

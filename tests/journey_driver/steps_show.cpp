@@ -125,8 +125,8 @@ void PrintView(Stage& stage, const Arguments&)
     FieldPrinter printer(PrintNamed(stage, "", isFound));
     stage.View().Fields(printer);
     if (!stage.IsLive()) {
-        stage.out.Line("CurrentFile " + Quoted(stage.Main().CurrentFile()));
-        stage.out.Line("SavedChecksum " + ValueText(stage.Main().SavedChecksum()));
+        stage.out.Line("CurrentFile " + Quoted(stage.Main().Session().CurrentFile()));
+        stage.out.Line("SavedChecksum " + ValueText(stage.Main().Session().SavedChecksum()));
     }
 }
 

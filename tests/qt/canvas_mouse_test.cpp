@@ -47,7 +47,7 @@ TEST(CanvasMouse, ADialogThatOpensAtAPressEndsTheDrag)
     desk.Settle();
     desk.MeetAndPush("OK");
     QTest::mousePress(&View(desk), Qt::LeftButton, {}, {310, 310});
-    EXPECT_FALSE(desk.Main().IsDragging());
+    EXPECT_FALSE(desk.Main().Mouse().IsDragging());
     QTest::mouseMove(&View(desk), {400, 400});
     QTest::mouseRelease(&View(desk), Qt::LeftButton, {}, {400, 400});
     EXPECT_EQ(desk.Elements(), before);
@@ -132,14 +132,14 @@ TEST(CanvasMouse, OrderAndGridHaveTheirKeys)
     desk.Key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(desk.Elements().last(), front);
     desk.Key(Qt::Key_G, Qt::ControlModifier);
-    EXPECT_FALSE(desk.Main().GridVisible());
+    EXPECT_FALSE(desk.Main().Grid().IsShown());
     desk.Key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
     desk.Drag({122, 112}, {129, 119});
     EXPECT_TRUE(desk.Elements().last().contains(" 127,117 "))
         << desk.Elements().last().toStdString() << ", without the snap";
     desk.Key(Qt::Key_G, Qt::ControlModifier); // the settings outlive the desk
     desk.Key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(desk.Main().GridVisible());
+    EXPECT_TRUE(desk.Main().Grid().IsShown());
 }
 
 } // namespace

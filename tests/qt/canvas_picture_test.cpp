@@ -54,7 +54,7 @@ public:
 TEST(CanvasPicture, TheSelectionHasEightHandlesAndAFrameJustOutside)
 {
     EditorDesk desk;
-    desk.Main().HideGrid();
+    desk.Main().Grid().Show(false);
     desk.DragTool(3, {100, 100}); // 17 x 17 at 100, 100
     const QImage image = Shown(desk);
     for (const QPoint& corner : {QPoint(93, 93), QPoint(105, 93), QPoint(117, 93), QPoint(93, 105), QPoint(117, 105),
@@ -78,7 +78,7 @@ TEST(CanvasPicture, TheSelectionHasEightHandlesAndAFrameJustOutside)
 TEST(CanvasPicture, ADragShowsItsOutlineWhereItWouldLand)
 {
     EditorDesk desk;
-    desk.Main().HideGrid();
+    desk.Main().Grid().Show(false);
     desk.DragTool(3, {100, 100});
     QWidget* view = desk.Window().Canvas().viewport();
     const QRgb solid = Shown(desk).pixel(108, 108);
@@ -114,8 +114,8 @@ TEST(CanvasPicture, TheGridEndsWhereTheCanvasDoes)
     EditorDesk desk;
     Canvas& canvas = desk.Main().ssScroll();
     canvas.SetScrollMaxima(105 * 15, 85 * 15);
-    desk.Main().LoadGrid();
-    desk.Main().ShowGrid();
+    desk.Main().Grid().Load();
+    desk.Main().Grid().Show(true);
     const QImage image = Shown(desk);
     EXPECT_NE(image.pixel(100, 5), face);
     EXPECT_NE(image.pixel(5, 80), face);
@@ -127,7 +127,7 @@ TEST(CanvasPicture, TheGridEndsWhereTheCanvasDoes)
 TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
 {
     EditorDesk desk;
-    desk.Main().HideGrid();
+    desk.Main().Grid().Show(false);
     desk.DragTool(10, {100, 100});
     Widget& label = *desk.Main().ssScroll().Back();
     static_cast<TextLabel&>(label).Set(&TextLabel::Caption, "");
@@ -147,7 +147,7 @@ TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
 TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)
 {
     EditorDesk desk;
-    desk.Main().HideGrid();
+    desk.Main().Grid().Show(false);
     QImage red(30, 20, QImage::Format_RGB32);
     red.fill(Qt::red);
     red.setPixel(0, 0, 0xFF0000FF);

@@ -11,9 +11,7 @@
 #include "support/error_report.h"
 #include "support/frm_about.h"
 #include "support/frm_error.h"
-#include "support/frm_options.h"
 #include "support/frm_system_info.h"
-#include "support/grid_host.h"
 #include "tests/support/fake_boxes.h"
 #include "tests/support/fake_clipboard.h"
 #include "tests/support/fake_forms.h"
@@ -31,16 +29,6 @@ namespace {
 
 using namespace quor;
 
-class NoGrid final : public GridHost {
-public:
-    std::int16_t GridSize() const noexcept override { return 10; }
-    void SetGridSize(std::int16_t /*pixels*/) noexcept override {}
-    bool GridVisible() const noexcept override { return false; }
-    void LoadGrid() override {}
-    void ShowGrid() override {}
-    void HideGrid() override {}
-};
-
 class Gallery {
 public:
     Gallery(QString folder, bool isDark) : m_folder(std::move(folder))
@@ -51,7 +39,6 @@ public:
 
     bool Draw()
     {
-        frmOptions options({m_settings, m_help, m_screen, m_reporter, m_grid});
         frmAbout about({m_forms, m_boxes, m_systemInfo});
         frmSystemInfo info(QtSystemInfo().Facts());
         const std::unique_ptr<Bars> bars = MakeEditorBars();
@@ -66,7 +53,7 @@ public:
         logOn.txtUser.Text("Ada Holm");
         logOn.txtPassword.Text("secret");
         logOn.cmdOK.Push();
-        return Save(logOn) && Save(options) && Save(about) && Save(info) && Save(customize) && Save(error);
+        return Save(logOn) && Save(about) && Save(info) && Save(customize) && Save(error);
     }
 
 private:
@@ -90,14 +77,10 @@ private:
     FakeTimers m_timers;
     FakeForms m_forms{m_timers};
     FakeBoxes m_boxes;
-    FakeSettings m_settings;
-    FakeHelp m_help;
     FakeScreen m_screen;
     FakeClipboard m_clipboard;
     FakeClock m_clock;
     FakeSystemInfo m_systemInfo;
-    TestReporter m_reporter;
-    NoGrid m_grid;
 };
 
 } // namespace

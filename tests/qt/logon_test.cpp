@@ -83,7 +83,7 @@ TEST_F(TheLogonAtTheWindow, ComesAheadOfWhatIsToldAboutFiles)
         QTest::keyClick(&dialog, Qt::Key_Return);
     };
     Run(
-        meet, [&] { return met.size() == 3; }, [&] { EXPECT_EQ(program->MainForm()->GridSize(), 10); });
+        meet, [&] { return met.size() == 3; }, [&] { EXPECT_EQ(program->MainForm()->Grid().Size(), 10); });
     EXPECT_EQ(met.value(0), "logon");
     EXPECT_TRUE(met.value(1).startsWith("The sites of the file ")) << met.value(1).toStdString();
     EXPECT_EQ(met.value(2), "The settings of the file \"" + settings + "\" cannot be used.");

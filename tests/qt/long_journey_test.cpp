@@ -148,7 +148,7 @@ TEST(Window, APanelOfTwelveLampsIsComposedAndStandsAtTheNextStart)
     {
         EditorDesk desk;
         EXPECT_EQ(desk.Toolbar(), toolbar);
-        EXPECT_EQ(desk.Main().GridSize(), 20);
+        EXPECT_EQ(desk.Main().Grid().Size(), 20);
         QFile copy(desk.PathOf("twelve.qvw"));
         ASSERT_TRUE(copy.open(QFile::WriteOnly));
         copy.write(file);

@@ -100,11 +100,11 @@ TEST(Window, EscapeGivesUpADragAndASizing)
     const QStringList drawn = desk.Elements();
     desk.Drag({105, 105}, {300, 300}, true);
     EXPECT_EQ(desk.Elements(), drawn);
-    EXPECT_FALSE(desk.Main().IsDragging());
+    EXPECT_FALSE(desk.Main().Mouse().IsDragging());
     desk.Click({105, 105});
     desk.Drag({119, 119}, {300, 300}, true);
     EXPECT_EQ(desk.Elements(), drawn);
-    EXPECT_FALSE(desk.Main().IsSizing());
+    EXPECT_FALSE(desk.Main().Mouse().IsSizing());
     desk.Drag({105, 105}, {-50, 100}); // outside the canvas nothing takes it
     EXPECT_EQ(desk.Elements(), drawn);
 }
@@ -217,7 +217,7 @@ TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
     });
     desk.Choose("miOptions");
     EXPECT_EQ(desk.Met().size(), 1);
-    EXPECT_EQ(desk.Main().GridSize(), 25);
+    EXPECT_EQ(desk.Main().Grid().Size(), 25);
     desk.MeetAndCancel();
     desk.Choose("miAbout");
     EXPECT_EQ(desk.Met().size(), 1);
@@ -229,7 +229,7 @@ TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
     });
     desk.Choose("miOptions");
     EXPECT_EQ(desk.Met().size(), 1);
-    EXPECT_EQ(desk.Main().GridSize(), 10);
+    EXPECT_EQ(desk.Main().Grid().Size(), 10);
 }
 
 } // namespace

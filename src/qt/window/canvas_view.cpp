@@ -79,13 +79,13 @@ CanvasView::CanvasView(frmMain& main, const Theme& theme, QWidget* parent)
     connect(&m_edgeTimer, &QTimer::timeout, this, &CanvasView::ScrollAtEdge);
     m_subscriptions.push_back(m_canvas.Changed.Subscribe([this](const Area& area) { Repaint(area); }));
     m_subscriptions.push_back(m_canvas.Scrolled.Subscribe([this] { FollowScroll(); }));
-    m_subscriptions.push_back(m_main.DragChanged.Subscribe([this] { FollowDrag(); }));
+    m_subscriptions.push_back(m_main.Mouse().Changed.Subscribe([this] { FollowDrag(); }));
     m_subscriptions.push_back(m_main.abViewEdit().Focused.Subscribe([this] { setFocus(); }));
 }
 
 bool CanvasView::IsBusy() const
 {
-    return m_main.IsDragging() || m_main.IsSizing();
+    return m_main.Mouse().IsDragging() || m_main.Mouse().IsSizing();
 }
 
 // While something is dragged, all keys are the drag's.
@@ -98,7 +98,7 @@ bool CanvasView::event(QEvent* event)
     // A dialog that opens at a press gets the release, too.
     const bool losesMouse = event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked;
     if (losesMouse && IsBusy()) {
-        m_main.CancelDrag();
+        m_main.Mouse().CancelDrag();
     }
     return QAbstractScrollArea::event(event);
 }
@@ -196,8 +196,8 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
     m_held = event->button();
     m_pressedAt = m_pointer = WholePixel(event->position());
     m_pressed = TargetAt(m_pressedAt);
-    m_main.Press(m_pressed, ButtonOf(m_held), Twips(m_pressedAt.x()) - m_pressed.left,
-                 Twips(m_pressedAt.y()) - m_pressed.top);
+    m_main.Mouse().Press(m_pressed, ButtonOf(m_held), Twips(m_pressedAt.x()) - m_pressed.left,
+                         Twips(m_pressedAt.y()) - m_pressed.top);
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event)
@@ -210,12 +210,13 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event)
 
 void CanvasView::FollowPointer(const QPointF& position)
 {
-    if (m_main.IsSizing()) {
+    if (m_main.Mouse().IsSizing()) {
         m_pointer = position;
-        m_main.SizeBy(Twips(position.x() - m_pressedAt.x()), Twips(position.y() - m_pressedAt.y()));
+        m_main.Mouse().SizeBy(Twips(position.x() - m_pressedAt.x()), Twips(position.y() - m_pressedAt.y()));
     } else {
-        const bool isOver = m_main.IsDragging() && IsInside(position);
-        ShowOutline(isOver ? m_main.OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt, position);
+        const bool isOver = m_main.Mouse().IsDragging() && IsInside(position);
+        ShowOutline(isOver ? m_main.Mouse().OutlineAt(Twips(position.x()), Twips(position.y())) : std::nullopt,
+                    position);
     }
     if (!IsBusy()) {
         m_edgeTimer.stop();
@@ -234,7 +235,7 @@ void CanvasView::ScrollAtEdge()
             bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
         }
     };
-    if (m_main.IsSizing() || (m_main.IsDragging() && IsInside(m_pointer))) {
+    if (m_main.Mouse().IsSizing() || (m_main.Mouse().IsDragging() && IsInside(m_pointer))) {
         scroll(*horizontalScrollBar(), m_pointer.x(), viewport()->width());
         scroll(*verticalScrollBar(), m_pointer.y(), viewport()->height());
     }
@@ -248,15 +249,14 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
     }
     m_held = Qt::NoButton;
     const QPointF position = WholePixel(event->position());
-    if (m_main.IsDragging()) {
+    if (m_main.Mouse().IsDragging()) {
         DropAt(position);
     } else {
-        m_main.Release(m_pressed, ButtonOf(event->button()), Twips(position.x()) - m_pressed.left,
-                       Twips(position.y()) - m_pressed.top);
+        m_main.Mouse().Release(m_pressed, ButtonOf(event->button()));
         const bool isClick =
             m_pressed.what == CanvasTarget::What::Canvas && TargetAt(position).what == CanvasTarget::What::Canvas;
         if (isClick && event->button() == Qt::LeftButton) {
-            m_main.ssScroll_Click();
+            m_main.ReleaseControl();
         }
     }
     if (!m_main.IsUnloading()) {
@@ -271,7 +271,7 @@ void CanvasView::TrackDrag(const QPointF& global)
 
 void CanvasView::EndDrag(const QPointF& global)
 {
-    if (m_main.IsDragging()) {
+    if (m_main.Mouse().IsDragging()) {
         DropAt(WholePixel(viewport()->mapFromGlobal(global)));
     }
 }
@@ -279,11 +279,11 @@ void CanvasView::EndDrag(const QPointF& global)
 void CanvasView::DropAt(const QPointF& position)
 {
     if (!IsInside(position)) {
-        m_main.CancelDrag();
+        m_main.Mouse().CancelDrag();
         return;
     }
     const CanvasTarget target = TargetAt(position);
-    m_main.Drop(target, Twips(position.x()) - target.left, Twips(position.y()) - target.top);
+    m_main.Mouse().Drop(target, Twips(position.x()) - target.left, Twips(position.y()) - target.top);
 }
 
 void CanvasView::keyPressEvent(QKeyEvent* event)
@@ -311,7 +311,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event)
 void CanvasView::focusOutEvent(QFocusEvent* event)
 {
     if (IsBusy() && event->reason() == Qt::ActiveWindowFocusReason) {
-        m_main.CancelDrag();
+        m_main.Mouse().CancelDrag();
     }
     QAbstractScrollArea::focusOutEvent(event);
 }
@@ -328,8 +328,8 @@ void CanvasView::FollowDrag()
         return;
     }
     setFocus(); // for Escape
-    if (m_main.IsSizing()) {
-        ShowOutline(m_main.OutlineAt(Twips(m_pointer.x()), Twips(m_pointer.y())), m_pointer);
+    if (m_main.Mouse().IsSizing()) {
+        ShowOutline(m_main.Mouse().OutlineAt(Twips(m_pointer.x()), Twips(m_pointer.y())), m_pointer);
     }
 }
 

@@ -44,7 +44,7 @@ class ToolboxCell final : public QWidget {
 public:
     ToolboxCell(frmMain& main, CanvasView& canvas, const Theme& theme, std::size_t index, QWidget* parent)
         : QWidget(parent), m_main(main), m_canvas(canvas), m_theme(theme), m_index(index),
-          m_icon(theme.Icon(insertTools[index]))
+          m_icon(theme.Icon(kindNames[index].tool))
     {
         const ToolboxButton& button = main.Toolbox().cmdTool().at(index);
         const QString name = ToQt(button.kind->caption);
@@ -71,7 +71,7 @@ protected:
             return;
         }
         m_main.Toolbox().cmdTool_MouseDown(m_index, MouseButton::Left);
-        if (m_main.IsDragging()) {
+        if (m_main.Mouse().IsDragging()) {
             m_isHeld = true;
             setCursor(DragPicture(m_icon, devicePixelRatioF()));
             update();
@@ -82,7 +82,7 @@ protected:
     {
         if (m_isHeld) {
             m_canvas.TrackDrag(event->globalPosition());
-            if (!m_main.IsDragging()) {
+            if (!m_main.Mouse().IsDragging()) {
                 unsetCursor(); // the drag was given up
             }
         }
@@ -112,7 +112,7 @@ ToolboxView::ToolboxView(frmMain& main, CanvasView& canvas, const Theme& theme, 
     : QWidget(parent), m_main(main)
 {
     setObjectName(QStringLiteral("frmViewToolbox"));
-    for (std::size_t index = 0; index < frmViewToolbox::buttonCount; ++index) {
+    for (std::size_t index = 0; index < kindCount; ++index) {
         m_cells.push_back(new ToolboxCell(main, canvas, theme, index, this));
     }
 }

@@ -8,10 +8,10 @@
 namespace quor {
 
 class ApplicationSettings;
-class GridHost;
 class Help;
 class Reporter;
 class Screen;
+class ViewGrid;
 
 class frmOptions final : public Form {
 public:
@@ -20,7 +20,7 @@ public:
         Help& help;
         Screen& screen;
         Reporter& reporter;
-        GridHost& grid;
+        ViewGrid& grid;
     };
 
     static constexpr double leastGridSize = 1; // pixels, of what a user types
@@ -39,7 +39,6 @@ public:
 
 private:
     void Form_Load() override;
-    void LoadSettings();
     void ApplySettings();
     void OnButtons();
     void Place();

@@ -1,11 +1,11 @@
-#include "support/frm_options.h"
+#include "editor/frm_options.h"
 
 #include "base/guard.h"
 #include "base/narrow.h"
+#include "editor/view_grid.h"
 #include "platform/help.h"
 #include "platform/screen.h"
 #include "platform/settings.h"
-#include "support/grid_host.h"
 
 namespace quor {
 
@@ -58,26 +58,21 @@ void frmOptions::OnButtons()
 void frmOptions::Form_Load()
 {
     Guard(m_ports.reporter, Ref("frmOptions.Form_Load"), "Unable to load the Options dialog.",
-          [this] { LoadSettings(); });
-}
-
-void frmOptions::LoadSettings()
-{
-    txtGridSize.Value(m_ports.settings.GridSize());
+          [this] { txtGridSize.Value(m_ports.settings.GridSize()); });
 }
 
 void frmOptions::ApplySettings()
 {
-    GridHost& grid = m_ports.grid;
+    ViewGrid& grid = m_ports.grid;
     m_ports.screen.SetMousePointer(MousePointer::Hourglass);
     m_ports.settings.SetGridSize(Narrow<std::int32_t>(txtGridSize.Value()));
-    if (txtGridSize.Value() != grid.GridSize()) {
-        grid.SetGridSize(Narrow<std::int16_t>(txtGridSize.Value()));
+    if (txtGridSize.Value() != grid.Size()) {
+        grid.SetSize(Narrow<std::int16_t>(txtGridSize.Value()));
         // Hidden lines keep their old pitch until the next start, while snapping takes the new one at once.
-        if (grid.GridVisible()) {
-            grid.HideGrid();
-            grid.LoadGrid();
-            grid.ShowGrid();
+        if (grid.IsShown()) {
+            grid.Show(false);
+            grid.Load();
+            grid.Show(true);
         }
     }
     m_ports.screen.SetMousePointer(MousePointer::Default);
