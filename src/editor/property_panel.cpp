@@ -135,7 +135,7 @@ void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, b
             Bind(DataPagesOf(*element).pages, *element, name);
         }
     } else if (auto* page = dynamic_cast<frmCVViewProps*>(FindPage(viewPage)); page != nullptr && reload) {
-        m_host.PageLive().Tracer->Calls("SetProps", viewPage, {});
+        m_host.PageLive().Tracer->Calls("SetProps", page->Name(), {});
         page->SetProps();
     }
     m_bars.RecalcLayout();
