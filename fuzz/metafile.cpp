@@ -1,8 +1,8 @@
 // A metafile: the records of an older one become an enhanced one whose records are sound, too.
 
-#include "apps/metafile/placeable_records.h"
 #include "fuzz/harness.h"
-#include "qt/ports/metafile_header.h"
+#include "metafile/metafile_header.h"
+#include "metafile/placeable_records.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

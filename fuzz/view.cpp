@@ -2,8 +2,8 @@
 // saved again byte for byte.
 
 #include "apps/tool/desk.h"
+#include "base/bytes.h"
 #include "base/failure.h"
-#include "format/bytes.h"
 #include "format/container.h"
 #include "format/upgrade.h"
 #include "fuzz/harness.h"

@@ -13,8 +13,10 @@ from pathlib import Path
 # Folder and floor. A folder that is not named is on the floor of the nearest one above it that is.
 FLOORS = {
     "base": 0,
+    "json": 1,
     "platform": 1,
     "format": 2,
+    "metafile": 2,
     "forms": 2,
     "widgets": 2,
     "support": 3,
@@ -35,7 +37,7 @@ FLOORS = {
 FOREIGN = [
     (re.compile(r"Q[A-Z]\w*|Qt\w+/.*"), ("qt", "apps/editor", "apps/render", "apps/metafile")),
     (re.compile(r"(emf2svg|seccomp)\.h"), ("apps/metafile",)),
-    (re.compile(r"nlohmann/.*"), ("apps",)),
+    (re.compile(r"nlohmann/.*"), ("json", "servers", "apps")),
     (re.compile(r"sodium\.h"), ("apps",)),
     (re.compile(r"(unistd|fcntl|termios|pwd|sys/\w+)\.h"), ("posix", "qt/ports", "apps")),
 ]

@@ -1,9 +1,9 @@
 #include "format/container.h"
 
+#include "base/bytes.h"
 #include "base/failure.h"
 #include "base/narrow.h"
 #include "base/text.h"
-#include "format/bytes.h"
 #include "format/record.h"
 
 #include <algorithm>

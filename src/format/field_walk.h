@@ -12,8 +12,26 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace quor {
+
+// A 32-bit number that takes one byte in the record.
+struct ByteField {
+    std::int32_t* value;
+    std::int32_t& operator*() const noexcept { return *value; }
+};
+
+// The name of the thing itself: written, never taken over by a reader.
+struct NameField {
+    std::string* value;
+    std::string& operator*() const noexcept { return *value; }
+};
+
+// A field by its type, which is its record type: bool is 255 or 0 in 1 byte, WideFlag -1 or 0 in 2, where any non-zero
+// is true; a Font is a FontRecord, a text a ZString.
+using FieldRef = std::variant<bool*, WideFlag*, std::uint8_t*, std::int16_t*, std::int32_t*, float*, Color*, Font*,
+                              std::string*, ByteField, NameField>;
 
 class FieldWalk {
 public:
@@ -30,34 +48,22 @@ public:
         (One(fields), ...);
     }
 
-    // A 32-bit number that takes one byte in the record.
-    template <class Field> void AsByte(Field& field)
+    template <class F> void AsByte(F& field)
     {
         std::int32_t& value = PropertyAccess::Value(field);
         if (m_next != m_end && value >= 0 && value <= 255) {
             *m_next++ = static_cast<std::uint8_t>(value);
         } else {
-            ByteField(Field::name, value);
+            Field(F::name, ByteField{&value});
         }
     }
 
-    // The name of the thing itself: written, never taken over by a reader.
-    template <class Field> void OwnName(Field& field) { NameField(Field::name, PropertyAccess::Value(field)); }
+    template <class F> void OwnName(F& field) { Field(F::name, NameField{&PropertyAccess::Value(field)}); }
 
 protected:
-    virtual void Field(std::string_view name, bool& value) = 0;         // 1 byte: 255 or 0, any non-zero is true
-    virtual void Field(std::string_view name, WideFlag& value) = 0;     // 2 bytes: -1 or 0, any non-zero is true
-    virtual void Field(std::string_view name, std::uint8_t& value) = 0; // 1 byte
-    virtual void Field(std::string_view name, std::int16_t& value) = 0; // 2 bytes
-    virtual void Field(std::string_view name, std::int32_t& value) = 0; // 4 bytes
-    virtual void Field(std::string_view name, float& value) = 0;        // 4 bytes
-    virtual void Field(std::string_view name, Color& value) = 0;        // 4 bytes
-    virtual void Field(std::string_view name, Font& value) = 0;         // a FontRecord
-    virtual void Field(std::string_view name, std::string& value) = 0;  // a ZString
-    virtual void ByteField(std::string_view name, std::int32_t& value) = 0;
-    virtual void NameField(std::string_view name, std::string& value) = 0;
-    virtual void Begin(std::string_view part) = 0;
-    virtual void End() = 0;
+    virtual void Field(std::string_view name, FieldRef field) = 0;
+    virtual void Begin(std::string_view /*part*/) {}
+    virtual void End() {}
 
     // Room for bytes. A walk that writes records has some: fields of fixed width go there without a call, as long as
     // there is enough. All others have none.
@@ -93,10 +99,10 @@ private:
             End();
         } else if constexpr (WidthOf<F>() > 0) {
             if (!PutAll(field)) {
-                Field(F::name, PropertyAccess::Value(field));
+                Field(F::name, &PropertyAccess::Value(field));
             }
         } else {
-            Field(F::name, PropertyAccess::Value(field));
+            Field(F::name, &PropertyAccess::Value(field));
         }
     }
 };

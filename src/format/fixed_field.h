@@ -1,8 +1,8 @@
 #pragma once
 // The fields that have the same width in every record: how wide, and how they are put and taken.
 
+#include "base/bytes.h"
 #include "base/values.h"
-#include "format/bytes.h"
 
 #include <bit>
 #include <concepts>

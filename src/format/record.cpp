@@ -1,9 +1,10 @@
 #include "format/record.h"
 
+#include "base/bytes.h"
 #include "base/failure.h"
 #include "base/narrow.h"
+#include "base/overloaded.h"
 #include "base/text.h"
-#include "format/bytes.h"
 #include "format/view_file.h"
 
 #include <algorithm>
@@ -139,129 +140,38 @@ void RecordWriter::Grow(std::size_t count)
     m_end = m_buffer.data() + m_buffer.size();
 }
 
-template <class T> void RecordWriter::Put(T value)
+void RecordWriter::Field(std::string_view /*name*/, FieldRef field)
 {
-    PutFixed(Room(fixedWidth<T>), value);
-    m_next += fixedWidth<T>;
+    const auto put = [this]<class T>(T value) {
+        PutFixed(Room(fixedWidth<T>), value);
+        m_next += fixedWidth<T>;
+    };
+    const auto putText = [this](const std::string& text) { m_next = PutZString(Room(RoomForText(text)), text); };
+    std::visit(
+        Overloaded{[&](auto value) { put(*value); },
+                   [&](Font* value) { m_next = PutFontRecord(Room(fontFixedSize + RoomForText(value->Name)), *value); },
+                   [&](std::string* value) { putText(*value); }, [&](NameField value) { putText(*value); },
+                   [&](ByteField value) { put(Narrow<std::uint8_t>(*value)); }},
+        field);
 }
 
-void RecordWriter::Field(std::string_view, bool& value)
+void RecordReader::Field(std::string_view name, FieldRef field)
 {
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, WideFlag& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, std::uint8_t& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, std::int16_t& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, std::int32_t& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, float& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, Color& value)
-{
-    Put(value);
-}
-
-void RecordWriter::Field(std::string_view, Font& value)
-{
-    m_next = PutFontRecord(Room(fontFixedSize + RoomForText(value.Name)), value);
-}
-
-void RecordWriter::Field(std::string_view, std::string& value)
-{
-    m_next = PutZString(Room(RoomForText(value)), value);
-}
-
-void RecordWriter::ByteField(std::string_view, std::int32_t& value)
-{
-    Put(Narrow<std::uint8_t>(value));
-}
-
-void RecordWriter::NameField(std::string_view name, std::string& value)
-{
-    Field(name, value);
-}
-
-template <class T> void RecordReader::Take(std::string_view name, T& value)
-{
-    NeedBytes(m_payload, m_position, fixedWidth<T>, name);
-    TakeFixed(m_payload.data() + m_position, value);
-    m_position += fixedWidth<T>;
-}
-
-void RecordReader::Field(std::string_view name, bool& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, WideFlag& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, std::uint8_t& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, std::int16_t& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, std::int32_t& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, float& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view name, Color& value)
-{
-    Take(name, value);
-}
-
-void RecordReader::Field(std::string_view, Font& value)
-{
-    ExtractFontRecord(m_payload, m_position, value);
-}
-
-void RecordReader::Field(std::string_view, std::string& value)
-{
-    ExtractZString(m_payload, m_position, value);
-}
-
-void RecordReader::ByteField(std::string_view name, std::int32_t& value)
-{
-    std::uint8_t byte = 0;
-    Take(name, byte);
-    value = byte;
-}
-
-void RecordReader::NameField(std::string_view, std::string&)
-{
-    TakeZString(m_payload, m_position);
+    const auto take = [&]<class T>(T& value) {
+        NeedBytes(m_payload, m_position, fixedWidth<T>, name);
+        TakeFixed(m_payload.data() + m_position, value);
+        m_position += fixedWidth<T>;
+    };
+    std::visit(Overloaded{[&](auto value) { take(*value); },
+                          [&](Font* value) { ExtractFontRecord(m_payload, m_position, *value); },
+                          [&](std::string* value) { ExtractZString(m_payload, m_position, *value); },
+                          [&](NameField) { TakeZString(m_payload, m_position); },
+                          [&](ByteField value) {
+                              std::uint8_t byte = 0;
+                              take(byte);
+                              *value = byte;
+                          }},
+               field);
 }
 
 } // namespace quor

@@ -25,7 +25,8 @@ void AppendFontRecord(std::vector<std::uint8_t>& bytes, const Font& font);
 // position unchanged, where the fixed bytes are not all there.
 void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& position, Font& font);
 
-// Builds one record in a buffer that keeps its memory from one record to the next.
+// Builds one record in a buffer that keeps its memory from one record to the next. Fails with 6 where a number does
+// not fit its byte.
 class RecordWriter final : public FieldWalk {
 public:
     RecordWriter(std::vector<std::uint8_t>& buffer, std::uint8_t type);
@@ -35,21 +36,8 @@ public:
     std::int32_t Finish();
 
 private:
-    void Field(std::string_view, bool& value) override;
-    void Field(std::string_view, WideFlag& value) override;
-    void Field(std::string_view, std::uint8_t& value) override;
-    void Field(std::string_view, std::int16_t& value) override;
-    void Field(std::string_view, std::int32_t& value) override;
-    void Field(std::string_view, float& value) override;
-    void Field(std::string_view, Color& value) override;
-    void Field(std::string_view, Font& value) override;
-    void Field(std::string_view, std::string& value) override;
-    void ByteField(std::string_view, std::int32_t& value) override; // fails with 6 where it does not fit a byte
-    void NameField(std::string_view, std::string& value) override;
-    void Begin(std::string_view) override {}
-    void End() override {}
+    void Field(std::string_view name, FieldRef field) override;
 
-    template <class T> void Put(T value);
     std::uint8_t* Room(std::size_t count);
     void Grow(std::size_t count);
 
@@ -65,21 +53,7 @@ public:
     std::size_t Position() const noexcept { return m_position; }
 
 private:
-    void Field(std::string_view name, bool& value) override;
-    void Field(std::string_view name, WideFlag& value) override;
-    void Field(std::string_view name, std::uint8_t& value) override;
-    void Field(std::string_view name, std::int16_t& value) override;
-    void Field(std::string_view name, std::int32_t& value) override;
-    void Field(std::string_view name, float& value) override;
-    void Field(std::string_view name, Color& value) override;
-    void Field(std::string_view name, Font& value) override;
-    void Field(std::string_view name, std::string& value) override;
-    void ByteField(std::string_view name, std::int32_t& value) override;
-    void NameField(std::string_view name, std::string& value) override; // reads it and drops it
-    void Begin(std::string_view) override {}
-    void End() override {}
-
-    template <class T> void Take(std::string_view name, T& value);
+    void Field(std::string_view name, FieldRef field) override;
 
     std::span<const std::uint8_t> m_payload;
     std::size_t m_position = 0;

@@ -1,8 +1,8 @@
 #include "format/upgrade.h"
 
+#include "base/bytes.h"
 #include "base/failure.h"
 #include "base/narrow.h"
-#include "format/bytes.h"
 #include "format/view_file.h"
 
 #include <algorithm>

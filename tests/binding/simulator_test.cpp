@@ -202,7 +202,7 @@ TEST(TheSites, ComeAnewFromTheFirstFileThatIsThere)
     files.PutText("own.json", "{\n\"Sites\": 7}");
     EXPECT_EQ(catalog(sites) + catalog(sites), "A B A B ");
     ASSERT_EQ(boxes.shown.size(), 1U) << "it is said once";
-    EXPECT_EQ(boxes.shown[0].text.find("The sites of the file \"own.json\" cannot be used. Line 2: "), 0U);
+    EXPECT_EQ(boxes.shown[0].text.find("The sites of the file \"own.json\" cannot be used. Sites is no list."), 0U);
     files.PutText("own.json", R"({"Sites": [{"NetName": "C"}]})");
     EXPECT_EQ(catalog(sites), "C ");
     files.PutText("own.json", "{\n\"Sites\": 7}");

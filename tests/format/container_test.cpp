@@ -1,6 +1,6 @@
+#include "base/bytes.h"
 #include "base/guard.h"
 #include "binding/live.h"
-#include "format/bytes.h"
 #include "format/container.h"
 #include "format/record.h"
 #include "format/view_title.h"

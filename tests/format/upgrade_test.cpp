@@ -1,4 +1,4 @@
-#include "format/bytes.h"
+#include "base/bytes.h"
 #include "format/upgrade.h"
 #include "format/view_file.h"
 #include "tests/format/samples.h"

@@ -1,5 +1,6 @@
 #include "tests/journey_driver/format.h"
 
+#include "base/overloaded.h"
 #include "base/text.h"
 #include "tests/journey_driver/arguments.h"
 
@@ -114,11 +115,18 @@ void VisitFont(const Font& font, const NamedValue& visit)
     visit("Weight", ValueText(std::int32_t{font.Weight()}));
 }
 
-void FieldPrinter::Field(std::string_view name, Font& value)
+void FieldPrinter::Field(std::string_view name, FieldRef field)
 {
-    VisitFont(value, [&](std::string_view attribute, const std::string& text) {
-        Print(std::string(name) + '.' + std::string(attribute), text);
-    });
+    std::visit(Overloaded{[&](auto value) { Print(name, ValueText(*value)); },
+                          [&](WideFlag* value) { Print(name, ValueText(value->value)); },
+                          [&](std::uint8_t* value) { Print(name, ValueText(std::int32_t{*value})); },
+                          [&](std::int16_t* value) { Print(name, ValueText(std::int32_t{*value})); },
+                          [&](Font* value) {
+                              VisitFont(*value, [&](std::string_view attribute, const std::string& text) {
+                                  Print(std::string(name) + '.' + std::string(attribute), text);
+                              });
+                          }},
+               field);
 }
 
 } // namespace quor

@@ -75,17 +75,7 @@ public:
     explicit FieldPrinter(NamedValue print) : m_print(std::move(print)) {}
 
 private:
-    void Field(std::string_view name, bool& value) override { Print(name, ValueText(value)); }
-    void Field(std::string_view name, WideFlag& value) override { Print(name, ValueText(value.value)); }
-    void Field(std::string_view name, std::uint8_t& value) override { Print(name, ValueText(std::int32_t{value})); }
-    void Field(std::string_view name, std::int16_t& value) override { Print(name, ValueText(std::int32_t{value})); }
-    void Field(std::string_view name, std::int32_t& value) override { Print(name, ValueText(value)); }
-    void Field(std::string_view name, float& value) override { Print(name, ValueText(value)); }
-    void Field(std::string_view name, Color& value) override { Print(name, ValueText(value)); }
-    void Field(std::string_view name, Font& value) override;
-    void Field(std::string_view name, std::string& value) override { Print(name, ValueText(value)); }
-    void ByteField(std::string_view name, std::int32_t& value) override { Print(name, ValueText(value)); }
-    void NameField(std::string_view name, std::string& value) override { Print(name, ValueText(value)); }
+    void Field(std::string_view name, FieldRef field) override;
     void Begin(std::string_view part) override { m_part = std::string(part) + '.'; }
     void End() override { m_part.clear(); }
 

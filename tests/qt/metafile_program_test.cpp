@@ -1,9 +1,9 @@
 // The program that draws metafiles, against files and neighbours that mean harm.
 
 #include "apps/metafile/confinement.h"
-#include "apps/metafile/enhanced_types.h"
-#include "apps/metafile/enhanced_writer.h"
 #include "apps/metafile/harmless_svg.h"
+#include "metafile/enhanced_types.h"
+#include "metafile/enhanced_writer.h"
 #include "qt/ports/metafile_drawing.h"
 #include "tests/qt/test.h"
 

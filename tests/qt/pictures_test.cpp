@@ -1,7 +1,7 @@
 // Picture files of every kind, whole and broken.
 
 #include "base/failure.h"
-#include "qt/ports/metafile_header.h"
+#include "metafile/metafile_header.h"
 #include "qt/ports/qt_pictures.h"
 #include "tests/qt/test.h"
 

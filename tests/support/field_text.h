@@ -1,6 +1,7 @@
 #pragma once
 // The settings of an element as text, by their names in the record: to compare what is stored with what is wanted.
 
+#include "base/overloaded.h"
 #include "format/field_walk.h"
 
 #include <map>
@@ -21,26 +22,22 @@ public:
     }
 
 private:
-    void Field(std::string_view name, bool& value) override { Keep(name, value ? "1" : "0"); }
-    void Field(std::string_view name, WideFlag& value) override { Keep(name, value.value ? "1" : "0"); }
-    void Field(std::string_view name, std::uint8_t& value) override { Keep(name, std::to_string(value)); }
-    void Field(std::string_view name, std::int16_t& value) override { Keep(name, std::to_string(value)); }
-    void Field(std::string_view name, std::int32_t& value) override { Keep(name, std::to_string(value)); }
-    void Field(std::string_view name, float& value) override { Keep(name, std::to_string(value)); }
-    void Field(std::string_view name, Color& value) override { Keep(name, std::to_string(value.value)); }
-    void Field(std::string_view name, Font& value) override { Keep(name, value.Name); }
-    void Field(std::string_view name, std::string& value) override { Keep(name, value); }
-    void ByteField(std::string_view name, std::int32_t& value) override { Keep(name, std::to_string(value)); }
-    void NameField(std::string_view name, std::string& value) override { Keep(name, value); }
+    void Field(std::string_view name, FieldRef field) override
+    {
+        const auto keep = [&](std::string text) {
+            if (m_depth == 0) {
+                m_texts.insert_or_assign(std::string(name), std::move(text));
+            }
+        };
+        std::visit(Overloaded{[&](auto value) { keep(std::to_string(*value)); },
+                              [&](WideFlag* value) { keep(std::to_string(value->value)); },
+                              [&](Color* value) { keep(std::to_string(value->value)); },
+                              [&](Font* value) { keep(value->Name); }, [&](std::string* value) { keep(*value); },
+                              [&](NameField value) { keep(*value); }},
+                   field);
+    }
     void Begin(std::string_view /*part*/) override { ++m_depth; }
     void End() override { --m_depth; }
-
-    void Keep(std::string_view name, std::string text)
-    {
-        if (m_depth == 0) {
-            m_texts.insert_or_assign(std::string(name), std::move(text));
-        }
-    }
 
     std::map<std::string, std::string, std::less<>> m_texts;
     int m_depth = 0;

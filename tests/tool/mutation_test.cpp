@@ -1,5 +1,5 @@
+#include "base/bytes.h"
 #include "base/guard.h"
-#include "format/bytes.h"
 #include "format/container.h"
 #include "tests/test.h"
 #include "tests/tool/tool_case.h"

@@ -1,7 +1,7 @@
 #include "apps/metafile/metafile_svg.h"
 
-#include "apps/metafile/placeable_records.h"
-#include "qt/ports/metafile_header.h"
+#include "metafile/metafile_header.h"
+#include "metafile/placeable_records.h"
 
 #include <cstdlib>
 #include <emf2svg.h>

@@ -1,8 +1,8 @@
 #include "apps/metafile/rehearsal.h"
 
-#include "apps/metafile/enhanced_types.h"
-#include "apps/metafile/enhanced_writer.h"
-#include "apps/metafile/record_fields.h"
+#include "metafile/enhanced_types.h"
+#include "metafile/enhanced_writer.h"
+#include "metafile/record_fields.h"
 
 #include <QString>
 
@@ -16,6 +16,7 @@ namespace quor {
 namespace {
 
 using namespace enhanced_types;
+using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::int64_t boldWeight = 700;
 

@@ -1,8 +1,8 @@
 #include "qt/ports/qt_pictures.h"
 
 #include "base/failure.h"
+#include "metafile/metafile_header.h"
 #include "qt/ports/metafile_drawing.h"
-#include "qt/ports/metafile_header.h"
 #include "qt/ports/qt_picture.h"
 
 #include <QFile>

@@ -1,170 +1,111 @@
 #include "servers/simulator/server_plan.h"
 
-#include "base/narrow.h"
-#include "servers/simulator/json_pull.h"
+#include "base/failure.h"
+#include "json/json.h"
 
 #include <algorithm>
-#include <cmath>
+#include <nlohmann/json.hpp>
 
 namespace quor {
 
 namespace {
 
-class PlanReader {
-public:
-    explicit PlanReader(std::string_view json) : m_json(json) {}
+// What a file tells of each thing. What it lacks stays as it is, what it tells besides is let be.
+struct PlanReader {
+    template <class T> static void Read(const JsonValue& json, T& value) { value = json.As<T>(); }
 
-    ServerPlan All()
-    {
-        ServerPlan plan;
-        m_json.Object([&](const std::string& key) {
-            if (key == "AppAlarms") {
-                plan.appAlarms = m_json.Flag();
-            } else if (key == "Sites") {
-                m_json.Array([&] { plan.sites.push_back(Site(plan)); });
-            } else {
-                m_json.Skip();
-            }
-        });
-        m_json.Finish();
-        return plan;
-    }
-
-private:
-    SitePlan Site(const ServerPlan& plan)
-    {
-        SitePlan site;
-        m_json.Object([&](const std::string& key) {
-            if (key == "NetName") {
-                site.netName = m_json.Text();
-            } else if (key == "UsingBackup") {
-                site.usingBackup = m_json.Flag();
-            } else if (key == "SiteAlarms") {
-                site.siteAlarms = m_json.Flag();
-            } else if (key == "CatalogOnly") {
-                site.catalogOnly = m_json.Flag();
-            } else if (key == "Units") {
-                m_json.Array([&] { site.units.push_back(Unit(site)); });
-            } else {
-                m_json.Skip();
-            }
-        });
-        if (std::ranges::find(plan.sites, site.netName, &SitePlan::netName) != plan.sites.end()) {
-            m_json.Refuse("the site \"" + site.netName + "\" is there twice.");
-        }
-        return site;
-    }
-
-    UnitPlan Unit(const SitePlan& site)
-    {
-        UnitPlan unit;
-        m_json.Object([&](const std::string& key) { UnitMember(unit, key); });
-        if (std::ranges::find(site.units, unit.number, &UnitPlan::number) != site.units.end()) {
-            m_json.Refuse("unit " + std::to_string(unit.number) + " is there twice.");
-        }
-        return unit;
-    }
-
-    void UnitMember(UnitPlan& unit, const std::string& key)
-    {
-        if (key == "UnitNum") {
-            unit.number = Whole(UnitPlan::highestNumber);
-        } else if (key == "UnitName") {
-            unit.name = m_json.Text();
-        } else if (key == "LocalMode") {
-            unit.localMode = m_json.Flag();
-        } else if (key == "EventsPending") {
-            unit.eventsPending = m_json.Flag();
-        } else if (key == "Meters") {
-            Each(unit.meters, [this](MeterPlan& meter, const std::string& name) { MeterMember(meter, name); });
-        } else if (key == "Statuses") {
-            Each(unit.statuses, [this](StatusPlan& status, const std::string& name) { StatusMember(status, name); });
-        } else if (key == "Commands") {
-            Each(unit.commands, [this](CommandPlan& command, const std::string& name) {
-                name == "A" ? Take(command.a) : name == "B" ? Take(command.b) : m_json.Skip();
-            });
-        } else if (key == "Macros") {
-            Each(unit.macros, [this](MacroPlan& macro, const std::string& name) {
-                name == "Name" ? Take(macro.name) : name == "Running" ? Take(macro.running) : m_json.Skip();
-            });
-        } else {
-            m_json.Skip();
-        }
-    }
-
-    void MeterMember(MeterPlan& meter, const std::string& key)
-    {
-        if (key == "Label") {
-            Take(meter.label);
-        } else if (key == "Calibration") {
-            Take(meter.calibration);
-        } else if (key == "Type") {
-            meter.type = Whole(255);
-        } else if (key == "Limits") {
-            Items(meter.limits, [this](float& limit) { Take(limit); });
-        } else {
-            m_json.Skip();
-        }
-    }
-
-    void StatusMember(StatusPlan& status, const std::string& key)
-    {
-        if (key == "Off") {
-            Take(status.off);
-        } else if (key == "On") {
-            Take(status.on);
-        } else if (key == "Texts") {
-            Items(status.texts, [this](std::string& text) { Take(text); });
-        } else {
-            m_json.Skip();
-        }
-    }
-
-    // The items of an array, as many as there are; more than there may be don't fit.
-    template <class T, std::size_t Count, class Read> void Items(std::array<T, Count>& items, const Read& read)
+    template <class T, std::size_t Most> static void Read(const JsonValue& json, std::array<T, Most>& values)
     {
         std::size_t index = 0;
-        m_json.Array([&] {
-            if (index == Count) {
-                m_json.Refuse("more than " + std::to_string(Count) + " in a row.");
+        for (const JsonValue& item : json.Items(Most)) {
+            Read(item, values[index++]);
+        }
+    }
+
+    // Whose items are told apart by one of their members.
+    template <class T, class Key>
+    static void ReadAll(const JsonValue& json, std::string_view name, std::vector<T>& values, Key T::*key)
+    {
+        const std::optional<JsonValue> list = json.Find(name);
+        for (const JsonValue& item : list ? list->Items() : std::vector<JsonValue>()) {
+            T value;
+            Read(item, value);
+            if (std::ranges::find(values, value.*key, key) != values.end()) {
+                item.Fail(failures::typeMismatch, "is there twice");
             }
-            read(items[index++]);
-        });
-    }
-
-    template <class T, std::size_t Count, class Member> void Each(std::array<T, Count>& items, const Member& member)
-    {
-        Items(items, [&](T& item) { m_json.Object([&](const std::string& key) { member(item, key); }); });
-    }
-
-    void Take(std::string& text) { text = m_json.Text(); }
-    void Take(bool& flag) { flag = m_json.Flag(); }
-    void Take(float& number)
-    {
-        const double value = m_json.Number();
-        number = static_cast<float>(value);
-        if (!std::isfinite(number)) {
-            m_json.Refuse("the number is too large.");
+            values.push_back(std::move(value));
         }
     }
 
-    std::uint8_t Whole(std::uint8_t greatest)
+    template <class T> static void Member(const JsonValue& json, std::string_view name, T& value)
     {
-        const double number = m_json.Number();
-        if (number < 0 || number > greatest || number != std::floor(number)) {
-            m_json.Refuse("a whole number from 0 to " + std::to_string(greatest) + " is wanted.");
+        if (const std::optional<JsonValue> member = json.Find(name)) {
+            Read(*member, value);
         }
-        return static_cast<std::uint8_t>(number);
     }
 
-    JsonPull m_json;
+    static void Read(const JsonValue& json, MeterPlan& meter)
+    {
+        Member(json, "Label", meter.label);
+        Member(json, "Calibration", meter.calibration);
+        Member(json, "Type", meter.type);
+        Member(json, "Limits", meter.limits);
+    }
+
+    static void Read(const JsonValue& json, StatusPlan& status)
+    {
+        Member(json, "Off", status.off);
+        Member(json, "On", status.on);
+        Member(json, "Texts", status.texts);
+    }
+
+    static void Read(const JsonValue& json, CommandPlan& command)
+    {
+        Member(json, "A", command.a);
+        Member(json, "B", command.b);
+    }
+
+    static void Read(const JsonValue& json, MacroPlan& macro)
+    {
+        Member(json, "Name", macro.name);
+        Member(json, "Running", macro.running);
+    }
+
+    static void Read(const JsonValue& json, UnitPlan& unit)
+    {
+        Member(json, "UnitNum", unit.number);
+        if (unit.number > UnitPlan::highestNumber) {
+            json["UnitNum"].Fail(failures::overflow, "is out of range");
+        }
+        Member(json, "UnitName", unit.name);
+        Member(json, "LocalMode", unit.localMode);
+        Member(json, "EventsPending", unit.eventsPending);
+        Member(json, "Meters", unit.meters);
+        Member(json, "Statuses", unit.statuses);
+        Member(json, "Commands", unit.commands);
+        Member(json, "Macros", unit.macros);
+    }
+
+    static void Read(const JsonValue& json, SitePlan& site)
+    {
+        Member(json, "NetName", site.netName);
+        Member(json, "UsingBackup", site.usingBackup);
+        Member(json, "SiteAlarms", site.siteAlarms);
+        Member(json, "CatalogOnly", site.catalogOnly);
+        ReadAll(json, "Units", site.units, &UnitPlan::number);
+    }
 };
 
 } // namespace
 
 ServerPlan ReadServerPlan(std::string_view json)
 {
-    return PlanReader(json).All();
+    const Json parsed = ParseJson(json);
+    const JsonValue root(parsed);
+    ServerPlan plan;
+    PlanReader::Member(root, "AppAlarms", plan.appAlarms);
+    PlanReader::ReadAll(root, "Sites", plan.sites, &SitePlan::netName);
+    return plan;
 }
 
 } // namespace quor

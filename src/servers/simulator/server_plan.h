@@ -61,7 +61,7 @@ struct ServerPlan {
     std::vector<SitePlan> sites; // in the order of the server and the catalogue
 };
 
-// Fails with 13 and words that begin with "Line N: " for a text that doesn't tell a server.
+// Fails as ParseJson and JsonValue do for a text that doesn't tell a server.
 ServerPlan ReadServerPlan(std::string_view json);
 
 } // namespace quor

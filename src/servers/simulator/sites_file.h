@@ -27,7 +27,7 @@ public:
     TeskSiteCatalog& GetCatalog() override { return *this; }
     void GetSites(TeskSiteList& list) override;
 
-    // Reads the file anew. Where it can't be used the sites stay as they are, and a message says so, with the line,
+    // Reads the file anew. Where it can't be used the sites stay as they are, and a message says so, with the place,
     // once for the same trouble.
     void ReloadSites() override;
 

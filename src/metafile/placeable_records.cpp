@@ -1,9 +1,9 @@
-#include "apps/metafile/placeable_records.h"
+#include "metafile/placeable_records.h"
 
-#include "apps/metafile/enhanced_types.h"
-#include "apps/metafile/enhanced_writer.h"
-#include "apps/metafile/record_fields.h"
 #include "base/text.h"
+#include "metafile/enhanced_types.h"
+#include "metafile/enhanced_writer.h"
+#include "metafile/record_fields.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +14,7 @@ namespace quor {
 namespace {
 
 using namespace enhanced_types;
+using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::int64_t blackPen = 0x80000007; // things that are always there
 constexpr std::int64_t noPen = 0x80000008;

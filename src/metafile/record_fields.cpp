@@ -1,4 +1,4 @@
-#include "apps/metafile/record_fields.h"
+#include "metafile/record_fields.h"
 
 #include "base/text.h"
 
@@ -6,16 +6,7 @@
 
 namespace quor {
 
-std::uint16_t RecordFields::Word(std::size_t offset) const noexcept
-{
-    const bool isThere = m_bytes.size() >= 2 && offset <= m_bytes.size() - 2;
-    return isThere ? static_cast<std::uint16_t>(m_bytes[offset] | m_bytes[offset + 1] << 8U) : std::uint16_t{0};
-}
-
-std::uint32_t RecordFields::Long(std::size_t offset) const noexcept
-{
-    return Word(offset) | static_cast<std::uint32_t>(Word(offset + 2)) << 16U;
-}
+using Bytes = std::span<const std::uint8_t>;
 
 FieldBox RecordFields::Box(std::size_t offset) const noexcept
 {
@@ -30,12 +21,9 @@ Bytes RecordFields::From(std::size_t offset, std::size_t count) const noexcept
 
 std::vector<std::uint8_t> WideText(Bytes letters)
 {
-    std::vector<std::uint8_t> wide;
-    wide.reserve(2 * letters.size());
-    for (const std::uint8_t letter : letters) {
-        const char16_t character = FromAnsi(letter);
-        wide.push_back(static_cast<std::uint8_t>(character & 0xFFU));
-        wide.push_back(static_cast<std::uint8_t>(character >> 8U));
+    std::vector<std::uint8_t> wide(2 * letters.size());
+    for (std::size_t index = 0; index < letters.size(); ++index) {
+        StoreNumber(wide.data() + 2 * index, static_cast<std::uint16_t>(FromAnsi(letters[index])));
     }
     return wide;
 }

@@ -1,6 +1,7 @@
-#include "apps/metafile/enhanced_writer.h"
+#include "metafile/enhanced_writer.h"
 
-#include "apps/metafile/enhanced_types.h"
+#include "base/bytes.h"
+#include "metafile/enhanced_types.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,13 +12,6 @@ namespace {
 
 constexpr std::size_t lengthOffset = 48;
 constexpr std::size_t recordsOffset = 52;
-
-void Patch(std::vector<std::uint8_t>& bytes, std::size_t offset, std::size_t number)
-{
-    for (std::size_t index = 0; index < 4; ++index) {
-        bytes[offset + index] = static_cast<std::uint8_t>(number >> 8 * index);
-    }
-}
 
 } // namespace
 
@@ -30,40 +24,19 @@ EnhancedWriter::EnhancedWriter(double pixelWidth, double pixelHeight)
     const auto width = static_cast<std::int64_t>(std::ceil(pixelWidth));
     const auto height = static_cast<std::int64_t>(std::ceil(pixelHeight));
     // A frame of nothing would be no metafile.
-    const auto frame = [](double pixels) { return std::max<std::int64_t>(1, std::llround(pixels * frameUnits)); };
+    const auto inFrame = [](double pixels) { return std::max<std::int64_t>(1, std::llround(pixels * frameUnits)); };
+    const std::int64_t right = inFrame(pixelWidth);
+    const std::int64_t bottom = inFrame(pixelHeight);
     // Bounds, frame, sign, version, length, records, handles, three that stay 0, and a device of 96 dots an inch.
-    Add(enhanced_types::header, {0,
-                                 0,
-                                 width - 1,
-                                 height - 1,
-                                 0,
-                                 0,
-                                 frame(pixelWidth),
-                                 frame(pixelHeight),
-                                 sign,
-                                 version,
-                                 0,
-                                 0,
-                                 handles,
-                                 0,
-                                 0,
-                                 0,
-                                 960,
-                                 960,
-                                 254,
-                                 254,
-                                 0,
-                                 0,
-                                 0,
-                                 254'000,
-                                 254'000});
+    Add(enhanced_types::header,
+        {0, 0, width - 1, height - 1, 0,   0,   right, bottom, sign, version, 0,       0,      handles,
+         0, 0, 0,         960,        960, 254, 254,   0,      0,    0,       254'000, 254'000});
 }
 
 void EnhancedWriter::Put(std::int64_t number)
 {
-    for (unsigned shift = 0; shift < 32; shift += 8) {
-        m_bytes.push_back(static_cast<std::uint8_t>(number >> shift));
-    }
+    m_bytes.resize(m_bytes.size() + sizeof(std::uint32_t));
+    StoreNumber(m_bytes.data() + m_bytes.size() - sizeof(std::uint32_t), static_cast<std::uint32_t>(number));
 }
 
 void EnhancedWriter::Add(std::uint32_t type, std::span<const std::int64_t> numbers, std::span<const std::uint8_t> bytes)
@@ -107,8 +80,8 @@ void EnhancedWriter::AddText(std::int64_t x, std::int64_t y, std::span<const std
 std::vector<std::uint8_t> EnhancedWriter::Finish()
 {
     Add(enhanced_types::endOfFile, {0, 16, 20});
-    Patch(m_bytes, lengthOffset, m_bytes.size());
-    Patch(m_bytes, recordsOffset, m_records);
+    StoreNumber(m_bytes.data() + lengthOffset, static_cast<std::uint32_t>(m_bytes.size()));
+    StoreNumber(m_bytes.data() + recordsOffset, m_records);
     return std::move(m_bytes);
 }
 
