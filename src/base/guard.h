@@ -28,18 +28,21 @@ public:
     virtual void LogError(const ErrorReport& report) noexcept = 0;
 };
 
-// Reports the failure being handled; its source is the reference's owner where it has none of its own.
-void ReportCurrentFailure(Reporter& reporter, RefNumber ref, std::string_view message) noexcept;
-void LogCurrentFailure(Reporter& reporter, RefNumber ref, std::string_view message) noexcept;
+// Tells of the failure being handled, in one of the reporter's ways; its source is the reference's owner where it has
+// none of its own.
+void TellCurrentFailure(Reporter& reporter, void (Reporter::*way)(const ErrorReport&) noexcept, RefNumber ref,
+                        std::string_view message) noexcept;
 
 // Runs the body. True if it ended well; otherwise the failure has been reported.
-template <class Body> bool Guard(Reporter& reporter, RefNumber ref, std::string_view message, Body&& body)
+template <class Body>
+bool Guard(Reporter& reporter, RefNumber ref, std::string_view message, Body&& body,
+           void (Reporter::*way)(const ErrorReport&) noexcept = &Reporter::ShowError)
 {
     try {
         std::forward<Body>(body)();
         return true;
     } catch (...) {
-        ReportCurrentFailure(reporter, ref, message);
+        TellCurrentFailure(reporter, way, ref, message);
         return false;
     }
 }
@@ -47,13 +50,7 @@ template <class Body> bool Guard(Reporter& reporter, RefNumber ref, std::string_
 // The same, but the failure goes to the log alone.
 template <class Body> bool GuardToLog(Reporter& reporter, RefNumber ref, std::string_view message, Body&& body)
 {
-    try {
-        std::forward<Body>(body)();
-        return true;
-    } catch (...) {
-        LogCurrentFailure(reporter, ref, message);
-        return false;
-    }
+    return Guard(reporter, ref, message, std::forward<Body>(body), &Reporter::LogError);
 }
 
 // Runs the body and forgets its failure, if any. True if it ended well.

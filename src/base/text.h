@@ -3,11 +3,14 @@
 //
 // Bytes that windows-1252 leaves undefined are the control characters of the same value, so all 256 map one to one.
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace quor {
@@ -46,6 +49,15 @@ std::string_view TrimBlanks(std::string_view text) noexcept;
 // What is safe to show on one line: control characters, those that turn the direction of writing, and bytes that are no
 // UTF-8 come as "\x1b" or "\u202e".
 std::string Escaped(std::string_view text);
+
+// The whole text as a number, for whole ones to that base; nothing for another text.
+template <class Number, class... Base> std::optional<Number> ReadNumber(std::string_view text, Base... base)
+{
+    Number number{};
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number, base...);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+}
 
 // The shortest decimal text that reads back as the number, never with an exponent: "12", "-0.5".
 std::string Decimal(double number);

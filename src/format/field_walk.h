@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -41,7 +42,7 @@ public:
     template <class... Fields> void operator()(Fields&... fields)
     {
         if constexpr (((WidthOf<Fields>() > 0) && ...)) {
-            if (PutAll(fields...)) {
+            if (Pass(fields...)) {
                 return;
             }
         }
@@ -53,6 +54,8 @@ public:
         std::int32_t& value = PropertyAccess::Value(field);
         if (m_next != m_end && value >= 0 && value <= 255) {
             *m_next++ = static_cast<std::uint8_t>(value);
+        } else if (m_position < m_payload.size()) {
+            value = m_payload[m_position++];
         } else {
             Field(F::name, ByteField{&value});
         }
@@ -65,10 +68,12 @@ protected:
     virtual void Begin(std::string_view /*part*/) {}
     virtual void End() {}
 
-    // Room for bytes. A walk that writes records has some: fields of fixed width go there without a call, as long as
-    // there is enough. All others have none.
+    // A walk that writes records has room for bytes, one that reads them has bytes: fields of fixed width go there and
+    // come from there without a call, as long as there is enough. All others have none.
     std::uint8_t* m_next = nullptr;
     std::uint8_t* m_end = nullptr;
+    std::span<const std::uint8_t> m_payload;
+    std::size_t m_position = 0; // of the next field; may lie behind the end
 
 private:
     template <class F> static consteval std::size_t WidthOf()
@@ -79,15 +84,20 @@ private:
         return 0;
     }
 
-    template <class... F> bool PutAll(F&... fields)
+    template <class... F> bool Pass(F&... fields)
     {
         constexpr std::size_t width = (WidthOf<F>() + ...);
-        std::uint8_t* next = m_next;
-        if (static_cast<std::size_t>(m_end - next) < width) {
+        if (static_cast<std::size_t>(m_end - m_next) >= width) {
+            std::uint8_t* next = m_next;
+            ((PutFixed(next, PropertyAccess::Value(fields)), next += WidthOf<F>()), ...);
+            m_next = next;
+        } else if (m_payload.size() >= width && m_position <= m_payload.size() - width) {
+            const std::uint8_t* next = m_payload.data() + m_position;
+            ((TakeFixed(next, PropertyAccess::Value(fields)), next += WidthOf<F>()), ...);
+            m_position += width;
+        } else {
             return false;
         }
-        ((PutFixed(next, PropertyAccess::Value(fields)), next += WidthOf<F>()), ...);
-        m_next = next;
         return true;
     }
 
@@ -98,7 +108,7 @@ private:
             field.Fields(*this);
             End();
         } else if constexpr (WidthOf<F>() > 0) {
-            if (!PutAll(field)) {
+            if (!Pass(field)) {
                 Field(F::name, &PropertyAccess::Value(field));
             }
         } else {

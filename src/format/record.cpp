@@ -48,13 +48,6 @@ std::uint8_t* PutFontRecord(std::uint8_t* to, const Font& font) noexcept
                                             " bytes.");
 }
 
-void NeedBytes(std::span<const std::uint8_t> bytes, std::size_t position, std::size_t count, std::string_view name)
-{
-    if (position > bytes.size() || bytes.size() - position < count) {
-        FailToRead(name, count, position, bytes.size());
-    }
-}
-
 // Takes the bytes up to a zero byte or the end, and moves the position behind that.
 std::span<const std::uint8_t> TakeZString(std::span<const std::uint8_t> bytes, std::size_t& position)
 {
@@ -64,6 +57,24 @@ std::span<const std::uint8_t> TakeZString(std::span<const std::uint8_t> bytes, s
         zero == nullptr ? rest.size() : static_cast<std::size_t>(static_cast<const std::uint8_t*>(zero) - rest.data());
     position += length + 1;
     return rest.first(length);
+}
+
+// The weight last. Fails with 9, font and position unchanged, where the fixed bytes are not all there.
+void TakeFontRecord(std::span<const std::uint8_t> bytes, std::size_t& position, Font& font)
+{
+    if (bytes.size() < fontFixedSize || position > bytes.size() - fontFixedSize) {
+        FailToRead("Font", fontFixedSize, position, bytes.size());
+    }
+    const std::uint8_t* from = bytes.data() + position;
+    position += fontFixedSize;
+    font.SetBold(from[0] != 0);
+    font.Charset = LoadNumber<std::int16_t>(from + 1);
+    font.Italic = from[3] != 0;
+    ExtractZString(bytes, position, font.Name);
+    font.Size = LoadNumber<std::int64_t>(from + 4);
+    font.Strikethrough = from[12] != 0;
+    font.Underline = from[13] != 0;
+    font.SetWeight(LoadNumber<std::int16_t>(from + 14));
 }
 
 } // namespace
@@ -83,28 +94,6 @@ void ExtractZString(std::span<const std::uint8_t> bytes, std::size_t& position, 
     } else {
         text = FromAnsi(taken);
     }
-}
-
-void AppendFontRecord(std::vector<std::uint8_t>& bytes, const Font& font)
-{
-    const std::size_t start = bytes.size();
-    bytes.resize(start + fontFixedSize + RoomForText(font.Name));
-    bytes.resize(static_cast<std::size_t>(PutFontRecord(bytes.data() + start, font) - bytes.data()));
-}
-
-void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& position, Font& font)
-{
-    NeedBytes(bytes, position, fontFixedSize, "Font");
-    const std::uint8_t* from = bytes.data() + position;
-    position += fontFixedSize;
-    font.SetBold(from[0] != 0);
-    font.Charset = LoadNumber<std::int16_t>(from + 1);
-    font.Italic = from[3] != 0;
-    ExtractZString(bytes, position, font.Name);
-    font.Size = LoadNumber<std::int64_t>(from + 4);
-    font.Strikethrough = from[12] != 0;
-    font.Underline = from[13] != 0;
-    font.SetWeight(LoadNumber<std::int16_t>(from + 14));
 }
 
 RecordWriter::RecordWriter(std::vector<std::uint8_t>& buffer, std::uint8_t type) : m_buffer(buffer)
@@ -155,22 +144,15 @@ void RecordWriter::Field(std::string_view /*name*/, FieldRef field)
         field);
 }
 
+// Fields of fixed width come here only where they aren't wholly there.
 void RecordReader::Field(std::string_view name, FieldRef field)
 {
-    const auto take = [&]<class T>(T& value) {
-        NeedBytes(m_payload, m_position, fixedWidth<T>, name);
-        TakeFixed(m_payload.data() + m_position, value);
-        m_position += fixedWidth<T>;
-    };
-    std::visit(Overloaded{[&](auto value) { take(*value); },
-                          [&](Font* value) { ExtractFontRecord(m_payload, m_position, *value); },
+    const auto fail = [&](std::size_t count) { FailToRead(name, count, m_position, m_payload.size()); };
+    std::visit(Overloaded{[&]<class T>(T* /*value*/) { fail(fixedWidth<T>); },
+                          [&](Font* value) { TakeFontRecord(m_payload, m_position, *value); },
                           [&](std::string* value) { ExtractZString(m_payload, m_position, *value); },
                           [&](NameField) { TakeZString(m_payload, m_position); },
-                          [&](ByteField value) {
-                              std::uint8_t byte = 0;
-                              take(byte);
-                              *value = byte;
-                          }},
+                          [&](ByteField) { fail(sizeof(std::uint8_t)); }},
                field);
 }
 

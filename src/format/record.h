@@ -1,5 +1,5 @@
 #pragma once
-// The bytes of a record: its text and font fields, a walk that writes a record and one that reads a payload.
+// The bytes of a record: its texts, a walk that writes a record and one that reads a payload.
 
 #include "format/field_walk.h"
 
@@ -18,12 +18,6 @@ void AppendZString(std::vector<std::uint8_t>& bytes, std::string_view text);
 // Reads up to a zero byte or the end of the bytes, and moves the position by the text's length plus 1. At or behind the
 // end the text is empty.
 void ExtractZString(std::span<const std::uint8_t> bytes, std::size_t& position, std::string& text);
-
-void AppendFontRecord(std::vector<std::uint8_t>& bytes, const Font& font);
-
-// Sets the font's attributes, the weight last, and moves the position behind the record. Fails with 9, font and
-// position unchanged, where the fixed bytes are not all there.
-void ExtractFontRecord(std::span<const std::uint8_t> bytes, std::size_t& position, Font& font);
 
 // Builds one record in a buffer that keeps its memory from one record to the next. Fails with 6 where a number does
 // not fit its byte.
@@ -47,16 +41,13 @@ private:
 // Reads the fields of a payload. A field that is not wholly there fails with 9, says where, and moves nothing.
 class RecordReader final : public FieldWalk {
 public:
-    explicit RecordReader(std::span<const std::uint8_t> payload) : m_payload(payload) {}
+    explicit RecordReader(std::span<const std::uint8_t> payload) { m_payload = payload; }
 
     // Of the next field.
     std::size_t Position() const noexcept { return m_position; }
 
 private:
     void Field(std::string_view name, FieldRef field) override;
-
-    std::span<const std::uint8_t> m_payload;
-    std::size_t m_position = 0;
 };
 
 } // namespace quor

@@ -31,61 +31,37 @@ constexpr Insertion toVersion3[] = {{2, 87, {}, 4}, {3, 21, {}, 3}};
     throw Failure(failures::outOfRange, what);
 }
 
-// Takes pieces off the file from front to back, never more than there are.
-class Walk {
-public:
-    explicit Walk(std::span<const std::uint8_t> bytes) : m_rest(bytes) {}
-
-    std::span<const std::uint8_t> Take(std::size_t count)
-    {
-        if (count > m_rest.size()) {
-            FailOutOfRange("The file ends " + std::to_string(count - m_rest.size()) + " bytes too early.");
-        }
-        const auto piece = m_rest.first(count);
-        m_rest = m_rest.subspan(count);
-        return piece;
-    }
-
-    // A whole record with its frame.
-    std::span<const std::uint8_t> TakeRecord()
-    {
-        Walk ahead(*this);
-        const auto frame = ahead.Take(view_file::frameSize);
-        const auto size = LoadNumber<std::int16_t>(frame.data() + 1);
-        if (size < 0) {
-            FailOutOfRange("The payload's size of a record is " + std::to_string(size) + ".");
-        }
-        return Take(view_file::frameSize + static_cast<std::size_t>(size));
-    }
-
-private:
-    std::span<const std::uint8_t> m_rest;
-};
-
-template <class Number> std::size_t SizeAt(std::span<const std::uint8_t> file, std::size_t at)
+// Takes a piece off the front.
+std::span<const std::uint8_t> Take(std::span<const std::uint8_t>& rest, std::size_t count)
 {
-    const auto value = LoadNumber<Number>(file.data() + at);
+    if (count > rest.size()) {
+        FailOutOfRange("The file ends " + std::to_string(count - rest.size()) + " bytes too early.");
+    }
+    const auto piece = rest.first(count);
+    rest = rest.subspan(count);
+    return piece;
+}
+
+template <class Number> std::size_t SizeAt(std::span<const std::uint8_t> bytes, std::size_t at, std::string_view what)
+{
+    const auto value = LoadNumber<Number>(bytes.data() + at);
     if (value < 0) {
-        FailOutOfRange("A size in the header is " + std::to_string(value) + ".");
+        FailOutOfRange(std::string(what) + " is " + std::to_string(value) + '.');
     }
     return static_cast<std::size_t>(value);
 }
 
-void Append(Bytes& bytes, std::span<const std::uint8_t> more)
+// A whole record with its frame.
+std::span<const std::uint8_t> TakeRecord(std::span<const std::uint8_t>& rest)
 {
-    const std::size_t end = bytes.size();
-    bytes.resize(end + more.size());
-    std::copy(more.begin(), more.end(), bytes.data() + end);
+    auto ahead = rest;
+    const auto frame = Take(ahead, view_file::frameSize);
+    return Take(rest, view_file::frameSize + SizeAt<std::int16_t>(frame, 1, "The payload's size of a record"));
 }
 
-const Insertion* InsertionFor(std::uint8_t type, std::span<const Insertion> insertions)
+void Append(Bytes& bytes, std::span<const std::uint8_t> more)
 {
-    for (const Insertion& insertion : insertions) {
-        if (insertion.type == type) {
-            return &insertion;
-        }
-    }
-    return nullptr;
+    bytes.insert(bytes.end(), more.begin(), more.end());
 }
 
 void AppendGrown(Bytes& bytes, std::span<const std::uint8_t> record, const Insertion& insertion)
@@ -115,21 +91,23 @@ void Complete(Bytes& bytes, std::size_t recordsAt, std::uint8_t version)
 
 Bytes Upgrade(std::span<const std::uint8_t> file, std::span<const Insertion> insertions, std::uint8_t version)
 {
-    Walk walk(file);
-    const auto header = walk.Take(view_file::headerSize);
-    const std::size_t recordCount = SizeAt<std::int32_t>(header, view_file::recordCountAt);
-    const std::size_t nameBlockSize = SizeAt<std::int16_t>(header, view_file::nameBlockSizeAt);
-    const std::size_t titleSize = SizeAt<std::int16_t>(header, view_file::nameLengthAt) +
-                                  SizeAt<std::int16_t>(header, view_file::categoryLengthAt);
+    constexpr std::string_view inHeader = "A size in the header";
+    auto rest = file;
+    const auto header = Take(rest, view_file::headerSize);
+    const std::size_t recordCount = SizeAt<std::int32_t>(header, view_file::recordCountAt, inHeader);
+    const std::size_t nameBlockSize = SizeAt<std::int16_t>(header, view_file::nameBlockSizeAt, inHeader);
+    const std::size_t titleSize = SizeAt<std::int16_t>(header, view_file::nameLengthAt, inHeader) +
+                                  SizeAt<std::int16_t>(header, view_file::categoryLengthAt, inHeader);
     const std::size_t recordsAt = view_file::headerSize + titleSize;
     Bytes result;
     result.reserve(file.size());
     Append(result, header);
-    Append(result, walk.Take(titleSize));
+    Append(result, Take(rest, titleSize));
     std::size_t inserted = 0;
     for (std::size_t index = 0; index < recordCount; ++index) {
-        const auto record = walk.TakeRecord();
-        if (const Insertion* insertion = InsertionFor(record[0], insertions)) {
+        const auto record = TakeRecord(rest);
+        const auto insertion = std::ranges::find(insertions, record[0], &Insertion::type);
+        if (insertion != insertions.end()) {
             AppendGrown(result, record, *insertion);
             inserted += insertion->count;
         } else {
@@ -140,8 +118,8 @@ Bytes Upgrade(std::span<const std::uint8_t> file, std::span<const Insertion> ins
         result.assign(file.begin(), file.end());
     } else {
         StoreNumber(result.data() + view_file::recordBlockSizeAt, Narrow<std::int32_t>(result.size() - recordsAt));
-        Append(result, walk.Take(nameBlockSize));
-        walk.Take(view_file::checksumSize);
+        Append(result, Take(rest, nameBlockSize));
+        Take(rest, view_file::checksumSize);
         result.resize(file.size() + inserted);
     }
     Complete(result, recordsAt, version);

@@ -1,12 +1,12 @@
 #include "forms/bars_layout.h"
 
 #include "base/failure.h"
+#include "base/text.h"
 #include "forms/bars.h"
 #include "platform/files.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 namespace quor {
@@ -20,7 +20,7 @@ constexpr std::string_view bandWord = "band";
 constexpr std::string_view toolWord = "tool";
 constexpr std::string_view shownWord = "shown";
 constexpr std::string_view hiddenWord = "hidden";
-constexpr std::size_t mostBytes = 65'536;
+constexpr std::int64_t mostBytes = 65'536;
 constexpr std::size_t mostBands = 64;
 constexpr std::size_t mostTools = 256; // on one toolbar
 
@@ -53,9 +53,9 @@ template <class Take> void VisitLines(std::string_view text, std::string_view he
 
 template <class Number> bool TakeNumber(std::string_view& words, Number most, Number& number)
 {
-    const std::string_view word = TakeName(words);
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    return error == std::errc() && end == word.data() + word.size() && number >= 0 && number <= most;
+    const std::optional<Number> read = ReadNumber<Number>(TakeName(words));
+    number = read.value_or(0);
+    return read && number >= 0 && number <= most;
 }
 
 bool TakeBand(std::string_view words, BarsLayout& layout)
@@ -79,21 +79,9 @@ bool TakeBand(std::string_view words, BarsLayout& layout)
     return isGood;
 }
 
-std::string ReadText(Files& files, const std::string& path)
+std::string ReadLines(Files& files, const std::string& path)
 {
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Read);
-    const std::int64_t size = file->Size();
-    if (size > static_cast<std::int64_t>(mostBytes)) {
-        throw Failure(failures::invalidCall, "The file of the bars is too long");
-    }
-    std::string text(static_cast<std::size_t>(size), '\0');
-    text.resize(file->Read(0, {reinterpret_cast<std::uint8_t*>(text.data()), text.size()}));
-    return text;
-}
-
-void WriteText(Files& files, const std::string& path, const std::string& text)
-{
-    WriteWhole(files, path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+    return ReadText(files, path, mostBytes, Failure(failures::invalidCall, "The file of the bars is too long"));
 }
 
 // Those of the names that can stand on a toolbar, each but separators once.
@@ -169,12 +157,12 @@ BarsLayout ParseLayout(std::string_view text)
 
 void SaveLayout(const Bars& bars, Files& files, const std::string& path)
 {
-    WriteText(files, path, LayoutText(LayoutOf(bars)));
+    WriteWhole(files, path, LayoutText(LayoutOf(bars)));
 }
 
 void LoadLayout(Bars& bars, Files& files, const std::string& path)
 {
-    ApplyLayout(bars, ParseLayout(ReadText(files, path)));
+    ApplyLayout(bars, ParseLayout(ReadLines(files, path)));
 }
 
 void SaveUsage(const Bars& bars, Files& files, const std::string& path)
@@ -185,13 +173,13 @@ void SaveUsage(const Bars& bars, Files& files, const std::string& path)
             text += std::string(toolWord) + ' ' + tool->Name + ' ' + std::to_string(tool->Uses()) + '\n';
         }
     }
-    WriteText(files, path, text + std::string(lastLine) + '\n');
+    WriteWhole(files, path, text + std::string(lastLine) + '\n');
 }
 
 void LoadUsage(Bars& bars, Files& files, const std::string& path)
 {
     std::vector<std::pair<BarTool*, std::uint32_t>> uses;
-    VisitLines(ReadText(files, path), usageHeader, [&](std::string_view line) {
+    VisitLines(ReadLines(files, path), usageHeader, [&](std::string_view line) {
         const bool isTool = TakeName(line) == toolWord;
         const std::unique_ptr<BarTool>* tool = bars.Tools().Find(TakeName(line));
         std::uint32_t count = 0;

@@ -5,7 +5,6 @@
 #include "platform/whole_file.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace quor {
 
@@ -22,37 +21,29 @@ constexpr std::size_t longestHash = 127;
 constexpr std::uint32_t mostMemory = 1 << 20; // KiB
 constexpr std::uint32_t mostPasses = 16;
 
-template <class Number> bool TakeNumber(std::string_view& text, Number& number)
+// From the front to the next such letter, and both taken off.
+std::string_view TakeTo(char letter, std::string_view& text)
 {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return error == std::errc();
+    const std::size_t end = std::min(text.find(letter), text.size());
+    const std::string_view word = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return word;
 }
 
-bool TakeWord(std::string_view& text, std::string_view word)
+// The number between the words and the next comma is at most that one; all of it is taken off.
+bool TakeBounded(std::string_view words, std::uint32_t most, std::string_view& text)
 {
-    const bool isThere = text.starts_with(word);
-    text.remove_prefix(isThere ? word.size() : 0);
-    return isThere;
+    const bool isThere = text.starts_with(words);
+    text.remove_prefix(isThere ? words.size() : 0);
+    const std::optional<std::uint32_t> number = ReadNumber<std::uint32_t>(TakeTo(',', text));
+    return isThere && number && *number <= most;
 }
 
 bool IsHash(std::string_view text)
 {
     const bool isPrintable = std::ranges::all_of(text, [](char letter) { return letter > ' ' && letter < 0x7F; });
-    std::uint32_t memory = 0;
-    std::uint32_t passes = 0;
-    return isPrintable && text.size() <= longestHash && TakeWord(text, hashPrefix) && TakeNumber(text, memory) &&
-           memory <= mostMemory && TakeWord(text, ",t=") && TakeNumber(text, passes) && passes <= mostPasses &&
-           TakeWord(text, ",p=1$");
-}
-
-// From the front to the next blank, and both taken off.
-std::string_view TakeToBlank(std::string_view& text)
-{
-    const std::size_t end = std::min(text.find(' '), text.size());
-    const std::string_view word = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return word;
+    return isPrintable && text.size() <= longestHash && TakeBounded(hashPrefix, mostMemory, text) &&
+           TakeBounded("t=", mostPasses, text) && text.starts_with("p=1$");
 }
 
 bool ReadRights(std::string_view text, std::set<std::int16_t>& rights)
@@ -83,8 +74,8 @@ bool CanBeKept(std::string_view name)
 std::string ReadUser(std::string_view line, UserList& users)
 {
     User user;
-    user.hash = TakeToBlank(line);
-    const std::string_view rights = TakeToBlank(line);
+    user.hash = TakeTo(' ', line);
+    const std::string_view rights = TakeTo(' ', line);
     user.name = line;
     if (!IsHash(user.hash)) {
         return "there is no hash that could be checked.";
@@ -111,8 +102,8 @@ bool IsUserName(std::string_view name)
 
 std::optional<std::int16_t> ReadRight(std::string_view text)
 {
-    std::int16_t right = 0;
-    return TakeNumber(text, right) && text.empty() && right >= 1 ? std::optional(right) : std::nullopt;
+    const std::optional<std::int16_t> right = ReadNumber<std::int16_t>(text);
+    return right && *right >= 1 ? right : std::nullopt;
 }
 
 const User* FindUser(const UserList& users, std::string_view name)
@@ -159,12 +150,8 @@ std::string WriteUsers(const UserList& users)
 
 UserList LoadUsers(Files& files, const std::string& path)
 {
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Read);
-    if (file->Size() > largestFile) {
-        throw Failure(failures::outOfRange, "The file of users has more than 1 MB.");
-    }
-    const std::vector<std::uint8_t> text = ReadWhole(*file);
-    return ReadUsers({reinterpret_cast<const char*>(text.data()), text.size()});
+    return ReadUsers(
+        ReadText(files, path, largestFile, Failure(failures::outOfRange, "The file of users has more than 1 MB.")));
 }
 
 bool HasNoUsers(Files& files, const UserPlace& place)

@@ -45,14 +45,6 @@ bool UserLogin::HasPrivilege(std::int16_t right)
     return IsOpen() || (m_user && m_user->rights.contains(right));
 }
 
-void UserLogin::EndSession()
-{
-    if (m_user) {
-        m_user.reset();
-        LogOff.Raise();
-    }
-}
-
 void UserLogin::AnswerLater(bool success)
 {
     m_answer = success;

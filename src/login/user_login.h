@@ -31,9 +31,6 @@ public:
     UserLogin(const Ports& ports, UserPlace place);
     ~UserLogin() override;
 
-    // Ends the session of who is logged on, if there is a file of users.
-    void EndSession();
-
     // The answer comes when the dialog is gone. A file that tells no users is told to the user, and nobody gets in.
     void ShowLogOn(bool show) override;
     bool IsLoggedOn() override;

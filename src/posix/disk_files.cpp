@@ -156,16 +156,6 @@ std::unique_ptr<OpenFile> DiskFiles::OpenLike(const std::string& path, const std
     return std::make_unique<DiskFile>(posix::CreateLike(path, model), Writing::Lasting);
 }
 
-void DiskFiles::CopyFile(const std::string& from, const std::string& to)
-{
-    posix::ReplaceFile(from, to);
-}
-
-void DiskFiles::CopyScratch(const std::string& from, const std::string& to)
-{
-    posix::CopyScratch(from, to);
-}
-
 void DiskFiles::MoveFile(const std::string& from, const std::string& to)
 {
     if (from.find('\0') != std::string::npos || to.find('\0') != std::string::npos) {
@@ -190,11 +180,6 @@ void DiskFiles::DeleteFile(const std::string& path)
     if (unlink(path.c_str()) != 0) {
         posix::Fail(errno, path);
     }
-}
-
-std::string DiskFiles::FollowLinks(const std::string& path)
-{
-    return posix::FollowLinks(path);
 }
 
 std::string DiskFiles::TempFolder()

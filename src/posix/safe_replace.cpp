@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "posix/attributes.h"
+#include "posix/disk_files.h"
 #include "posix/scratch.h"
 
 #include <array>
@@ -174,8 +175,33 @@ bool IsOfProcesses(const std::string& folder)
 
 } // namespace
 
-std::string FollowLinks(std::string path)
+Descriptor CreateLike(const std::string& path, const std::string& model)
 {
+    struct stat status {};
+    if (stat(model.c_str(), &status) != 0) {
+        Fail(errno, model);
+    }
+    NewFile file(path);
+    TakeOverAttributes(model, status, file.File());
+    file.Keep();
+    return std::move(file.File());
+}
+
+void FlushNew(const Descriptor& file)
+{
+    file.Check(fsync(file.Number()));
+    FlushFolderOf(file.Path());
+}
+
+} // namespace quor::posix
+
+namespace quor {
+
+using namespace posix;
+
+std::string DiskFiles::FollowLinks(const std::string& link)
+{
+    std::string path = link;
     constexpr int mostLinks = 40;
     for (int links = 0; links < mostLinks; ++links) {
         std::array<char, PATH_MAX> buffer;
@@ -196,7 +222,7 @@ std::string FollowLinks(std::string path)
     Fail(ELOOP, path);
 }
 
-void ReplaceFile(const std::string& from, const std::string& to)
+void DiskFiles::CopyFile(const std::string& from, const std::string& to)
 {
     const Descriptor source(from, O_RDONLY);
     if (to.find('\0') != std::string::npos) {
@@ -216,7 +242,7 @@ void ReplaceFile(const std::string& from, const std::string& to)
     SweepLeftOvers(FolderOf(from));
 }
 
-void CopyScratch(const std::string& from, const std::string& to)
+void DiskFiles::CopyScratch(const std::string& from, const std::string& to)
 {
     if (link(from.c_str(), to.c_str()) == 0) {
         return;
@@ -228,22 +254,4 @@ void CopyScratch(const std::string& from, const std::string& to)
     copy.Keep();
 }
 
-Descriptor CreateLike(const std::string& path, const std::string& model)
-{
-    struct stat status {};
-    if (stat(model.c_str(), &status) != 0) {
-        Fail(errno, model);
-    }
-    NewFile file(path);
-    TakeOverAttributes(model, status, file.File());
-    file.Keep();
-    return std::move(file.File());
-}
-
-void FlushNew(const Descriptor& file)
-{
-    file.Check(fsync(file.Number()));
-    FlushFolderOf(file.Path());
-}
-
-} // namespace quor::posix
+} // namespace quor

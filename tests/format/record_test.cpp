@@ -170,34 +170,16 @@ TEST(AText, KeepsEveryByteOfTheCodePage)
     EXPECT_EQ(again, (Bytes{'?', '?', '?', 0}));
 }
 
-TEST(AFontRecord, TakesSeventeenBytesAndTheName)
+TEST(AFont, LetsTheStoredWeightDecide)
 {
-    Font font;
-    font.Name = std::string(31, 'n');
-    Bytes bytes{1, 2};
-    AppendFontRecord(bytes, font);
-    EXPECT_EQ(bytes.size(), 50U);
-}
-
-TEST(AFontRecord, LetsTheStoredWeightDecide)
-{
-    Font font;
-    Bytes bytes;
-    AppendFontRecord(bytes, font);
-    bytes[0] = 1; // bold, but of weight 400
-    Font read;
-    read.SetBold(true);
-    std::size_t position = 0;
-    ExtractFontRecord(bytes, position, read);
-    EXPECT_EQ(read, font);
-    EXPECT_EQ(position, bytes.size());
-
-    Font untouched;
-    position = 2;
-    const Bytes cut(bytes.begin(), bytes.begin() + 17);
-    EXPECT_EQ(FailureOf([&] { ExtractFontRecord(cut, position, untouched); }), failures::outOfRange);
-    EXPECT_EQ(position, 2U);
-    EXPECT_EQ(untouched, Font());
+    Thing written;
+    Bytes payload = Payload(written);
+    payload[21] = 1; // bold, but of weight 400
+    Thing read;
+    PropertyAccess::Value(read.Face).SetBold(true);
+    RecordReader reader(payload);
+    read.Fields(reader);
+    EXPECT_EQ(read.Face(), written.Face());
 }
 
 } // namespace

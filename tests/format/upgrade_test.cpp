@@ -26,14 +26,6 @@ Bytes FileWith(std::uint8_t type, std::int16_t payloadSize)
     return bytes;
 }
 
-TEST(AnOldFile, IsRewrittenByteForByte)
-{
-    const Bytes version2 = UpgradeToVersion2(Sample("old/v1_mixed.qvw"));
-    EXPECT_EQ(version2[view_file::versionAt], 2);
-    EXPECT_EQ(UpgradeToVersion3(version2), Sample("old/v1_mixed.upgraded.qvw"));
-    EXPECT_EQ(UpgradeToVersion3(Sample("old/v2_mixed.qvw")), Sample("old/v2_mixed.upgraded.qvw"));
-}
-
 TEST(AnOldFile, WithNothingToGrowGetsVersionAndChecksumAlone)
 {
     Bytes wanted = FileWith(4, 10);

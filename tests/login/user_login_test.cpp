@@ -84,8 +84,6 @@ TEST_F(TheLogin, KnowsAUserWithTheRightsOfTheFile)
     EXPECT_EQ(answers, std::vector<bool>{true});
     EXPECT_TRUE(login.HasPrivilege(15));
     EXPECT_FALSE(login.HasPrivilege(2));
-    login.EndSession();
-    EXPECT_FALSE(login.IsLoggedOn());
 }
 
 TEST_F(TheLogin, TellsNoStrangerFromAWrongPassword)

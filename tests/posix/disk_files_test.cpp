@@ -346,23 +346,13 @@ TEST_F(OnDisk, ASaveSweepsWhatKilledOnesHaveLeftLongAgo)
 
 TEST(TheClock, TellsDateAndTimeInAtMost22Characters)
 {
-    std::tm time{};
-    time.tm_year = 126;
-    const struct {
-        int month, day, hour, minute, second;
-        const char* text;
-    } cases[] = {
-        {10, 24, 22, 58, 5, "11/24/2026 10:58:05 PM"},
-        {0, 1, 0, 0, 9, "1/1/2026 12:00:09 AM"},
-        {2, 7, 12, 30, 0, "3/7/2026 12:30:00 PM"},
-        {2, 7, 11, 59, 59, "3/7/2026 11:59:59 AM"},
+    const std::pair<std::tm, const char*> cases[] = {
+        {{5, 58, 22, 24, 10, 126, 0, 0, 0, 0, nullptr}, "11/24/2026 10:58:05 PM"},
+        {{9, 0, 0, 1, 0, 126, 0, 0, 0, 0, nullptr}, "1/1/2026 12:00:09 AM"},
+        {{0, 30, 12, 7, 2, 126, 0, 0, 0, 0, nullptr}, "3/7/2026 12:30:00 PM"},
+        {{59, 59, 11, 7, 2, 126, 0, 0, 0, 0, nullptr}, "3/7/2026 11:59:59 AM"},
     };
-    for (const auto& [month, day, hour, minute, second, text] : cases) {
-        time.tm_mon = month;
-        time.tm_mday = day;
-        time.tm_hour = hour;
-        time.tm_min = minute;
-        time.tm_sec = second;
+    for (const auto& [time, text] : cases) {
         EXPECT_EQ(GeneralDate(time), text);
     }
     EXPECT_LE(SystemClock().Now().size(), 22U);

@@ -28,33 +28,12 @@ void Limit(int resource, rlim_t most)
 
 // What works on memory, time and open files; all else is told not to be permitted, so that a library that looks for
 // another font or plugin does without.
-constexpr int allowedCalls[] = {SCMP_SYS(read),
-                                SCMP_SYS(write),
-                                SCMP_SYS(close),
-                                SCMP_SYS(fstat),
-                                SCMP_SYS(lseek),
-                                SCMP_SYS(mmap),
-                                SCMP_SYS(munmap),
-                                SCMP_SYS(mremap),
-                                SCMP_SYS(mprotect),
-                                SCMP_SYS(madvise),
-                                SCMP_SYS(brk),
-                                SCMP_SYS(futex),
-                                SCMP_SYS(sched_yield),
-                                SCMP_SYS(getrandom),
-                                SCMP_SYS(gettid),
-                                SCMP_SYS(getpid),
-                                SCMP_SYS(rt_sigaction),
-                                SCMP_SYS(rt_sigprocmask),
-                                SCMP_SYS(rt_sigreturn),
-                                SCMP_SYS(sigaltstack),
-                                SCMP_SYS(clock_gettime),
-                                SCMP_SYS(clock_nanosleep),
-                                SCMP_SYS(gettimeofday),
-                                SCMP_SYS(nanosleep),
-                                SCMP_SYS(exit),
-                                SCMP_SYS(exit_group),
-                                SCMP_SYS(restart_syscall)};
+constexpr const char* allowedCalls[] = {
+    "read",         "write",       "close",          "fstat",           "lseek",        "mmap",
+    "munmap",       "mremap",      "mprotect",       "madvise",         "brk",          "futex",
+    "sched_yield",  "getrandom",   "gettid",         "getpid",          "rt_sigaction", "rt_sigprocmask",
+    "rt_sigreturn", "sigaltstack", "clock_gettime",  "clock_nanosleep", "gettimeofday", "nanosleep",
+    "exit",         "exit_group",  "restart_syscall"};
 
 bool FilterCalls()
 {
@@ -63,8 +42,10 @@ bool FilterCalls()
     if (filter == nullptr) {
         return false;
     }
-    bool isMade = std::all_of(std::begin(allowedCalls), std::end(allowedCalls),
-                              [&](int call) { return seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0) == 0; });
+    bool isMade = std::all_of(std::begin(allowedCalls), std::end(allowedCalls), [&](const char* call) {
+        const int number = seccomp_syscall_resolve_name(call);
+        return seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, number, 0) == 0;
+    });
     // To end itself.
     const scmp_arg_cmp itself{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()), 0};
     isMade = isMade && seccomp_rule_add_array(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1, &itself) == 0;

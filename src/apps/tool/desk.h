@@ -2,6 +2,7 @@
 // What the commands of quor-view-tool work on: a view with its canvas and the world around it.
 
 #include "apps/tool/console_ports.h"
+#include "apps/tool/refusal.h"
 #include "binding/live.h"
 #include "document/view_document.h"
 #include "widgets/canvas.h"
@@ -10,11 +11,6 @@
 #include <string_view>
 
 namespace quor {
-
-// Why a command could not run.
-struct Refusal {
-    std::string reason;
-};
 
 // Safe to show on one line: breaks are blanks, other control characters escapes.
 std::string OneLine(std::string text);

@@ -1,10 +1,10 @@
 #include "apps/tool/password_prompt.h"
 
+#include "apps/tool/signal_hold.h"
 #include "base/failure.h"
 
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <iostream>
 #include <optional>
 #include <sys/poll.h>
@@ -19,29 +19,16 @@ namespace {
 // Holds back what would end or stop the program; it comes at the end of this object's life.
 class HeldSignals {
 public:
-    HeldSignals()
-    {
-        sigset_t held;
-        sigemptyset(&held);
-        for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP}) {
-            sigaddset(&held, number);
-        }
-        pthread_sigmask(SIG_BLOCK, &held, &m_before);
-        m_waiting = signalfd(-1, &held, SFD_CLOEXEC);
-    }
+    HeldSignals() : m_waiting(signalfd(-1, &m_hold.Held(), SFD_CLOEXEC)) {}
     HeldSignals(const HeldSignals&) = delete;
     HeldSignals& operator=(const HeldSignals&) = delete;
-    ~HeldSignals()
-    {
-        close(m_waiting);
-        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
-    }
+    ~HeldSignals() { close(m_waiting); }
 
     // A file that can be read when a signal waits; reading would take the signal away.
     int Waiting() const noexcept { return m_waiting; }
 
 private:
-    sigset_t m_before{};
+    SignalHold m_hold{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
     int m_waiting;
 };
 

@@ -2,10 +2,10 @@
 
 #include "apps/tool/desk.h"
 #include "apps/tool/view_renderer.h"
+#include "base/text.h"
 #include "binding/bln_data_source.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace quor {
@@ -18,12 +18,11 @@ constexpr double mostPixels = 100'000'000;
 // The whole word as a number, or a refusal.
 template <class Number> Number NumberIn(std::string_view word, std::string_view option)
 {
-    Number number{};
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size()) {
+    const std::optional<Number> number = ReadNumber<Number>(word);
+    if (!number) {
         throw Refusal{"\"" + std::string(word) + "\" is no value for " + std::string(option)};
     }
-    return number;
+    return *number;
 }
 
 void TakeScale(RenderJob& job, const std::string& value)

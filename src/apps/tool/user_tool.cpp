@@ -1,11 +1,12 @@
 #include "apps/tool/user_tool.h"
 
+#include "apps/tool/refusal.h"
 #include "apps/tool/signal_hold.h"
 #include "base/guard.h"
 #include "base/text.h"
-#include "platform/files.h"
 #include "platform/login.h"
 #include "platform/password_hash.h"
+#include "platform/whole_file.h"
 #include "posix/file_lock.h"
 
 #include <algorithm>
@@ -22,10 +23,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view usage = "usage: quor-view-tool user add NAME [RIGHT...] | user remove NAME | user list | "
                                    "user passwd NAME | user rights NAME [RIGHT... | none]";
 constexpr std::size_t longestPassword = 1024;
-
-struct Refusal {
-    std::string reason;
-};
 
 std::set<std::int16_t> ReadRights(std::span<const std::string> words)
 {
@@ -125,23 +122,12 @@ UserList UserTool::Load()
 // The whole file in one step; readable by its owner alone, also if it wasn't before.
 void UserTool::Save(const UserList& users)
 {
-    const std::string text = WriteUsers(users);
     const SignalHold hold;
     if (fs::exists(m_place.File())) {
         fs::permissions(m_place.File(), fs::perms::owner_read | fs::perms::owner_write);
     }
-    const std::string scratch = m_place.config + '/' + m_ports.files.TempName();
-    const std::unique_ptr<OpenFile> file = m_ports.files.Open(scratch, OpenMode::Scratch);
-    try {
-        file->Write(0, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-        file->Close();
-        m_ports.files.CopyFile(scratch, m_place.File());
-    } catch (...) {
-        IgnoreFailure([&] { m_ports.files.DeleteFile(scratch); });
-        throw;
-    }
-    if (!IgnoreFailure([&] { m_ports.files.DeleteFile(scratch); })) {
-        m_ports.errors << "the scratch file " << scratch << " stays behind\n";
+    if (const std::string words = WriteWhole(m_ports.files, m_place.File(), WriteUsers(users)); !words.empty()) {
+        m_ports.errors << Escaped(words) << '\n';
     }
 }
 

@@ -9,7 +9,6 @@
 #include "base/text.h"
 #include "format/container.h"
 #include "format/upgrade.h"
-#include "platform/scratch_file.h"
 #include "platform/whole_file.h"
 
 #include <nlohmann/json.hpp>
@@ -104,12 +103,12 @@ int ViewTool::Upgrade(const std::string& from, const std::string& to)
     if (header.version == 1) {
         bytes = UpgradeToVersion2(bytes);
     }
-    WriteWhole(to, UpgradeToVersion3(bytes));
+    WriteOver(to, UpgradeToVersion3(bytes));
     Desk desk(m_files);
     if (desk.View().LoadFile(to)) {
         return 0;
     }
-    m_errors << OneLine(to + ": written, but it does not load: " + desk.Verdict()) << '\n';
+    Warn(to + ": written, but it does not load: " + desk.Verdict());
     return 1;
 }
 
@@ -125,26 +124,25 @@ int ViewTool::Save(Desk& desk, const std::string& path)
     const SignalHold hold;
     desk.Save(path);
     for (const ErrorReport& report : desk.Logged()) {
-        m_errors << OneLine(report.description) << '\n';
+        Warn(report.description);
     }
     return 0;
 }
 
-// By way of a scratch file, so that the target is replaced in one step.
-void ViewTool::WriteWhole(const std::string& path, std::span<const std::uint8_t> bytes)
+void ViewTool::WriteOver(const std::string& path, std::span<const std::uint8_t> bytes)
 {
     const SignalHold hold;
-    ScratchFile scratch(m_files);
     try {
-        scratch.Fill([&](OpenFile& file) { file.Write(0, bytes); });
-        m_files.CopyFile(scratch.Path(), path);
+        Warn(WriteWhole(m_files, path, bytes));
     } catch (const Failure& failure) {
         throw Refusal{"cannot save " + path + ": " + failure.Description()};
     }
-    try {
-        scratch.Delete();
-    } catch (const Failure& failure) { // which is no failure of the command
-        m_errors << OneLine(failure.Description()) << '\n';
+}
+
+void ViewTool::Warn(const std::string& words)
+{
+    if (!words.empty()) {
+        m_errors << OneLine(words) << '\n';
     }
 }
 
@@ -154,13 +152,12 @@ void ViewTool::Render(std::span<const std::string> arguments)
     WatchedPictures pictures(m_renderer->PictureFiles());
     Desk desk(m_files, &pictures);
     desk.Load(job.from);
-    WriteWhole(job.to, RenderedPng(desk, job, *m_renderer));
-    std::vector<std::string> words = pictures.Missing();
-    if (const std::string told = desk.Told(); !told.empty()) {
-        words.push_back(told);
+    WriteOver(job.to, RenderedPng(desk, job, *m_renderer));
+    for (const std::string& each : pictures.Missing()) {
+        Warn(job.from + ": " + each);
     }
-    for (const std::string& each : words) {
-        m_errors << OneLine(job.from + ": " + each) << '\n';
+    if (const std::string told = desk.Told(); !told.empty()) {
+        Warn(job.from + ": " + told);
     }
 }
 

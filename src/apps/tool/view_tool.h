@@ -32,7 +32,8 @@ private:
     int Resave(const std::string& from, const std::string& to);
     void Render(std::span<const std::string> arguments);
     int Save(Desk& desk, const std::string& path);
-    void WriteWhole(const std::string& path, std::span<const std::uint8_t> bytes);
+    void WriteOver(const std::string& path, std::span<const std::uint8_t> bytes);
+    void Warn(const std::string& words); // a line, unless there are none
     int RunCommand(std::span<const std::string> arguments);
 
     Files& m_files;

@@ -1,9 +1,9 @@
 #include "apps/view_json/exact_numbers.h"
 
 #include "base/narrow.h"
+#include "base/text.h"
 
 #include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -17,15 +17,6 @@ constexpr std::size_t sizeDigits = 4;
 constexpr std::string_view nan = "NaN";
 constexpr auto usualNan = std::numeric_limits<float>::quiet_NaN();
 constexpr auto infinity = std::numeric_limits<float>::infinity();
-
-// The whole text as a number.
-template <class Number> std::optional<Number> ReadWhole(std::string_view text, int base)
-{
-    Number number{};
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, number, base);
-    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
-}
 
 } // namespace
 
@@ -56,7 +47,7 @@ std::optional<std::int64_t> ReadSize(std::string_view text)
     if (text.size() < sizeDigits + 2 || text[point] != '.') {
         return std::nullopt;
     }
-    return ReadWhole<std::int64_t>(std::string(text.substr(0, point)).append(text.substr(point + 1)), 10);
+    return ReadNumber<std::int64_t>(std::string(text.substr(0, point)).append(text.substr(point + 1)));
 }
 
 std::string NanText(float value)
@@ -79,7 +70,7 @@ std::optional<float> ReadNoNumber(std::string_view text)
         return text.front() == '-' ? -infinity : infinity;
     }
     const auto bits =
-        text.size() > nan.size() + 2 ? ReadWhole<std::uint32_t>(text.substr(nan.size() + 1, 8), 16) : std::nullopt;
+        text.size() > nan.size() + 2 ? ReadNumber<std::uint32_t>(text.substr(nan.size() + 1, 8), 16) : std::nullopt;
     const float value = bits ? std::bit_cast<float>(*bits) : 0;
     return std::isnan(value) && NanText(value) == text ? std::optional(value) : std::nullopt;
 }

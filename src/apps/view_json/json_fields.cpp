@@ -55,11 +55,9 @@ bool IsStorable(const std::string& text)
 void JsonWriter::Field(std::string_view name, FieldRef field)
 {
     Json& member = (*m_objects.back())[std::string(name)];
-    std::visit(Overloaded{[&](auto value) { member = *value; },
-                          [&](WideFlag* value) { member = value->value; },
+    std::visit(Overloaded{[&](auto value) { member = *value; }, [&](WideFlag* value) { member = value->value; },
                           [&](float* value) { member = NumberOf(*value); },
-                          [&](Color* value) { member = value->value; },
-                          [&](Font* value) { member = JsonOf(*value); }},
+                          [&](Color* value) { member = value->value; }, [&](Font* value) { member = JsonOf(*value); }},
                field);
 }
 

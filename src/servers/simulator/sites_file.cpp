@@ -18,12 +18,7 @@ constexpr std::int64_t largestFile = 8 << 20;
 
 ServerPlan Load(Files& files, const std::string& path)
 {
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenMode::Read);
-    if (file->Size() > largestFile) {
-        throw Failure(failures::outOfRange, "It has more than 8 MB.");
-    }
-    const std::vector<std::uint8_t> text = ReadWhole(*file);
-    return ReadServerPlan({reinterpret_cast<const char*>(text.data()), text.size()});
+    return ReadServerPlan(ReadText(files, path, largestFile, Failure(failures::outOfRange, "It has more than 8 MB.")));
 }
 
 } // namespace
