@@ -55,7 +55,7 @@ TEST(AServerFile, IsRefusedWithThePlaceOfItsFault)
         {"{\"Sites\": [{\"NetName\": \"\\ud800\"}]}", "Line 1, "},
         {"{}\n\n{}", "Line 3, column 1: from here on this is no JSON."},
         {"{\"Later\": nul}", "Line 1, "},
-        {"{\"Later\": \"a\nb\"}", "Line 2, "},
+        {"{\"Later\": \"a\nb\"}", "Line 1, column 13"},
     };
     for (const auto& fault : faults) {
         EXPECT_TRUE(WordsOf(fault.json).starts_with(fault.words)) << fault.json.substr(0, 80) << WordsOf(fault.json);
