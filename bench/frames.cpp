@@ -51,7 +51,7 @@ public:
         m_main.Form_Load("");
         AddLeds(m_main.View(), count);
         m_theme.Apply(*qApp);
-        m_window.emplace(m_main, m_theme);
+        m_window.emplace(m_main);
         m_window->resize(1366, 768);
         m_window->show();
     }
@@ -143,8 +143,7 @@ double FirstFrame()
     World world(files);
     frmMain main(world.PortsOfEditor());
     main.Form_Load("");
-    Theme theme;
-    CanvasView view(main, theme);
+    CanvasView view(main);
     view.resize(wholeView);
     return SecondsUntilPainted([&] {
         AddLeds(main.View(), many);

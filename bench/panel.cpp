@@ -38,7 +38,7 @@ void Measure(Results& results)
     Theme theme;
     theme.Apply(*qApp);
     {
-        MainWindow window(main, theme);
+        MainWindow window(main);
         window.show();
         window.Canvas().setUpdatesEnabled(false);
         for (int sample = 0; sample <= samples; ++sample) {

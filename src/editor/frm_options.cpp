@@ -24,7 +24,7 @@ void frmOptions::Place()
     constexpr int button = 72;
     Set(&Form::Width, width * twipsPerPixelX);
     Set(&Form::Height, 208 * twipsPerPixelY);
-    Arrange(20, {{.y = 10, .height = 26, .items = {{.control = &tabOptions, .x = 12, .width = LayoutItem::filling}}},
+    Arrange(20, {{.y = 10, .height = 26, .items = {{.control = &tabOptions, .x = 12}}},
                  {.y = 44, .height = 109, .items = {{.control = &panOptions, .x = 0, .width = width}}},
                  {.y = 58,
                   .height = 30,

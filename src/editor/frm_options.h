@@ -28,7 +28,7 @@ public:
 
     explicit frmOptions(const Ports& ports);
 
-    TabStrip& tabOptions = Make<TabStrip>("tabOptions", std::vector<std::string>{"General"});
+    Label& tabOptions = Make<Label>("tabOptions", "General", LabelRole::Tab);
     FormPanel& panOptions = Make<FormPanel>("panOptions", FormPanel::Look::Plain);
     Label& lblOptions = Make<Label>("lblOptions", "Grid Size:", LabelRole::Caption);
     NumberField& txtGridSize = Make<NumberField>("txtGridSize", leastGridSize, mostGridSize);

@@ -42,8 +42,8 @@ public:
     using Looks<Self, Control>::Looks;
 };
 
-// What a label is for decides its type and colour. Of a headed one the first line is a heading.
-enum class LabelRole { Text, Caption, Message, Heading, Title, Headed };
+// What a label is for decides its type and colour. Of a headed one the first line is a heading; a tab is the only one.
+enum class LabelRole { Text, Caption, Message, Heading, Title, Headed, Tab };
 
 class Label final : public ControlOn<Label> {
 public:

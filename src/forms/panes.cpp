@@ -1,28 +1,8 @@
 #include "forms/panes.h"
 
-#include "base/failure.h"
-
 #include <algorithm>
 
 namespace quor {
-
-void TabStrip::Index(std::int32_t index)
-{
-    if (index < 0) {
-        throw Failure(failures::invalidPropertyValue);
-    }
-    RequireIndex(index, m_captions.size());
-    if (Write(m_index, index)) {
-        Click.Raise();
-    }
-}
-
-void TabStrip::Choose(std::int32_t index)
-{
-    if (AcceptsUser()) {
-        Index(index);
-    }
-}
 
 void RowList::SetRows(std::vector<Row> rows)
 {

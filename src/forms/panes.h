@@ -1,33 +1,11 @@
 #pragma once
-// The controls that divide a form or hold many rows: tab strips, panels and row lists.
+// The controls that divide a form or hold many rows: panels and row lists.
 
 #include "forms/controls.h"
 
 #include <vector>
 
 namespace quor {
-
-// Tabs side by side, of which one is in front.
-class TabStrip final : public ControlOn<TabStrip> {
-public:
-    TabStrip(std::string name, std::vector<std::string> captions)
-        : ControlOn(std::move(name)), m_captions(std::move(captions))
-    {
-    }
-
-    Event<> Click; // another one is in front
-
-    const std::vector<std::string>& Captions() const noexcept { return m_captions; }
-    std::int32_t Index() const noexcept { return m_index(); }
-
-    // From 0 to the last tab, else 380.
-    void Index(std::int32_t index);
-    void Choose(std::int32_t index);
-
-private:
-    std::vector<std::string> m_captions;
-    Property<"Index", std::int32_t> m_index;
-};
 
 // The ground of the controls that stand on it, which are made and laid out behind it.
 class FormPanel final : public ControlOn<FormPanel> {

@@ -60,7 +60,7 @@ private:
     bool Save(Form& form)
     {
         form.Load();
-        FormView view(form, m_theme);
+        FormView view(form);
         view.resize(view.sizeHint());
         view.show();
         QApplication::setActiveWindow(&view);

@@ -3,17 +3,16 @@
 #include "login/frm_log_on.h"
 #include "qt/forms/form_view.h"
 #include "qt/forms/form_window.h"
-#include "qt/forms/row_list_widget.h"
 #include "qt/ports/help_window.h"
 #include "qt/ports/qt_help.h"
 #include "qt/ports/qt_system_info.h"
-#include "qt/theme/theme.h"
 #include "tests/qt/test.h"
 
 #include <QCheckBox>
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -38,13 +37,12 @@ HelpWindow* ShownHelp()
 
 TEST(TheCustomizeDialog, IsWorkedByTheKeysOfItsLists)
 {
-    const Theme theme;
     const std::unique_ptr<Bars> bars = MakeEditorBars();
     frmCustomize form(*bars, LayoutOf(*bars));
-    FormView view(form, theme);
+    FormView view(form);
     view.resize(view.sizeHint());
-    auto* tools = view.findChild<RowListWidget*>("lstTools");
-    auto* toolbar = view.findChild<RowListWidget*>("lstToolbar");
+    auto* tools = view.findChild<QListWidget*>("lstTools");
+    auto* toolbar = view.findChild<QListWidget*>("lstToolbar");
     ASSERT_TRUE(tools != nullptr && toolbar != nullptr);
     EXPECT_EQ(view.FirstFocus(), tools);
     EXPECT_EQ(tools->accessibleName(), "Available tools:");
@@ -66,7 +64,6 @@ TEST(TheCustomizeDialog, IsWorkedByTheKeysOfItsLists)
 
 TEST(TheLogonDialog, GoesOnInThePasswordWhereTheMouseConfirmedAWrongOne)
 {
-    const Theme theme;
     FakeTimers timers;
     int failures = 0;
     std::string tried;
@@ -74,7 +71,7 @@ TEST(TheLogonDialog, GoesOnInThePasswordWhereTheMouseConfirmedAWrongOne)
         tried += name + ':' + password + ' ';
         return false;
     });
-    FormWindow window(form, theme, nullptr);
+    FormWindow window(form, nullptr);
     window.show();
     window.activateWindow();
     auto* ok = window.findChild<QPushButton*>("cmdOK");
@@ -99,8 +96,7 @@ TEST(ABoxWithALongCaption, BeginsWhereItHasRoom)
                          {.height = 26, .items = {{.control = &wide, .x = 116, .orX = 14}}}});
         }
     } form;
-    const Theme theme;
-    FormView view(form, theme);
+    FormView view(form);
     view.resize(320, 60);
     view.show();
     EXPECT_EQ(view.findChild<QCheckBox*>("narrow")->x(), 116);

@@ -48,7 +48,7 @@ void Press(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = {}, const
 
 struct TheFormRuntime : testing::Test {
     Theme theme;
-    QtForms forms{theme};
+    QtForms forms;
     FakeScreen screen;
     FakeClipboard clipboard;
     FakeClock clock;
@@ -204,7 +204,7 @@ public:
 TEST_F(TheFormRuntime, LaysOutALineByTheRoomThatItHas)
 {
     TryForm form;
-    FormView view(form, theme);
+    FormView view(form);
     view.resize(view.sizeHint());
     view.show();
     EXPECT_EQ(Part<QWidget>(&view, "clrOn").geometry(), QRect(116, 41, 56, 24));
@@ -227,7 +227,7 @@ TEST_F(TheFormRuntime, LaysOutALineByTheRoomThatItHas)
 TEST_F(TheFormRuntime, ShowsTheGroundThatAFormSetsUnlessItIsTheSystems)
 {
     TryForm form;
-    FormView view(form, theme);
+    FormView view(form);
     const QColor usual = view.palette().color(QPalette::Light);
     form.Set(&Form::BackColor, Color{0x0000FF});
     EXPECT_EQ(view.palette().color(view.backgroundRole()), QColor(Qt::red));
@@ -238,7 +238,7 @@ TEST_F(TheFormRuntime, ShowsTheGroundThatAFormSetsUnlessItIsTheSystems)
 TEST_F(TheFormRuntime, HandsInputToTheModelsAndShowsWhatTheyMakeOfIt)
 {
     TryForm form;
-    FormView view(form, theme);
+    FormView view(form);
     view.show();
     auto& list = Part<QComboBox>(&view, "cboStyle");
     EXPECT_EQ(list.accessibleName(), "Bevel Style:");

@@ -1,5 +1,7 @@
 // Runs the tests on a screen in memory, away from the user's own settings.
 
+#include "qt/theme/theme.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -15,6 +17,8 @@ int main(int argc, char** argv)
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    quor::Theme theme;
+    theme.Apply(application);
     return RUN_ALL_TESTS();
 }

@@ -28,7 +28,7 @@ struct ThePanel : EditorFixture {
     {
         theme.Apply(*qApp);
         EditorFixture::SetUp();
-        window = std::make_unique<MainWindow>(main, theme);
+        window = std::make_unique<MainWindow>(main);
         window->resize(1366, 768);
         window->show();
         window->activateWindow();

@@ -56,7 +56,7 @@ void Program::EndSession()
 EditorPorts Program::Ports()
 {
     m_theme.Apply(*qApp);
-    QApplication::setWindowIcon(m_theme.Icon("application"));
+    QApplication::setWindowIcon(IconOf("application"));
     m_live.Server = &m_server;
     m_live.CatalogHost = &m_sites;
     m_live.Login = &m_login;
@@ -69,7 +69,7 @@ EditorPorts Program::Ports()
 
 void Program::ShowWindow(frmMain& main)
 {
-    m_window = std::make_unique<MainWindow>(main, m_theme);
+    m_window = std::make_unique<MainWindow>(main);
     m_forms.SetMainWindow(m_window.get());
     m_window->show();
     QTimer::singleShot(0, m_window.get(), [this] { // when the splash has gone

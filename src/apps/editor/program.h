@@ -64,7 +64,7 @@ private:
     QtBoxes m_boxes;
     LaterBoxes m_laterBoxes{m_boxes};
     QtCommonDialog m_dialog;
-    QtForms m_forms{m_theme};
+    QtForms m_forms;
     QtTimers m_timers;
     QtScreen m_screen;
     QtPictures m_pictures;

@@ -8,22 +8,23 @@
 
 namespace quor {
 
-inline QColor MixedWith(const QColor& color, int other, qreal share)
+// Towards another colour by a share of 0 to 1.
+inline QColor Mixed(const QColor& color, const QColor& other, qreal share)
 {
-    const auto mix = [&](int channel) { return static_cast<int>(std::lround(channel + (other - channel) * share)); };
-    return QColor(mix(color.red()), mix(color.green()), mix(color.blue()));
+    const auto mix = [&](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * share)); };
+    return QColor(mix(color.red(), other.red()), mix(color.green(), other.green()), mix(color.blue(), other.blue()));
 }
 
-// Towards white by a share of 0 to 1.
+// Towards white.
 inline QColor Lighter(const QColor& color, qreal share)
 {
-    return MixedWith(color, 255, share);
+    return Mixed(color, Qt::white, share);
 }
 
 // Towards black.
 inline QColor Darker(const QColor& color, qreal share)
 {
-    return MixedWith(color, 0, share);
+    return Mixed(color, Qt::black, share);
 }
 
 inline QColor WithAlpha(QColor color, qreal opacity)

@@ -2,12 +2,13 @@
 
 #include "base/failure.h"
 #include "forms/caption.h"
-#include "qt/forms/headed_text.h"
-#include "qt/forms/sign.h"
+#include "qt/forms/tab.h"
 #include "qt/forms/view_of.h"
 #include "qt/theme/theme.h"
 
+#include <QBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -19,7 +20,7 @@ constexpr std::string_view browseCaption = "..."; // says nothing by itself: the
 
 class LabelView final : public ViewOf<Label, QLabel> {
 public:
-    LabelView(Label& label, const Theme& theme, QWidget& parent) : ViewOf(label, new QLabel(&parent))
+    LabelView(Label& label, QWidget& parent) : ViewOf(label, new QLabel(&parent))
     {
         Shown().setTextFormat(Qt::PlainText);
         switch (label.Role()) {
@@ -29,17 +30,18 @@ public:
             Shown().setForegroundRole(QPalette::PlaceholderText);
             break;
         case LabelRole::Message:
-            Shown().setFont(theme.MenuFont());
+            Shown().setFont(MenuFont());
             break;
         case LabelRole::Heading:
-            Shown().setFont(theme.TitleFont());
+            Shown().setFont(TitleFont());
             Shown().setForegroundRole(QPalette::PlaceholderText);
             break;
         case LabelRole::Title:
-            Shown().setFont(theme.HeadingFont());
+            Shown().setFont(HeadingFont());
             break;
         case LabelRole::Headed:
-            break; // a view of its own
+        case LabelRole::Tab:
+            break; // have views of their own
         }
     }
 
@@ -54,12 +56,42 @@ private:
 };
 
 // The first line as a heading, the others below it in the colour of captions.
-class HeadedView final : public ViewOf<Label, HeadedText> {
+class HeadedView final : public ViewOf<Label, QWidget> {
 public:
-    HeadedView(Label& label, const Theme& theme, QWidget& parent) : ViewOf(label, new HeadedText(theme, &parent)) {}
+    HeadedView(Label& label, QWidget& parent) : ViewOf(label, new QWidget(&parent)), m_lines(new QVBoxLayout(&Shown()))
+    {
+        m_lines->setAlignment(Qt::AlignTop);
+        m_lines->setContentsMargins(0, 0, 0, 0);
+        m_lines->setSpacing(0);
+    }
 
 private:
-    void ReadLook() override { Shown().SetText(ToQt(Model().Caption())); }
+    void ReadLook() override
+    {
+        qDeleteAll(Shown().findChildren<QLabel*>());
+        for (const QString& text : ToQt(Model().Caption()).split(QLatin1Char('\n'))) {
+            const bool isHeading = m_lines->isEmpty();
+            auto* line = new QLabel(text);
+            line->setTextFormat(Qt::PlainText);
+            line->setFixedHeight(isHeading ? 24 : 18);
+            line->setContentsMargins(0, 0, 0, isHeading ? 2 : 0);
+            line->setFont(isHeading ? TitleFont() : line->font());
+            line->setForegroundRole(isHeading ? QPalette::WindowText : QPalette::PlaceholderText);
+            m_lines->addWidget(line);
+        }
+    }
+
+    QVBoxLayout* m_lines;
+};
+
+// The only tab of a form: there is nothing to choose.
+class TabView final : public ViewOf<Label, Tab> {
+public:
+    TabView(Label& label, QWidget& parent) : ViewOf(label, new Tab(&parent)) { Shown().setChecked(true); }
+    int NaturalHeight() const override { return Tab::tabHeight; }
+
+private:
+    void ReadLook() override { Shown().setText(ToQt(Model().Caption())); }
 };
 
 class ButtonView final : public ViewOf<Button, QPushButton> {
@@ -110,12 +142,34 @@ private:
     }
 };
 
-class ImageView final : public ViewOf<Image, Sign> {
+// Shows an icon at the widget's size.
+class IconBox final : public QWidget {
 public:
-    ImageView(Image& image, const Theme& theme, QWidget& parent) : ViewOf(image, new Sign(theme, parent)) {}
+    using QWidget::QWidget;
+
+    void SetIcon(const QIcon& icon)
+    {
+        m_icon = icon;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        m_icon.paint(&painter, rect());
+    }
 
 private:
-    void ReadLook() override { Shown().SetIcon(Model().Icon()); }
+    QIcon m_icon;
+};
+
+class ImageView final : public ViewOf<Image, IconBox> {
+public:
+    ImageView(Image& image, QWidget& parent) : ViewOf(image, new IconBox(&parent)) {}
+
+private:
+    void ReadLook() override { Shown().SetIcon(IconOf(Model().Icon())); }
 };
 
 class RuleView final : public ViewOf<Rule, QWidget> {
@@ -130,33 +184,26 @@ public:
 
 } // namespace
 
-std::unique_ptr<ControlView> MakeControlView(Control& control, const Theme& theme, QWidget& parent)
+std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget& parent)
 {
-    if (auto* label = dynamic_cast<Label*>(&control)) {
-        if (label->Role() == LabelRole::Headed) {
-            return std::make_unique<HeadedView>(*label, theme, parent);
+    if (const auto* label = dynamic_cast<Label*>(&control)) {
+        switch (label->Role()) {
+        case LabelRole::Headed:
+            return MakeFirstOf<HeadedView>(control, parent);
+        case LabelRole::Tab:
+            return MakeFirstOf<TabView>(control, parent);
+        default:
+            return MakeFirstOf<LabelView>(control, parent);
         }
-        return std::make_unique<LabelView>(*label, theme, parent);
     }
-    if (auto* button = dynamic_cast<Button*>(&control)) {
-        return std::make_unique<ButtonView>(*button, parent);
+    auto view = MakeFirstOf<ButtonView, ProgressView, ImageView, RuleView>(control, parent);
+    for (const auto make : {MakeFieldView, MakeTypedView, MakeOptionsView, MakePaneView}) {
+        view = view != nullptr ? std::move(view) : make(control, parent);
     }
-    if (auto* bar = dynamic_cast<ProgressBar*>(&control)) {
-        return std::make_unique<ProgressView>(*bar, parent);
+    if (view == nullptr) {
+        throw Failure(failures::typeMismatch);
     }
-    if (auto* image = dynamic_cast<Image*>(&control)) {
-        return std::make_unique<ImageView>(*image, theme, parent);
-    }
-    if (auto* rule = dynamic_cast<Rule*>(&control)) {
-        return std::make_unique<RuleView>(*rule, parent);
-    }
-    if (auto field = MakeFieldView(control, theme, parent)) {
-        return field;
-    }
-    if (auto pane = MakePaneView(control, theme, parent)) {
-        return pane;
-    }
-    throw Failure(failures::typeMismatch);
+    return view;
 }
 
 } // namespace quor

@@ -13,7 +13,6 @@ class QWidget;
 namespace quor {
 
 class Control;
-class Theme;
 
 class ControlView {
 public:
@@ -25,7 +24,11 @@ public:
     QWidget& Widget() const noexcept { return *m_widget; } // its parent's
 
     // Brings the widget in line with the model.
-    virtual void Read() = 0;
+    void Read()
+    {
+        m_wasRead = true;
+        ReadAll();
+    }
 
     // Pixels, with the model's present look. A height of 0 is that of the line.
     virtual int NaturalWidth() const = 0;
@@ -64,22 +67,26 @@ protected:
         }
     }
 
-    // The same; then the widget shows what the model made of it.
+    // The same; then the widget shows what the model made of it, which a model that didn't change doesn't tell.
     template <class Body> void FromUserAndRead(Body&& body)
     {
+        m_wasRead = false;
         FromUser(std::forward<Body>(body));
-        if (m_isAttached) {
+        if (m_isAttached && !m_wasRead) {
             Read();
         }
     }
 
 private:
+    virtual void ReadAll() = 0;
+
     QWidget* m_widget;
+    bool m_wasRead = false; // since the user's last input
     bool m_isAttached = true;
     bool m_isOff = false;
 };
 
 // The view of any control, in the parent. The control outlives it. Fails with 13 for a control of an unknown kind.
-std::unique_ptr<ControlView> MakeControlView(Control& control, const Theme& theme, QWidget& parent);
+std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget& parent);
 
 } // namespace quor

@@ -1,12 +1,14 @@
 #include "forms/fields.h"
-#include "qt/forms/swatch_button.h"
 #include "qt/forms/view_of.h"
+#include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QPainter>
 #include <QWheelEvent>
 
 namespace quor {
@@ -76,13 +78,47 @@ private:
     }
 };
 
+// The colour within a frame, or the caption where there is one.
+class SwatchButton final : public QAbstractButton {
+public:
+    explicit SwatchButton(QWidget& parent) : QAbstractButton(&parent) { setAttribute(Qt::WA_Hover); }
+
+    void ShowColor(const QColor& color, const QString& caption)
+    {
+        m_color = color;
+        setText(caption);
+        update();
+    }
+    QSize sizeHint() const override { return {56, fieldHeight}; }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        constexpr int frame = 3; // pixels around the colour
+        QPainter painter(this);
+        const QPalette& look = palette();
+        if (!isEnabled() || !text().isEmpty()) {
+            DrawBox(painter, rect(), radii::control, look.color(QPalette::Disabled, QPalette::Base),
+                    look.color(QPalette::Mid));
+            painter.setPen(look.color(QPalette::Active, QPalette::PlaceholderText));
+            painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+            return;
+        }
+        const auto ground = isDown() ? QPalette::Mid : underMouse() ? QPalette::Midlight : QPalette::Base;
+        DrawBox(painter, rect(), radii::control, look.color(ground), look.color(QPalette::Dark));
+        DrawBox(painter, rect().adjusted(frame, frame, -frame, -frame), 1, m_color, WithAlpha(Qt::black, 0.22));
+    }
+
+private:
+    QColor m_color;
+};
+
 class SwatchView final : public ViewOf<Swatch, SwatchButton> {
 public:
     SwatchView(Swatch& swatch, QWidget& parent) : ViewOf(swatch, new SwatchButton(parent))
     {
         QObject::connect(&Shown(), &SwatchButton::clicked, &Shown(), [this] { FromUser([this] { Model().Push(); }); });
     }
-    int NaturalWidth() const override { return 56; }
     int NaturalHeight() const override { return fieldHeight; }
 
 private:
@@ -92,15 +128,14 @@ private:
 // A rule over the width with the title below it.
 class FrameView final : public ViewOf<Frame, QWidget> {
 public:
-    FrameView(Frame& frame, const Theme& theme, QWidget& parent)
-        : ViewOf(frame, new QWidget(&parent)), m_title(new QLabel(&Shown()))
+    FrameView(Frame& frame, QWidget& parent) : ViewOf(frame, new QWidget(&parent)), m_title(new QLabel(&Shown()))
     {
         auto* rule = new QWidget(&Shown());
         rule->setBackgroundRole(QPalette::Mid);
         rule->setAutoFillBackground(true);
         rule->setFixedHeight(1);
         m_title->setTextFormat(Qt::PlainText);
-        m_title->setFont(theme.TitleFont());
+        m_title->setFont(TitleFont());
         m_title->setFixedHeight(titleHeight);
         auto* column = new QVBoxLayout(&Shown());
         column->setContentsMargins(0, 0, 0, 0);
@@ -122,24 +157,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme, QWidget& parent)
+std::unique_ptr<ControlView> MakeFieldView(Control& control, QWidget& parent)
 {
-    if (auto* list = dynamic_cast<ListBox*>(&control)) {
-        return std::make_unique<ListView>(*list, parent);
-    }
-    if (auto* box = dynamic_cast<CheckBox*>(&control)) {
-        return std::make_unique<CheckView>(*box, parent);
-    }
-    if (auto* options = dynamic_cast<OptionArray*>(&control)) {
-        return MakeOptionsView(*options, parent);
-    }
-    if (auto* swatch = dynamic_cast<Swatch*>(&control)) {
-        return std::make_unique<SwatchView>(*swatch, parent);
-    }
-    if (auto* frame = dynamic_cast<Frame*>(&control)) {
-        return std::make_unique<FrameView>(*frame, theme, parent);
-    }
-    return MakeTypedView(control, parent);
+    return MakeFirstOf<ListView, CheckView, SwatchView, FrameView>(control, parent);
 }
 
 } // namespace quor

@@ -14,7 +14,7 @@
 
 namespace quor {
 
-FormView::FormView(Form& form, const Theme& theme, QWidget* parent) : QWidget(parent), m_form(&form)
+FormView::FormView(Form& form, QWidget* parent) : QWidget(parent), m_form(&form)
 {
     setObjectName(ToQt(form.Name()));
     setBackgroundRole(QPalette::Light);
@@ -23,11 +23,14 @@ FormView::FormView(Form& form, const Theme& theme, QWidget* parent) : QWidget(pa
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     for (const std::unique_ptr<Control>& control : form.Controls()) {
-        AddControl(*control, theme);
+        AddControl(*control);
     }
     NameFields();
     OrderTabs();
     for (const LayoutLine& line : form.Layout()) {
+        for (const LayoutItem& item : line.items) {
+            m_parts.at(item.control).line = &line;
+        }
         ShowUse(line);
     }
     FollowForm();
@@ -40,10 +43,10 @@ FormView::~FormView()
     hide(); // a field that has the keyboard gives it up while its view is there
 }
 
-void FormView::AddControl(Control& control, const Theme& theme)
+void FormView::AddControl(Control& control)
 {
     Part& part = m_parts[&control];
-    part.view = MakeControlView(control, theme, *this);
+    part.view = MakeControlView(control, *this);
     part.view->Read();
     part.natural = part.view->NaturalWidth();
     part.isVisible = control.Visible();
@@ -66,11 +69,8 @@ void FormView::FollowForm()
 void FormView::FollowControl(const Control& control, Part& part)
 {
     part.view->Read();
-    for (const LayoutLine& line : m_form->Layout()) {
-        if (std::any_of(line.items.begin(), line.items.end(),
-                        [&](const LayoutItem& item) { return item.control == &control; })) {
-            ShowUse(line);
-        }
+    if (part.line != nullptr) {
+        ShowUse(*part.line);
     }
     const int natural = part.view->NaturalWidth();
     if (natural != part.natural || control.Visible() != part.isVisible) {

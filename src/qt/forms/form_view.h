@@ -16,7 +16,7 @@ struct LayoutLine;
 class FormView final : public QWidget {
 public:
     // The form outlives the view, or the view is detached before.
-    FormView(Form& form, const Theme& theme, QWidget* parent = nullptr);
+    explicit FormView(Form& form, QWidget* parent = nullptr);
     ~FormView() override;
 
     // As the form's size says, or, where that is 0, as its layout needs.
@@ -35,13 +35,14 @@ protected:
 private:
     struct Part {
         std::unique_ptr<ControlView> view;
-        int natural = 0; // its width as the lines were laid out
+        const LayoutLine* line = nullptr; // on which it stands
+        int natural = 0;                  // its width as the lines were laid out
         bool isVisible = true;
         Subscription following;
         Subscription focusing;
     };
 
-    void AddControl(Control& control, const Theme& theme);
+    void AddControl(Control& control);
     void NameFields();
     void OrderTabs();
     void FollowForm();

@@ -18,8 +18,8 @@ Qt::WindowFlags FlagsFor(const Form& form)
 
 } // namespace
 
-FormWindow::FormWindow(Form& form, const Theme& theme, QWidget* owner)
-    : QDialog(owner, FlagsFor(form)), m_form(&form), m_view(new FormView(form, theme, this)),
+FormWindow::FormWindow(Form& form, QWidget* owner)
+    : QDialog(owner, FlagsFor(form)), m_form(&form), m_view(new FormView(form, this)),
       m_following(form.Changed.Subscribe([this] { Follow(); }))
 {
     Follow();

@@ -9,11 +9,10 @@ namespace quor {
 
 class Form;
 class FormView;
-class Theme;
 
 class FormWindow final : public QDialog {
 public:
-    FormWindow(Form& form, const Theme& theme, QWidget* owner);
+    FormWindow(Form& form, QWidget* owner);
     ~FormWindow() override;
 
     // Takes the window off the screen and lets go of the form; the window ends when the event loop runs.

@@ -85,9 +85,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlView> MakeOptionsView(OptionArray& options, QWidget& parent)
+std::unique_ptr<ControlView> MakeOptionsView(Control& control, QWidget& parent)
 {
-    return std::make_unique<OptionsView>(options, parent);
+    return MakeFirstOf<OptionsView>(control, parent);
 }
 
 } // namespace quor

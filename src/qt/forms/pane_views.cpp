@@ -1,82 +1,122 @@
 #include "forms/panes.h"
-#include "qt/forms/row_list_widget.h"
-#include "qt/forms/tab_button.h"
 #include "qt/forms/view_of.h"
 #include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
 
-#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace quor {
 
 namespace {
 
-class TabStripView final : public ViewOf<TabStrip, QWidget> {
-public:
-    TabStripView(TabStrip& strip, const Theme& theme, QWidget& parent) : ViewOf(strip, new QWidget(&parent))
-    {
-        auto* row = new QHBoxLayout(&Shown());
-        row->setContentsMargins(0, 0, 0, 0);
-        row->setSpacing(2);
-        for (const std::string& caption : strip.Captions()) {
-            const auto index = static_cast<int>(m_tabs.size());
-            auto* tab = new TabButton(theme, &Shown());
-            tab->setText(ToQt(caption));
-            if (strip.Captions().size() == 1) {
-                tab->setFocusPolicy(Qt::NoFocus); // there is nothing to choose
-            }
-            row->addWidget(tab);
-            m_tabs.push_back(tab);
-            QObject::connect(tab, &QAbstractButton::clicked, &Shown(),
-                             [this, index] { FromUserAndRead([&] { Model().Choose(index); }); });
-        }
-        row->addStretch();
-    }
-    int NaturalHeight() const override { return TabButton::tabHeight; }
-
-private:
-    void ReadLook() override { m_tabs[static_cast<std::size_t>(Model().Index())]->setChecked(true); }
-
-    std::vector<TabButton*> m_tabs;
-};
-
 class PanelGround final : public QWidget {
 public:
-    PanelGround(const Theme& theme, FormPanel::Look look, QWidget& parent)
-        : QWidget(&parent), m_theme(theme), m_look(look)
-    {
-    }
+    PanelGround(FormPanel::Look look, QWidget& parent) : QWidget(&parent), m_look(look) {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        const ThemeColors& colors = m_theme.Colors();
+        const QColor rule = palette().color(QPalette::Mid);
         if (m_look == FormPanel::Look::Box) {
-            DrawBox(painter, rect(), radii::control, colors.field, colors.rule);
+            DrawBox(painter, rect(), radii::control, palette().color(QPalette::Base), rule);
         } else {
-            DrawRule(painter, QRectF(0, 0, width(), 1), Qt::Horizontal, colors.rule);
-            DrawRule(painter, QRectF(0, height() - 1, width(), 1), Qt::Horizontal, colors.rule);
+            DrawRule(painter, QRectF(0, 0, width(), 1), Qt::Horizontal, rule);
+            DrawRule(painter, QRectF(0, height() - 1, width(), 1), Qt::Horizontal, rule);
         }
     }
 
 private:
-    const Theme& m_theme;
     FormPanel::Look m_look;
 };
 
 class PanelView final : public ViewOf<FormPanel, PanelGround> {
 public:
-    PanelView(FormPanel& panel, const Theme& theme, QWidget& parent)
-        : ViewOf(panel, new PanelGround(theme, panel.Style(), parent))
+    PanelView(FormPanel& panel, QWidget& parent) : ViewOf(panel, new PanelGround(panel.Style(), parent)) {}
+};
+
+// An icon, for which there is room in any case, and a text.
+class RowDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
+        return {text + iconSize + 3 * padding, rowHeight};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const ThemeColors& colors = ColorsInUse();
+        const QRect row = option.rect.adjusted(2, 1, -2, -1);
+        const bool isChosen = (option.state & QStyle::State_Selected) != 0;
+        if (isChosen || (option.state & QStyle::State_MouseOver) != 0) {
+            DrawBox(*painter, row, radii::button, isChosen ? colors.selectedGround : colors.hover);
+        }
+        const QRect icon(row.left() + padding - 2, row.center().y() - iconSize / 2 + 1, iconSize, iconSize);
+        index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon);
+        painter->setPen(isChosen ? colors.selectedText : colors.text);
+        painter->drawText(row.adjusted(iconSize + 2 * padding - 2, 0, -padding, 0),
+                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, index.data().toString());
+    }
+
+private:
+    static constexpr int rowHeight = 28; // pixels
+    static constexpr int iconSize = 20;
+    static constexpr int padding = 8;
+};
+
+// Drawn as a field; Enter and a double click open the chosen row.
+class RowListWidget final : public QListWidget {
+public:
+    explicit RowListWidget(QWidget& parent) : QListWidget(&parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setViewportMargins(1, 3, 1, 3);
+        setItemDelegate(new RowDelegate(this));
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollMode(ScrollPerPixel);
+        setMouseTracking(true);
+        viewport()->setAutoFillBackground(false);
+    }
+
+    std::function<void()> onOpen;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::Paint) {
+            return QListWidget::event(event);
+        }
+        QPainter painter(this); // the ground below the rows
+        DrawBox(painter, rect(), radii::control, palette().color(QPalette::Active, QPalette::Base),
+                palette().color(QPalette::Dark));
+        return true;
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            onOpen();
+        } else {
+            QListWidget::keyPressEvent(event);
+        }
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override
+    {
+        if (indexAt(event->position().toPoint()).isValid()) {
+            onOpen();
+        }
     }
 };
 
 class RowListView final : public ViewOf<RowList, RowListWidget> {
 public:
-    RowListView(RowList& list, const Theme& theme, QWidget& parent) : ViewOf(list, new RowListWidget(theme, parent))
+    RowListView(RowList& list, QWidget& parent) : ViewOf(list, new RowListWidget(parent))
     {
         QObject::connect(&Shown(), &QListWidget::currentRowChanged, &Shown(), [this](int row) {
             if (!m_isReading) {
@@ -94,7 +134,7 @@ private:
             m_rows = Model().Rows();
             Shown().clear();
             for (const RowList::Row& row : m_rows) {
-                Shown().AddRow(ToQt(row.text), row.icon);
+                new QListWidgetItem(IconOf(row.icon), ToQt(row.text), &Shown());
             }
         }
         Shown().setCurrentRow(Model().Index());
@@ -107,18 +147,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlView> MakePaneView(Control& control, const Theme& theme, QWidget& parent)
+std::unique_ptr<ControlView> MakePaneView(Control& control, QWidget& parent)
 {
-    if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
-        return std::make_unique<TabStripView>(*strip, theme, parent);
-    }
-    if (auto* panel = dynamic_cast<FormPanel*>(&control)) {
-        return std::make_unique<PanelView>(*panel, theme, parent);
-    }
-    if (auto* list = dynamic_cast<RowList*>(&control)) {
-        return std::make_unique<RowListView>(*list, theme, parent);
-    }
-    return nullptr;
+    return MakeFirstOf<PanelView, RowListView>(control, parent);
 }
 
 } // namespace quor

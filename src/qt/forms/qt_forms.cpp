@@ -11,8 +11,6 @@
 
 namespace quor {
 
-QtForms::QtForms(const Theme& theme) : m_theme(theme) {}
-
 QtForms::~QtForms()
 {
     while (!m_known.empty()) {
@@ -83,7 +81,7 @@ void QtForms::Open(Form& form, bool isModal)
 {
     Forget(form);
     QWidget* modal = QApplication::activeModalWidget();
-    auto* window = new FormWindow(form, m_theme, modal != nullptr ? modal : m_mainWindow.data());
+    auto* window = new FormWindow(form, modal != nullptr ? modal : m_mainWindow.data());
     m_known.push_back({&form, window, form.Unloaded.Subscribe([this, &form] { Forget(form); })});
     window->setWindowModality(isModal ? Qt::ApplicationModal : Qt::NonModal);
     window->show();

@@ -14,11 +14,9 @@ class QWidget;
 namespace quor {
 
 class FormWindow;
-class Theme;
 
 class QtForms final : public Forms {
 public:
-    explicit QtForms(const Theme& theme); // which outlives it
     ~QtForms() override;
 
     // Forms stand above that window from now on.
@@ -44,7 +42,6 @@ private:
     void Open(Form& form, bool isModal);
     void Forget(const Form& form);
 
-    const Theme& m_theme;
     QPointer<QWidget> m_mainWindow;
     std::vector<Known> m_known;
     QElapsedTimer m_sinceRun;

@@ -150,13 +150,7 @@ private:
 
 std::unique_ptr<ControlView> MakeTypedView(Control& control, QWidget& parent)
 {
-    if (auto* text = dynamic_cast<TextBox*>(&control)) {
-        return std::make_unique<TextView>(*text, parent);
-    }
-    if (auto* number = dynamic_cast<NumberField*>(&control)) {
-        return std::make_unique<NumberView>(*number, parent);
-    }
-    return nullptr;
+    return MakeFirstOf<TextView, NumberView>(control, parent);
 }
 
 } // namespace quor

@@ -11,8 +11,6 @@
 
 namespace quor {
 
-class OptionArray;
-
 // The height of a box or an option with its caption beside it.
 inline int BoxHeight(const QWidget& box)
 {
@@ -23,17 +21,13 @@ inline int BoxHeight(const QWidget& box)
 // Shows a control of the class C by a widget of the class W. Derived classes read what C adds to every control.
 template <class C, class W> class ViewOf : public ControlView {
 public:
+    using ModelClass = C;
+
     ViewOf(C& control, W* widget) : ControlView(*widget), m_control(control), m_shown(widget)
     {
         widget->setObjectName(ToQt(control.Name()));
     }
 
-    void Read() override
-    {
-        m_shown->setEnabled(m_control.Enabled() && !IsOff());
-        m_shown->setVisible(m_control.Visible());
-        ReadLook();
-    }
     int NaturalWidth() const override { return m_shown->sizeHint().width(); }
     int NaturalHeight() const override { return 0; }
 
@@ -42,18 +36,38 @@ protected:
     W& Shown() const noexcept { return *m_shown; }
 
 private:
+    void ReadAll() override
+    {
+        m_shown->setEnabled(m_control.Enabled() && !IsOff());
+        m_shown->setVisible(m_control.Visible());
+        ReadLook();
+    }
     virtual void ReadLook() {}
 
     C& m_control;
     W* m_shown;
 };
 
+// The first of these views that shows such a control; null if none does.
+template <class... Views> std::unique_ptr<ControlView> MakeFirstOf(Control& control, QWidget& parent)
+{
+    std::unique_ptr<ControlView> made;
+    const auto isMade = [&]<class View>(const View* /*kind*/) {
+        if (auto* model = dynamic_cast<typename View::ModelClass*>(&control)) {
+            made = std::make_unique<View>(*model, parent);
+        }
+        return made != nullptr;
+    };
+    static_cast<void>((isMade(static_cast<const Views*>(nullptr)) || ...));
+    return made;
+}
+
 // The views of the controls that hold what a user enters; null for other controls.
-std::unique_ptr<ControlView> MakeFieldView(Control& control, const Theme& theme, QWidget& parent);
+std::unique_ptr<ControlView> MakeFieldView(Control& control, QWidget& parent);
 std::unique_ptr<ControlView> MakeTypedView(Control& control, QWidget& parent);
-std::unique_ptr<ControlView> MakeOptionsView(OptionArray& options, QWidget& parent);
+std::unique_ptr<ControlView> MakeOptionsView(Control& control, QWidget& parent);
 
 // The views of what divides a form or holds many rows; null for other controls.
-std::unique_ptr<ControlView> MakePaneView(Control& control, const Theme& theme, QWidget& parent);
+std::unique_ptr<ControlView> MakePaneView(Control& control, QWidget& parent);
 
 } // namespace quor

@@ -1,8 +1,7 @@
 #include "qt/theme/desk_style.h"
 
-#include "qt/theme/signs.h"
 #include "qt/theme/style_parts.h"
-#include "qt/theme/theme_colors.h"
+#include "qt/theme/theme.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -119,9 +118,6 @@ void DeskStyle::polish(QWidget* widget)
         qobject_cast<QScrollBar*>(widget) != nullptr) {
         widget->setAttribute(Qt::WA_Hover);
     }
-    if (qobject_cast<QScrollBar*>(widget) != nullptr && LiesOverContent(widget)) {
-        widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    }
 }
 
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -140,12 +136,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         }
         return;
     case PE_PanelMenuBar:
-    case PE_FrameStatusBarItem:
     case PE_FrameFocusRect:
-        return;
-    case PE_PanelStatusBar:
-        painter->fillRect(option->rect, m_colors.window);
-        DrawRule(*painter, option->rect, Qt::Horizontal, m_colors.rule);
         return;
     case PE_PanelButtonTool:
         DrawToolButton(*option, *painter);
@@ -156,10 +147,8 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return;
     }
     case PE_IndicatorCheckBox:
-        DrawCheckBox(*option, *painter);
-        return;
     case PE_IndicatorRadioButton:
-        DrawRadioButton(*option, *painter);
+        DrawIndicator(*option, *painter, element == PE_IndicatorRadioButton);
         return;
     case PE_FrameLineEdit:
     case PE_PanelLineEdit:
@@ -216,6 +205,9 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             QProxyStyle::drawControl(element, option, painter, widget);
         }
         return;
+    case CE_TabBarTab:
+        DrawTab(As<QStyleOptionTab>(option), *painter);
+        return;
     case CE_FocusFrame:
         DrawFocusRing(option->rect, *painter);
         return;
@@ -228,9 +220,6 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    const QWidget* widget) const
 {
     if (control == CC_ScrollBar) {
-        if (widget == nullptr || widget->testAttribute(Qt::WA_OpaquePaintEvent)) {
-            painter->fillRect(option->rect, m_colors.window);
-        }
         DrawScrollBar(As<QStyleOptionSlider>(option), *painter);
     } else if (control == CC_ComboBox) {
         DrawComboBox(As<QStyleOptionComboBox>(option), *painter);
@@ -324,13 +313,12 @@ QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, c
 {
     switch (icon) {
     case SP_MessageBoxInformation:
-        return SignIcon(SignKind::Information, m_colors);
+        return IconOf("information");
     case SP_MessageBoxQuestion:
-        return SignIcon(SignKind::Question, m_colors);
+        return IconOf("question");
     case SP_MessageBoxWarning:
-        return SignIcon(SignKind::Warning, m_colors);
     case SP_MessageBoxCritical:
-        return SignIcon(SignKind::Error, m_colors);
+        return IconOf("error");
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }

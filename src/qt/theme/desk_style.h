@@ -20,6 +20,8 @@ public:
     explicit DeskStyle(std::shared_ptr<const ThemeColors> colors);
     ~DeskStyle() override;
 
+    const ThemeColors& Colors() const noexcept { return m_colors; }
+
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -48,8 +50,8 @@ private:
     void DrawPushButton(const QStyleOptionButton& button, QPainter& painter) const;
     void DrawPushButtonText(const QStyleOptionButton& button, QPainter& painter, const QWidget* widget) const;
     void DrawToolButton(const QStyleOption& option, QPainter& painter) const;
-    void DrawCheckBox(const QStyleOption& option, QPainter& painter) const;
-    void DrawRadioButton(const QStyleOption& option, QPainter& painter) const;
+    void DrawTab(const QStyleOptionTab& tab, QPainter& painter) const;
+    void DrawIndicator(const QStyleOption& option, QPainter& painter, bool isRadioButton) const;
     void DrawField(const QStyleOption& option, QPainter& painter) const;
     void DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter) const;
     void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter) const;

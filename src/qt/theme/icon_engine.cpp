@@ -1,6 +1,6 @@
 #include "qt/theme/icon_engine.h"
 
-#include "qt/theme/theme_colors.h"
+#include "qt/theme/theme.h"
 
 #include <QFile>
 #include <QPaintDevice>
@@ -13,18 +13,26 @@ namespace {
 
 constexpr qreal disabledOpacity = 0.36;
 
-QByteArray TintedSvg(const QString& path, const QColor& color)
+// What stands for the theme's colours in the texts.
+constexpr struct {
+    const char* word;
+    QColor ThemeColors::*color;
+} words[] = {{"currentColor", &ThemeColors::icon},
+             {"var(--accent)", &ThemeColors::accent},
+             {"var(--on-accent)", &ThemeColors::onAccent},
+             {"var(--error)", &ThemeColors::error}};
+
+QByteArray TintedSvg(const QString& path)
 {
     QFile file(path);
     QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    return text.replace("currentColor", color.name().toLatin1());
+    for (const auto& row : words) {
+        text.replace(row.word, (ColorsInUse().*row.color).name().toLatin1());
+    }
+    return text;
 }
 
 } // namespace
-
-ThemedIconEngine::ThemedIconEngine(QString path, const ThemeColors& colors) : m_path(std::move(path)), m_colors(colors)
-{
-}
 
 void ThemedIconEngine::paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State)
 {
@@ -50,11 +58,10 @@ QIconEngine* ThemedIconEngine::clone() const
 QPixmap ThemedIconEngine::Drawn(const QSize& devicePixels, QIcon::Mode mode) const
 {
     const bool isDisabled = mode == QIcon::Disabled;
-    const QString key = QStringLiteral("quor:%1:%2x%3:%4:%5")
+    const QString key = QStringLiteral("quor:%1:%2x%3:%4")
                             .arg(m_path)
                             .arg(devicePixels.width())
                             .arg(devicePixels.height())
-                            .arg(m_colors.icon.rgb())
                             .arg(isDisabled);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) {
@@ -65,7 +72,7 @@ QPixmap ThemedIconEngine::Drawn(const QSize& devicePixels, QIcon::Mode mode) con
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isDisabled ? disabledOpacity : 1);
-    QSvgRenderer(TintedSvg(m_path, m_colors.icon)).render(&painter);
+    QSvgRenderer(TintedSvg(m_path)).render(&painter);
     painter.end();
     pixmap = QPixmap::fromImage(std::move(image));
     QPixmapCache::insert(key, pixmap);

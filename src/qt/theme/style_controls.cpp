@@ -1,4 +1,4 @@
-// Buttons, fields, scroll bars and bars of progress.
+// Buttons, tabs, fields, scroll bars and bars of progress.
 
 #include "qt/theme/desk_style.h"
 #include "qt/theme/style_parts.h"
@@ -61,40 +61,45 @@ void DeskStyle::DrawToolButton(const QStyleOption& option, QPainter& painter) co
     }
 }
 
-void DeskStyle::DrawCheckBox(const QStyleOption& option, QPainter& painter) const
+void DeskStyle::DrawIndicator(const QStyleOption& option, QPainter& painter, bool isRadioButton) const
 {
     const bool isEnabled = Has(option, State_Enabled);
     const QRectF box(option.rect.topLeft(), QSizeF(16, 16));
+    const qreal radius = isRadioButton ? 8 : radii::control;
     if (!Has(option, State_On)) {
-        DrawBox(painter, box, radii::control, Has(option, State_Sunken) ? m_colors.pressed : m_colors.field,
+        DrawBox(painter, box, radius, Has(option, State_Sunken) ? m_colors.pressed : m_colors.field,
                 isEnabled ? m_colors.edge : m_colors.rule);
         return;
     }
-    DrawBox(painter, box, radii::control, isEnabled ? m_colors.accent : m_colors.disabledText);
+    DrawBox(painter, box, radius, isEnabled ? m_colors.accent : m_colors.disabledText);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_colors.onAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.translate(box.topLeft());
-    painter.drawPolyline(QPolygonF({{4, 8.25}, {6.75, 11}, {12, 5}}));
+    if (isRadioButton) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_colors.onAccent);
+        painter.drawEllipse(QPointF(8, 8), 3, 3);
+    } else {
+        painter.setPen(QPen(m_colors.onAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(QPolygonF({{4, 8.25}, {6.75, 11}, {12, 5}}));
+    }
     painter.restore();
 }
 
-void DeskStyle::DrawRadioButton(const QStyleOption& option, QPainter& painter) const
+// The one in front is underlined.
+void DeskStyle::DrawTab(const QStyleOptionTab& tab, QPainter& painter) const
 {
-    const bool isEnabled = Has(option, State_Enabled);
-    const QRectF box(option.rect.topLeft(), QSizeF(16, 16));
-    if (!Has(option, State_On)) {
-        DrawBox(painter, box, 8, Has(option, State_Sunken) ? m_colors.pressed : m_colors.field,
-                isEnabled ? m_colors.edge : m_colors.rule);
-        return;
+    constexpr int padding = 8;
+    const bool isInFront = Has(tab, State_Selected);
+    if (isInFront) {
+        const QRectF underline(tab.rect.left() + padding, tab.rect.bottom() - 3, tab.rect.width() - 2 * padding, 2);
+        DrawBox(painter, tab.rect, radii::button, m_colors.selectedGround);
+        DrawBox(painter, underline, 1, m_colors.accent);
+    } else if (Has(tab, State_MouseOver)) {
+        DrawBox(painter, tab.rect, radii::button, Has(tab, State_Sunken) ? m_colors.pressed : m_colors.hover);
     }
-    DrawBox(painter, box, 8, isEnabled ? m_colors.accent : m_colors.disabledText);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_colors.onAccent);
-    painter.drawEllipse(box.center(), 3, 3);
-    painter.restore();
+    painter.setPen(isInFront ? m_colors.selectedText : m_colors.labelText);
+    painter.drawText(tab.rect.adjusted(0, 0, 0, -2), Qt::AlignCenter | Qt::TextSingleLine, tab.text);
 }
 
 void DeskStyle::DrawField(const QStyleOption& option, QPainter& painter) const

@@ -8,8 +8,6 @@ class QPainter;
 
 namespace quor {
 
-struct ThemeColors;
-
 // Radii in device-independent pixels.
 namespace radii {
 inline constexpr qreal control = 3;
@@ -19,9 +17,5 @@ inline constexpr qreal menu = 6;
 
 enum class Chevron { Down, Right };
 void DrawChevron(QPainter& painter, const QPointF& middle, Chevron direction, const QColor& color);
-
-// A tab's ground and caption; the one in front is underlined.
-enum class TabState { InFront, Hovered, Pressed, Behind };
-void DrawTab(QPainter& painter, const QRect& area, const QString& caption, TabState state, const ThemeColors& colors);
 
 } // namespace quor

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QPixmapCache>
 #include <QTimer>
 
 #include <string>
@@ -45,6 +46,8 @@ private:
 
 namespace {
 
+constexpr int textSize = 12; // pixels
+
 bool IsDark(const QPalette& palette)
 {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
@@ -60,6 +63,13 @@ QFont DesktopFont()
             font.setFamily(drawnFor.family());
         }
     }
+    return font;
+}
+
+QFont FontOf(QFont font, int pixels, QFont::Weight weight)
+{
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
     return font;
 }
 
@@ -109,46 +119,39 @@ void Theme::AdoptDesktop()
 
 void Theme::Spread() const
 {
+    QPixmapCache::clear(); // icons of other colours
     QApplication::setPalette(PaletteOf(m_colors));
-    QApplication::setFont(TextFont());
+    QApplication::setFont(FontOf(m_font, textSize, QFont::Normal));
     for (const char* widgetClass : {"QMenu", "QMenuBar", "QMessageBox"}) {
         QApplication::setFont(MenuFont(), widgetClass);
     }
 }
 
-QIcon Theme::Icon(std::string_view name) const
+const ThemeColors& ColorsInUse()
+{
+    return dynamic_cast<const DeskStyle&>(*QApplication::style()).Colors();
+}
+
+QIcon IconOf(std::string_view name)
 {
     const QString path =
         QStringLiteral(":/icons/") + QString::fromUtf8(name.data(), qsizetype(name.size())) + QStringLiteral(".svg");
-    return QFile::exists(path) ? QIcon(new ThemedIconEngine(path, m_colors)) : QIcon();
+    return QFile::exists(path) ? QIcon(new ThemedIconEngine(path)) : QIcon();
 }
 
-QFont Theme::TextFont() const
+QFont MenuFont()
 {
-    return FontOf(12, QFont::Normal);
+    return FontOf(QApplication::font(), 13, QFont::Normal);
 }
 
-QFont Theme::MenuFont() const
+QFont TitleFont()
 {
-    return FontOf(13, QFont::Normal);
+    return FontOf(QApplication::font(), textSize, QFont::DemiBold);
 }
 
-QFont Theme::TitleFont() const
+QFont HeadingFont()
 {
-    return FontOf(12, QFont::DemiBold);
-}
-
-QFont Theme::HeadingFont() const
-{
-    return FontOf(18, QFont::DemiBold);
-}
-
-QFont Theme::FontOf(int pixels, QFont::Weight weight) const
-{
-    QFont font = m_font;
-    font.setPixelSize(pixels);
-    font.setWeight(weight);
-    return font;
+    return FontOf(QApplication::font(), 18, QFont::DemiBold);
 }
 
 } // namespace quor

@@ -20,8 +20,6 @@ public:
     Theme(const Theme&) = delete;
     Theme& operator=(const Theme&) = delete;
 
-    const ThemeColors& Colors() const noexcept { return m_colors; }
-
     // Gives the application palette, font and style, and follows the desktop when it changes. Once, before any window;
     // the theme outlives all of them.
     void Apply(QApplication& application);
@@ -29,22 +27,11 @@ public:
     // Fixed colours instead of the desktop's.
     void UseColors(const ThemeColors& colors);
 
-    // The icon of a tool, such as "miOpen", drawn in the theme's colour when it is first shown. An unknown name gives
-    // a null icon.
-    QIcon Icon(std::string_view name) const;
-
-    // The desktop's font in the sizes in use.
-    QFont TextFont() const;    // panels, status, buttons
-    QFont MenuFont() const;    // menus and messages
-    QFont TitleFont() const;   // frames and docks
-    QFont HeadingFont() const; // a dialog's head
-
 private:
     class Follower;
 
     void AdoptDesktop();
     void Spread() const;
-    QFont FontOf(int pixels, QFont::Weight weight) const;
 
     // Shared with the style, which belongs to the application and may outlive the theme.
     std::shared_ptr<ThemeColors> m_shared = std::make_shared<ThemeColors>(LightColors());
@@ -53,5 +40,17 @@ private:
     QApplication* m_application = nullptr;
     std::unique_ptr<Follower> m_follower;
 };
+
+// Those of the theme that was given to the application. Fails before that.
+const ThemeColors& ColorsInUse();
+
+// The icon of a tool, such as "miOpen", drawn in the theme's colours when it is first shown. An unknown name gives a
+// null icon.
+QIcon IconOf(std::string_view name);
+
+// The desktop's font in the sizes in use beside the application's own, which is that of panels, status and buttons.
+QFont MenuFont();    // menus and messages
+QFont TitleFont();   // frames and docks
+QFont HeadingFont(); // a dialog's head
 
 } // namespace quor

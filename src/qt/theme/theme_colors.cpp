@@ -1,66 +1,49 @@
 #include "qt/theme/theme_colors.h"
 
+#include "qt/drawing/mixing.h"
+
 namespace quor {
 
 namespace {
 
-QColor Hex(QRgb rgb)
+struct ColorRow {
+    QColor ThemeColors::*color;
+    QRgb light;
+    QRgb dark;
+};
+
+constexpr ColorRow colorRows[] = {
+    {&ThemeColors::window, 0xF0F2F4, 0x1E2227},       {&ThemeColors::panel, 0xF7F8FA, 0x23282E},
+    {&ThemeColors::field, 0xFFFFFF, 0x191D21},        {&ThemeColors::readOnlyField, 0xEEF0F3, 0x2A3037},
+    {&ThemeColors::rule, 0xDBE0E5, 0x373E46},         {&ThemeColors::edge, 0x848E9B, 0x727D89},
+    {&ThemeColors::text, 0x1B222A, 0xE4E8EC},         {&ThemeColors::labelText, 0x56616D, 0xA6B0BB},
+    {&ThemeColors::disabledText, 0x858F9B, 0x6B7580}, {&ThemeColors::accent, 0x1F63D0, 0x6CA6FF},
+    {&ThemeColors::onAccent, 0xFFFFFF, 0x0D1726},     {&ThemeColors::selectedGround, 0xDCE8FB, 0x243C60},
+    {&ThemeColors::selectedText, 0x174EA6, 0xA9CBFF}, {&ThemeColors::hover, 0xE3E7EC, 0x2E353C},
+    {&ThemeColors::pressed, 0xD3D9E0, 0x3A434C},      {&ThemeColors::icon, 0x3A4550, 0xC3CBD4},
+    {&ThemeColors::menu, 0xFFFFFF, 0x272C33},         {&ThemeColors::button, 0xFFFFFF, 0x2D333A},
+    {&ThemeColors::thumb, 0x858F9B, 0x6B7580},        {&ThemeColors::error, 0xC62828, 0xE5575B},
+};
+
+ThemeColors ColorsOf(QRgb ColorRow::*scheme)
 {
-    return QColor(rgb);
+    ThemeColors colors;
+    for (const ColorRow& row : colorRows) {
+        colors.*row.color = QColor(row.*scheme);
+    }
+    return colors;
 }
 
 } // namespace
 
 ThemeColors LightColors()
 {
-    return {
-        .window = Hex(0xF0F2F4),
-        .panel = Hex(0xF7F8FA),
-        .field = Hex(0xFFFFFF),
-        .readOnlyField = Hex(0xEEF0F3),
-        .rule = Hex(0xDBE0E5),
-        .edge = Hex(0x848E9B),
-        .text = Hex(0x1B222A),
-        .labelText = Hex(0x56616D),
-        .disabledText = Hex(0x858F9B),
-        .accent = Hex(0x1F63D0),
-        .onAccent = Hex(0xFFFFFF),
-        .selectedGround = Hex(0xDCE8FB),
-        .selectedText = Hex(0x174EA6),
-        .hover = Hex(0xE3E7EC),
-        .pressed = Hex(0xD3D9E0),
-        .icon = Hex(0x3A4550),
-        .menu = Hex(0xFFFFFF),
-        .button = Hex(0xFFFFFF),
-        .thumb = Hex(0x858F9B),
-        .error = Hex(0xC62828),
-    };
+    return ColorsOf(&ColorRow::light);
 }
 
 ThemeColors DarkColors()
 {
-    return {
-        .window = Hex(0x1E2227),
-        .panel = Hex(0x23282E),
-        .field = Hex(0x191D21),
-        .readOnlyField = Hex(0x2A3037),
-        .rule = Hex(0x373E46),
-        .edge = Hex(0x727D89),
-        .text = Hex(0xE4E8EC),
-        .labelText = Hex(0xA6B0BB),
-        .disabledText = Hex(0x6B7580),
-        .accent = Hex(0x6CA6FF),
-        .onAccent = Hex(0x0D1726),
-        .selectedGround = Hex(0x243C60),
-        .selectedText = Hex(0xA9CBFF),
-        .hover = Hex(0x2E353C),
-        .pressed = Hex(0x3A434C),
-        .icon = Hex(0xC3CBD4),
-        .menu = Hex(0x272C33),
-        .button = Hex(0x2D333A),
-        .thumb = Hex(0x6B7580),
-        .error = Hex(0xE5575B),
-    };
+    return ColorsOf(&ColorRow::dark);
 }
 
 bool IsOwnPalette(const QPalette& desktop, const QPalette& fallback)
@@ -123,20 +106,14 @@ QPalette PaletteOf(const ThemeColors& colors)
     palette.setColor(QPalette::Mid, colors.rule);
     palette.setColor(QPalette::Dark, colors.edge);
     palette.setColor(QPalette::Shadow, colors.edge);
-    palette.setColor(QPalette::ToolTipBase, Hex(0x1B222A));
-    palette.setColor(QPalette::ToolTipText, Hex(0xFFFFFF));
+    palette.setColor(QPalette::ToolTipBase, QColor(0x1B222A));
+    palette.setColor(QPalette::ToolTipText, QColor(0xFFFFFF));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
         palette.setColor(QPalette::Disabled, role, colors.disabledText);
     }
     palette.setColor(QPalette::Disabled, QPalette::Base, colors.readOnlyField);
     palette.setColor(QPalette::Disabled, QPalette::Button, colors.readOnlyField);
     return palette;
-}
-
-QColor Mixed(const QColor& color, const QColor& other, double share)
-{
-    const auto mix = [share](int from, int to) { return qRound(from + (to - from) * share); };
-    return QColor(mix(color.red(), other.red()), mix(color.green(), other.green()), mix(color.blue(), other.blue()));
 }
 
 } // namespace quor

@@ -40,7 +40,4 @@ ThemeColors ColorsFrom(const QPalette& desktop);
 
 QPalette PaletteOf(const ThemeColors& colors);
 
-// `color` mixed towards `other` by a share of 0 to 1.
-QColor Mixed(const QColor& color, const QColor& other, double share);
-
 } // namespace quor

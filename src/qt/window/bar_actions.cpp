@@ -11,7 +11,7 @@
 
 namespace quor {
 
-BarActions::BarActions(Bars& bars, const Theme& theme, QWidget& window) : m_bars(bars), m_theme(theme), m_window(window)
+BarActions::BarActions(Bars& bars, QWidget& window) : m_bars(bars), m_window(window)
 {
     for (const auto& tool : bars.Tools()) {
         if (!tool->Shortcut.empty() && tool->Keys == KeyScope::Window) {
@@ -42,7 +42,7 @@ QAction& BarActions::Make(BarTool& tool, const std::string& caption, const std::
     if (made.action != nullptr) {
         return *made.action;
     }
-    auto* action = new QAction(m_theme.Icon(tool.Name), ToQt(caption), &m_window);
+    auto* action = new QAction(IconOf(tool.Name), ToQt(caption), &m_window);
     action->setObjectName(ToQt(tool.Name));
     action->setToolTip(ToQt(tip));
     action->setIconVisibleInMenu(true);
@@ -98,7 +98,7 @@ void BarActions::Fill(QMenu& menu, const Band& band)
         } else if (tool.Visible()) {
             QMenu& inner = MakeMenu(m_bars.BandOf(tool.Opens), menu);
             inner.setTitle(ToQt(place.Caption()));
-            inner.setIcon(m_theme.Icon(tool.Name));
+            inner.setIcon(IconOf(tool.Name));
             inner.menuAction()->setEnabled(tool.Enabled());
             menu.addMenu(&inner);
         }

@@ -17,12 +17,11 @@ class BandTool;
 class BarTool;
 class Bars;
 class Band;
-class Theme;
 
 class BarActions {
 public:
-    // Shortcuts hold within the window, which owns the actions. Bars and theme outlive it.
-    BarActions(Bars& bars, const Theme& theme, QWidget& window);
+    // Shortcuts hold within the window, which owns the actions. The bars outlive it.
+    BarActions(Bars& bars, QWidget& window);
     ~BarActions();
     BarActions(const BarActions&) = delete;
     BarActions& operator=(const BarActions&) = delete;
@@ -49,7 +48,6 @@ private:
     void Fill(QMenu& menu, const Band& band);
 
     Bars& m_bars;
-    const Theme& m_theme;
     QWidget& m_window;
     std::unordered_map<std::string, Follower> m_actions; // by the tool's name and the place's words
     QMenu* m_popup = nullptr;

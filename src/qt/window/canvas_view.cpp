@@ -6,7 +6,6 @@
 #include "qt/canvas/marks.h"
 #include "qt/painters/painters.h"
 #include "qt/ports/qt_text.h"
-#include "qt/theme/theme.h"
 #include "widgets/canvas.h"
 
 #include <QKeyEvent>
@@ -64,13 +63,15 @@ Qt::CursorShape CursorOf(std::size_t handle)
 
 } // namespace
 
-CanvasView::CanvasView(frmMain& main, const Theme& theme, QWidget* parent)
-    : QAbstractScrollArea(parent), m_main(main), m_canvas(main.ssScroll()), m_theme(theme)
+CanvasView::CanvasView(frmMain& main, QWidget* parent)
+    : QAbstractScrollArea(parent), m_main(main), m_canvas(main.ssScroll())
 {
     setObjectName(QStringLiteral("ssScroll"));
     setAccessibleName(QStringLiteral("Canvas"));
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    setBackgroundRole(QPalette::Window); // of the bars
+    setAutoFillBackground(true);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     horizontalScrollBar()->setSingleStep(scrollStep * static_cast<int>(twipsPerPixelX));
@@ -111,8 +112,7 @@ void CanvasView::paintEvent(QPaintEvent* event)
                              {.faded = isMoving ? m_main.SelectedWidget() : nullptr});
     if (m_outline) {
         DrawOutline(painter, PixelsOf(m_outline->area), m_outline->what == DragOutline::What::Insert);
-        const QFont font = m_theme.TextFont();
-        PointerTip(ToQt(m_outline->tip), font, m_pointer.toPoint(), viewport()->size()).Draw(painter, font);
+        PointerTip(ToQt(m_outline->tip), font(), m_pointer.toPoint(), viewport()->size()).Draw(painter, font());
     }
 }
 
@@ -353,7 +353,7 @@ QRect CanvasView::OutlinePlace() const
     if (!m_outline) {
         return {};
     }
-    const PointerTip tip(ToQt(m_outline->tip), m_theme.TextFont(), m_pointer.toPoint(), viewport()->size());
+    const PointerTip tip(ToQt(m_outline->tip), font(), m_pointer.toPoint(), viewport()->size());
     return PixelsOf(m_outline->area).toAlignedRect().adjusted(-1, -1, 1, 1).united(tip.Place().adjusted(-1, -1, 1, 1));
 }
 

@@ -15,13 +15,12 @@ namespace quor {
 
 class Canvas;
 class frmMain;
-class Theme;
 struct Area;
 
 class CanvasView final : public QAbstractScrollArea {
 public:
-    // Main form and theme outlive the view.
-    CanvasView(frmMain& main, const Theme& theme, QWidget* parent = nullptr);
+    // The main form outlives the view.
+    explicit CanvasView(frmMain& main, QWidget* parent = nullptr);
 
     // For a drag whose mouse events another widget gets: the pointer's place on the screen.
     void TrackDrag(const QPointF& global);
@@ -61,7 +60,6 @@ private:
 
     frmMain& m_main;
     Canvas& m_canvas;
-    const Theme& m_theme;
     bool m_isFollowing = false;            // the bars move after the model, not the other way
     Qt::MouseButton m_held = Qt::NoButton; // that began what is going on
     QPointF m_pressedAt;                   // pixels of the view, scrolled with the canvas

@@ -8,19 +8,18 @@
 
 #include <vector>
 
-class QBoxLayout;
+class QSplitter;
 
 namespace quor {
 
 class Band;
 class CanvasView;
-class Theme;
 class frmMain;
 
 class MainWindow final : public QMainWindow {
 public:
-    // The main form, which is loaded, and the theme outlive the window.
-    MainWindow(frmMain& main, const Theme& theme);
+    // The main form, which is loaded, outlives the window.
+    explicit MainWindow(frmMain& main);
 
     CanvasView& Canvas() const noexcept { return *m_canvas; }
 
@@ -28,16 +27,20 @@ protected:
     // The model decides whether the window closes.
     void closeEvent(QCloseEvent* event) override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void AddMenuBar(const Band& band);
     void AddToolBar(Band& band);
     void AddCenter();
-    void AddPanel(QBoxLayout& columns, Band& band, QWidget& content, int width, Qt::Edge edge);
+    QWidget* MakePanel(Band& band, QWidget& content, int width);
+    void MakeEdge(Band& properties);
+    QWidget* MakeStatusLine(Band& band);
 
     frmMain& m_main;
-    const Theme& m_theme;
     BarActions m_actions;
     CanvasView* m_canvas = nullptr;
+    QSplitter* m_columns = nullptr; // the canvas between its panels
     std::vector<Subscription> m_subscriptions;
 };
 

@@ -1,9 +1,8 @@
 #include "qt/window/panel_tabs.h"
 
+#include "qt/forms/tab.h"
 #include "qt/theme/style_parts.h"
-#include "qt/theme/theme.h"
 
-#include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
@@ -14,24 +13,17 @@ namespace quor {
 namespace {
 
 // Pixels.
-constexpr int tabHeight = 26;
 constexpr int rowPitch = 28;
 constexpr int gap = 2;
-constexpr int padding = 8; // at each side of a caption
 constexpr int margin = 8;
 constexpr int topGap = 2;
 constexpr int bottomGap = 6; // with the rule
 
 } // namespace
 
-class PanelTab final : public QAbstractButton {
+class PanelTab final : public Tab {
 public:
-    PanelTab(const Theme& theme, QWidget* parent) : QAbstractButton(parent), m_theme(theme)
-    {
-        setCheckable(true);
-        setFocusPolicy(Qt::NoFocus);
-        setAttribute(Qt::WA_Hover);
-    }
+    using Tab::Tab;
 
     void ShowCaption(const QString& caption)
     {
@@ -47,29 +39,15 @@ public:
         setFocusPolicy(isInFront ? Qt::TabFocus : Qt::NoFocus);
     }
 
-    QSize sizeHint() const override { return {fontMetrics().horizontalAdvance(text()) + 2 * padding, tabHeight}; }
-
 protected:
-    void nextCheckState() override {} // the model says what is in front
-
     void keyPressEvent(QKeyEvent* event) override
     {
         if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select) {
-            QAbstractButton::keyPressEvent(event);
+            Tab::keyPressEvent(event);
         } else {
             event->ignore();
         }
     }
-
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        const TabState behind = !underMouse() ? TabState::Behind : isDown() ? TabState::Pressed : TabState::Hovered;
-        DrawTab(painter, rect(), text(), isChecked() ? TabState::InFront : behind, m_theme.Colors());
-    }
-
-private:
-    const Theme& m_theme;
 };
 
 namespace {
@@ -111,8 +89,8 @@ QAccessibleInterface* MakeAccess(const QString& /*key*/, QObject* object)
 
 } // namespace
 
-PanelTabs::PanelTabs(const Theme& theme, std::function<void(int)> onChoice, QWidget* parent)
-    : QWidget(parent), m_theme(theme), m_onChoice(std::move(onChoice))
+PanelTabs::PanelTabs(std::function<void(int)> onChoice, QWidget* parent)
+    : QWidget(parent), m_onChoice(std::move(onChoice))
 {
     setObjectName(QStringLiteral("tabs"));
     static const bool isTold = (QAccessible::installFactory(MakeAccess), true);
@@ -126,7 +104,7 @@ void PanelTabs::Show(const QStringList& captions, int current)
     }
     while (m_tabs.size() < static_cast<std::size_t>(captions.size())) {
         const int position = static_cast<int>(m_tabs.size());
-        auto* tab = new PanelTab(m_theme, this);
+        auto* tab = new PanelTab(this);
         connect(tab, &QAbstractButton::clicked, this, [this, position] { m_onChoice(position); });
         m_tabs.push_back(tab);
     }
@@ -155,13 +133,13 @@ void PanelTabs::Flow()
         if (tab->isHidden()) {
             continue;
         }
-        const int tabWidth = tab->sizeHint().width();
-        if (x > margin && x + tabWidth > width() - margin) {
+        const QSize size = tab->sizeHint();
+        if (x > margin && x + size.width() > width() - margin) {
             x = margin;
             y += rowPitch;
         }
-        tab->setGeometry(x, y, tabWidth, tabHeight);
-        x += tabWidth + gap;
+        tab->setGeometry(QRect(QPoint(x, y), size));
+        x += size.width() + gap;
     }
     setFixedHeight(y + rowPitch + bottomGap);
 }
@@ -215,7 +193,7 @@ void PanelTabs::resizeEvent(QResizeEvent* event)
 void PanelTabs::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    DrawRule(painter, QRectF(0, height() - 1, width(), 1), Qt::Horizontal, m_theme.Colors().rule);
+    DrawRule(painter, QRectF(0, height() - 1, width(), 1), Qt::Horizontal, palette().color(QPalette::Mid));
 }
 
 } // namespace quor

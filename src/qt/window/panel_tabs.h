@@ -10,12 +10,11 @@
 namespace quor {
 
 class PanelTab;
-class Theme;
 
 class PanelTabs final : public QWidget {
 public:
     // `onChoice` hears of the tab that the user chooses, by its position; what is in front is for Show to say.
-    PanelTabs(const Theme& theme, std::function<void(int)> onChoice, QWidget* parent = nullptr);
+    explicit PanelTabs(std::function<void(int)> onChoice, QWidget* parent = nullptr);
 
     // The tabs in order and the position of the one in front, -1 for none.
     void Show(const QStringList& captions, int current);
@@ -30,7 +29,6 @@ private:
     void Choose(qsizetype position);
     void Flow();
 
-    const Theme& m_theme;
     std::function<void(int)> m_onChoice;
     std::vector<PanelTab*> m_tabs; // as many as there ever were
     QStringList m_captions;

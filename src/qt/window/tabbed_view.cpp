@@ -19,22 +19,16 @@ namespace {
 
 constexpr int roomAround = 8; // pixels, around a control that is scrolled to
 
-// The form that the child band shows; null without one.
-Form* FormOf(const Band& child)
-{
-    return child.Tools().empty() ? nullptr : child.Tools().front().Tool().HostedForm();
-}
-
 // A form as wide as the panel. It scrolls where it is too high, and to the control that the keyboard reaches.
 class PageArea final : public QScrollArea {
 public:
-    PageArea(Form& form, const Theme& theme)
+    explicit PageArea(Form& form)
     {
         setFrameShape(QFrame::NoFrame);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setFocusPolicy(Qt::NoFocus);
         setWidgetResizable(true);
-        setWidget(new FormView(form, theme));
+        setWidget(new FormView(form));
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
             if (now != nullptr && isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton) {
                 ensureWidgetVisible(now, 0, roomAround);
@@ -45,12 +39,10 @@ public:
 
 } // namespace
 
-TabbedView::TabbedView(Band& band, const Theme& theme, QWidget* parent)
-    : QWidget(parent), m_band(band), m_theme(theme), m_stack(new QStackedWidget(this))
+TabbedView::TabbedView(Band& band, QWidget* parent) : QWidget(parent), m_band(band), m_stack(new QStackedWidget(this))
 {
     m_tabs = new PanelTabs(
-        theme, [this](int position) { m_band.SetCurrentChild(m_shown.at(static_cast<std::size_t>(position))->Name); },
-        this);
+        [this](int position) { m_band.SetCurrentChild(m_shown.at(static_cast<std::size_t>(position))->Name); }, this);
     m_tabs->setAccessibleName(ToQt(band.Caption));
     m_stack->addWidget(new QWidget); // where no page is in front
     auto* rows = new QVBoxLayout(this);
@@ -61,9 +53,6 @@ TabbedView::TabbedView(Band& band, const Theme& theme, QWidget* parent)
     m_following.push_back(band.Changed.Subscribe([this] { FollowSoon(); }));
     for (Band* child : band.Children()) {
         m_following.push_back(child->Changed.Subscribe([this] { FollowSoon(); }));
-        for (const BandTool& place : child->Tools()) {
-            m_following.push_back(place.Tool().Changed.Subscribe([this, child] { ForgetForm(*child); }));
-        }
     }
     Follow();
 }
@@ -93,29 +82,19 @@ void TabbedView::Follow()
     m_stack->setCurrentWidget(front == m_shown.end() ? m_stack->widget(0) : PageOf(**front));
 }
 
+// The form's view in its scroll area, made when it is first shown and then kept.
 QWidget* TabbedView::PageOf(const Band& child)
 {
-    Form* form = FormOf(child);
-    if (form == nullptr) {
-        return m_stack->widget(0);
-    }
-    Page& page = m_pages[&child];
-    if (page.area == nullptr) {
+    const QString name = ToQt(child.Name);
+    auto* page = m_stack->findChild<QWidget*>(name, Qt::FindDirectChildrenOnly);
+    Form* form = child.Tools().empty() ? nullptr : child.Tools().front().Tool().HostedForm();
+    if (page == nullptr && form != nullptr) {
         form->Load();
-        page = {form, new PageArea(*form, m_theme)};
-        m_stack->addWidget(page.area);
+        page = new PageArea(*form);
+        page->setObjectName(name);
+        m_stack->addWidget(page);
     }
-    return page.area;
-}
-
-void TabbedView::ForgetForm(const Band& child)
-{
-    const auto known = m_pages.find(&child);
-    if (known != m_pages.end() && known->second.form != FormOf(child)) {
-        delete known->second.area;
-        m_pages.erase(known);
-        FollowSoon();
-    }
+    return page != nullptr ? page : m_stack->widget(0);
 }
 
 } // namespace quor

@@ -4,20 +4,19 @@
 #include "editor/tools.h"
 #include "qt/painters/painters.h"
 #include "qt/ports/qt_text.h"
-#include "qt/theme/style_parts.h"
 #include "qt/theme/theme.h"
 #include "qt/window/canvas_view.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolButton>
 
 namespace quor {
 
 namespace {
 
 constexpr int face = 26; // pixels; a cell's last row and column stay empty
-constexpr int iconSize = 20;
-constexpr int iconInset = 3;
+constexpr int iconSide = 20;
 
 // The pointer with the picture of what it drags.
 QCursor DragPicture(const QIcon& icon, qreal scale)
@@ -28,7 +27,7 @@ QCursor DragPicture(const QIcon& icon, qreal scale)
     pixmap.setDevicePixelRatio(scale);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    icon.paint(&painter, QRect(away, away, iconSize, iconSize));
+    icon.paint(&painter, QRect(away, away, iconSide, iconSide));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::white, 1));
     painter.setBrush(Qt::black);
@@ -40,31 +39,22 @@ QCursor DragPicture(const QIcon& icon, qreal scale)
 } // namespace
 
 // One button.
-class ToolboxCell final : public QWidget {
+class ToolboxCell final : public QToolButton {
 public:
-    ToolboxCell(frmMain& main, CanvasView& canvas, const Theme& theme, std::size_t index, QWidget* parent)
-        : QWidget(parent), m_main(main), m_canvas(canvas), m_theme(theme), m_index(index),
-          m_icon(theme.Icon(kindNames[index].tool))
+    ToolboxCell(frmMain& main, CanvasView& canvas, std::size_t index, QWidget* parent)
+        : QToolButton(parent), m_main(main), m_canvas(canvas), m_index(index)
     {
-        const ToolboxButton& button = main.Toolbox().cmdTool().at(index);
-        const QString name = ToQt(button.kind->caption);
+        const QString name = ToQt(main.Toolbox().cmdTool().at(index).kind->caption);
         setObjectName(QStringLiteral("cmdTool(%1)").arg(index));
         setAccessibleName(name);
         setToolTip(name);
-        setAttribute(Qt::WA_Hover);
+        setAutoRaise(true);
+        setFocusPolicy(Qt::NoFocus);
+        setIcon(IconOf(insertTools[index]));
+        setIconSize({iconSide, iconSide});
     }
 
 protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        const ThemeColors& colors = m_theme.Colors();
-        if (m_isHeld || underMouse()) {
-            DrawBox(painter, QRect(0, 0, face, face), radii::button, m_isHeld ? colors.pressed : colors.hover);
-        }
-        m_icon.paint(&painter, QRect(iconInset, iconInset, iconSize, iconSize));
-    }
-
     void mousePressEvent(QMouseEvent* event) override
     {
         if (event->button() != Qt::LeftButton) {
@@ -72,15 +62,14 @@ protected:
         }
         m_main.Toolbox().cmdTool_MouseDown(m_index, MouseButton::Left);
         if (m_main.Mouse().IsDragging()) {
-            m_isHeld = true;
-            setCursor(DragPicture(m_icon, devicePixelRatioF()));
-            update();
+            setDown(true);
+            setCursor(DragPicture(icon(), devicePixelRatioF()));
         }
     }
 
     void mouseMoveEvent(QMouseEvent* event) override
     {
-        if (m_isHeld) {
+        if (isDown()) {
             m_canvas.TrackDrag(event->globalPosition());
             if (!m_main.Mouse().IsDragging()) {
                 unsetCursor(); // the drag was given up
@@ -90,30 +79,25 @@ protected:
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        if (event->button() != Qt::LeftButton || !m_isHeld) {
+        if (event->button() != Qt::LeftButton || !isDown()) {
             return;
         }
-        m_isHeld = false;
+        setDown(false);
         unsetCursor();
-        update();
         m_canvas.EndDrag(event->globalPosition());
     }
 
 private:
     frmMain& m_main;
     CanvasView& m_canvas;
-    const Theme& m_theme;
     std::size_t m_index;
-    QIcon m_icon;
-    bool m_isHeld = false;
 };
 
-ToolboxView::ToolboxView(frmMain& main, CanvasView& canvas, const Theme& theme, QWidget* parent)
-    : QWidget(parent), m_main(main)
+ToolboxView::ToolboxView(frmMain& main, CanvasView& canvas, QWidget* parent) : QWidget(parent), m_main(main)
 {
     setObjectName(QStringLiteral("frmViewToolbox"));
     for (std::size_t index = 0; index < kindCount; ++index) {
-        m_cells.push_back(new ToolboxCell(main, canvas, theme, index, this));
+        m_cells.push_back(new ToolboxCell(main, canvas, index, this));
     }
 }
 
@@ -122,8 +106,8 @@ void ToolboxView::resizeEvent(QResizeEvent* /*event*/)
     frmViewToolbox& toolbox = m_main.Toolbox();
     toolbox.Form_Resize(static_cast<float>(width() - 2 * margin) * twipsPerPixelX);
     for (std::size_t index = 0; index < m_cells.size(); ++index) {
-        m_cells[index]->setGeometry(
-            PixelsOf(toolbox.cmdTool().at(index).place).translated(margin, topGap).toAlignedRect());
+        const QPoint at = PixelsOf(toolbox.cmdTool().at(index).place).topLeft().toPoint();
+        m_cells[index]->setGeometry(QRect(at + QPoint(margin, topGap), QSize(face, face)));
     }
 }
 

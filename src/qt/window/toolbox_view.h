@@ -9,7 +9,6 @@ namespace quor {
 
 class CanvasView;
 class ToolboxCell;
-class Theme;
 class frmMain;
 
 class ToolboxView final : public QWidget {
@@ -18,7 +17,7 @@ public:
     static constexpr int topGap = 2;
 
     // All outlive it. The drag goes on over the canvas.
-    ToolboxView(frmMain& main, CanvasView& canvas, const Theme& theme, QWidget* parent = nullptr);
+    ToolboxView(frmMain& main, CanvasView& canvas, QWidget* parent = nullptr);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -1,25 +1,21 @@
 #pragma once
-// A tab: a caption on the ground that says whether it is in front.
+// A tab: a caption on the ground that says whether it is in front, which is for its owner to say.
 
 #include <QAbstractButton>
 
 namespace quor {
 
-class Theme;
-
-class TabButton final : public QAbstractButton {
+class Tab : public QAbstractButton {
 public:
     static constexpr int tabHeight = 26; // pixels
 
-    TabButton(const Theme& theme, QWidget* parent);
+    explicit Tab(QWidget* parent);
 
     QSize sizeHint() const override;
 
 protected:
+    void nextCheckState() override {}
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    const Theme& m_theme;
 };
 
 } // namespace quor
