@@ -50,7 +50,7 @@ public:
         setToolTip(name);
         setAutoRaise(true);
         setFocusPolicy(Qt::NoFocus);
-        setIcon(IconOf(insertTools[index]));
+        setIcon(IconOf(kindNames[index].tool));
         setIconSize({iconSide, iconSide});
     }
 
