@@ -8,7 +8,6 @@
 #include "qt/ports/qt_system_info.h"
 #include "tests/qt/test.h"
 
-#include <QCheckBox>
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
@@ -83,24 +82,6 @@ TEST(TheLogonDialog, GoesOnInThePasswordWhereTheMouseConfirmedAWrongOne)
     QTest::keyClicks(window.focusWidget(), "secret");
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(tried, "Ada:wrong Ada:secret ");
-}
-
-TEST(ABoxWithALongCaption, BeginsWhereItHasRoom)
-{
-    struct Boxes final : Form {
-        Boxes() : Form("frmBoxes")
-        {
-            auto& narrow = Make<CheckBox>("narrow", "Short");
-            auto& wide = Make<CheckBox>("wide", "Automatically determine the color of the lamp when it is off");
-            Arrange(12, {{.height = 26, .items = {{.control = &narrow, .x = 116, .orX = 14}}},
-                         {.height = 26, .items = {{.control = &wide, .x = 116, .orX = 14}}}});
-        }
-    } form;
-    FormView view(form);
-    view.resize(320, 60);
-    view.show();
-    EXPECT_EQ(view.findChild<QCheckBox*>("narrow")->x(), 116);
-    EXPECT_EQ(view.findChild<QCheckBox*>("wide")->x(), 14);
 }
 
 TEST(TheHelpWindow, StandsAboveADialogAndOutlivesIt)

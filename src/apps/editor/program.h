@@ -51,7 +51,6 @@ public:
     // Null before they are shown.
     frmMain* MainForm() const noexcept { return m_application.MainForm(); }
     MainWindow* Window() const noexcept { return m_window.get(); }
-    Theme& Looks() noexcept { return m_theme; }
     bool HasEnded() const noexcept { return m_application.HasEnded(); }
 
 private:
