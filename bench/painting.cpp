@@ -5,8 +5,8 @@
 #include "bench/rows.h"
 #include "document/kinds.h"
 #include "qt/canvas/canvas_painting.h"
-#include "qt/painters/angular_gauge_painter.h"
 #include "qt/painters/painters.h"
+#include "qt/painters/widget_painters.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/arc_layout.h"
@@ -75,11 +75,12 @@ void PaintNewValue(benchmark::State& state)
         canvas.Changed.Subscribe([&](const Area& area) { changed |= PixelsOf(area).toAlignedRect(); });
     QImage sheet = Sheet({200, 200});
     QPainter painter(&sheet);
+    KeptPictures kept;
     std::size_t step = 0;
     for (auto _ : state) {
         gauge.Set(&ScaleGauge::Position, ValueAt(++step));
         painter.setClipRegion(changed);
-        PaintAngularGauge(painter, gauge, dialArea);
+        PaintWidget(painter, gauge, dialArea, kept);
         changed = QRegion();
     }
 }
@@ -133,8 +134,10 @@ void PaintFace(benchmark::State& state)
     const auto& gauge = static_cast<const AngularGauge&>(canvas.FindArray("ctlMeterAngle")->Pattern());
     QImage sheet = Sheet({200, 200});
     QPainter painter(&sheet);
+    const DeviceSpace space(painter, dialArea);
     for (auto _ : state) {
-        DrawAngularFace(painter, gauge, dialArea);
+        painter.setClipping(false);
+        DrawDialFace(painter, gauge, space);
     }
 }
 
@@ -190,6 +193,7 @@ void PaintFrame(benchmark::State& state)
             &Loaded(canvas, kinds[static_cast<std::size_t>(number) % kinds.size()], number + 1, left, top));
     }
     QImage sheet = Sheet(wholeView);
+    CanvasPainter canvasPainter(canvas);
     std::size_t step = 0;
     for (auto _ : state) {
         ++step;
@@ -197,7 +201,7 @@ void PaintFrame(benchmark::State& state)
             ShowValue(*widgets[index], step + index);
         }
         QPainter painter(&sheet);
-        PaintCanvas(painter, canvas, wholeView, QRect(QPoint(0, 0), wholeView), {});
+        canvasPainter.Paint(painter, wholeView, QRect(QPoint(0, 0), wholeView), {});
     }
 }
 

@@ -12,7 +12,7 @@ inline constexpr std::int32_t left = 1;
 inline constexpr std::int32_t right = 2;
 } // namespace number_alignments
 
-class AnalogDisplay final : public WidgetOf<AnalogDisplay> {
+class AnalogDisplay final : public WidgetOf<AnalogDisplay, WidgetKind::AnalogDisplay> {
 public:
     Property<"DisplayValue", double> DisplayValue;
     Property<"DisplayPrecision", std::int16_t> DisplayPrecision{2}; // decimal places

@@ -18,7 +18,7 @@ inline constexpr std::int32_t center = 1;
 inline constexpr std::int32_t outside = 2;
 } // namespace tick_alignments
 
-class AngularGauge final : public ScaleGauge {
+class AngularGauge final : public WidgetOf<AngularGauge, WidgetKind::AngularGauge, ScaleGauge> {
 public:
     // Degrees: the start counter-clockwise from the right, the range clockwise from the start.
     Property<"ArcStartDegrees", std::int16_t> ArcStartDegrees{225};
@@ -47,7 +47,6 @@ public:
     Property<"CurrentMax", double> CurrentMax{100};
     Property<"CurrentMin", double> CurrentMin{100};
 
-    std::unique_ptr<Widget> Clone() const override { return std::make_unique<AngularGauge>(*this); }
     void VisitProperties(PropertyVisitor& visitor) const override;
 
 protected:

@@ -169,6 +169,7 @@ void Canvas::PlaceBackground(float left, float top)
 void Canvas::Attach(Widget& widget) noexcept
 {
     widget.m_canvas = this;
+    widget.RenewLook();
     Link(widget, nullptr);
     IgnoreFailure([&] { widget.Invalidate(); });
 }
@@ -178,6 +179,7 @@ void Canvas::Detach(Widget& widget) noexcept
     IgnoreFailure([&] { widget.Invalidate(); });
     Unlink(widget);
     widget.m_canvas = nullptr;
+    widget.RenewLook();
 }
 
 void Canvas::BringToFront(Widget& widget)

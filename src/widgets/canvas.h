@@ -132,6 +132,9 @@ public:
     const GridLines& Grid() const noexcept { return m_grid; }
     void SetGrid(const GridLines& grid);
 
+    // A number that none of its widgets has had as its look.
+    std::uint64_t NextLook() noexcept { return ++m_looks; }
+
     // Says that the area must be painted again.
     void Invalidate(const Area& area);
     void InvalidateAll();
@@ -163,6 +166,7 @@ private:
     std::int32_t m_scrollMaxX = 0;
     std::int32_t m_scrollMaxY = 0;
     const Trace* m_tracer = &noTrace;
+    std::uint64_t m_looks = 0;
     int m_holds = 0;
     std::vector<Area> m_stale; // what changed during the hold
 };

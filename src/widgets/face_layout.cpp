@@ -38,9 +38,9 @@ FaceBox Placed(const FacePlan& plan, const FaceSize& size, std::int32_t place) n
     FaceBox box{plan.gaps.edge, plan.gaps.edge, size.width, size.height};
     const double freeAcross = plan.face.width - size.width;
     const double freeDown = plan.face.height - size.height;
-    const FaceColumn column = ColumnOf(place);
-    if (column != FaceColumn::Left) {
-        box.left = column == FaceColumn::Right ? freeAcross - plan.gaps.edge : freeAcross / 2;
+    const TextSide column = ColumnOf(place);
+    if (column != TextSide::Left) {
+        box.left = column == TextSide::Right ? freeAcross - plan.gaps.edge : freeAcross / 2;
     }
     const FaceRow row = RowOf(place);
     if (row != FaceRow::Top) {
@@ -91,9 +91,9 @@ double NearestEven(double length, double least, double most) noexcept
 
 } // namespace
 
-FaceColumn ColumnOf(std::int32_t place) noexcept
+TextSide ColumnOf(std::int32_t place) noexcept
 {
-    return IsPlace(place) ? static_cast<FaceColumn>(place / 3) : FaceColumn::Center;
+    return IsPlace(place) ? static_cast<TextSide>(place / 3) : TextSide::Center;
 }
 
 FaceLayout LayFace(const FacePlan& plan) noexcept

@@ -2,6 +2,8 @@
 // Where a caption and a picture stand on the face of a panel or a button, and where a button's lamp is. Lengths are
 // pixels from the face's upper left corner.
 
+#include "widgets/text_side.h"
+
 #include <cstdint>
 
 namespace quor {
@@ -48,8 +50,7 @@ double CaptionRoom(const FaceSize& face, const FaceGaps& gaps, const FaceSize& p
                    std::int32_t picturePlace) noexcept;
 
 // At which side of its widest line's ends the other lines of a caption stand.
-enum class FaceColumn { Left, Right, Center };
-FaceColumn ColumnOf(std::int32_t place) noexcept;
+TextSide ColumnOf(std::int32_t place) noexcept;
 
 // The lamp on a button of this size in device-independent pixels, at one of `lamp_sides`; none where it has no room.
 FaceBox LampBar(const FaceSize& button, std::int32_t side) noexcept;

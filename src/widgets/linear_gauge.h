@@ -16,7 +16,7 @@ inline constexpr std::int32_t bottomRight = 0;
 inline constexpr std::int32_t topLeft = 1;
 } // namespace tick_locations
 
-class LinearGauge final : public ScaleGauge {
+class LinearGauge final : public WidgetOf<LinearGauge, WidgetKind::LinearGauge, ScaleGauge> {
 public:
     Property<"Orientation", std::int32_t> Orientation{orientations::vertical};
     Property<"TickLocation", std::int32_t> TickLocation{tick_locations::bottomRight};
@@ -24,7 +24,6 @@ public:
     Property<"EndsMargin", std::int16_t> EndsMargin{15};      // from the widget's ends to those of the scale
     Property<"ShowTicksAxis", bool> ShowTicksAxis;
 
-    std::unique_ptr<Widget> Clone() const override { return std::make_unique<LinearGauge>(*this); }
     void VisitProperties(PropertyVisitor& visitor) const override;
 
 protected:

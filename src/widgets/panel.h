@@ -20,7 +20,7 @@ inline constexpr std::int32_t stretched = 1;
 inline constexpr std::int32_t tiled = 2;
 } // namespace fill_modes
 
-class Panel final : public WidgetOf<Panel> {
+class Panel final : public WidgetOf<Panel, WidgetKind::Panel> {
 public:
     Property<"Caption", std::string> Caption;
     Property<"ForeColor", Color> ForeColor{colors::buttonText};

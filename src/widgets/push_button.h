@@ -6,7 +6,7 @@
 
 namespace quor {
 
-class PushButton final : public WidgetOf<PushButton> {
+class PushButton final : public WidgetOf<PushButton, WidgetKind::PushButton> {
 public:
     Property<"Caption", std::string> Caption;
     Property<"ForeColor", Color> ForeColor{colors::buttonText};

@@ -9,4 +9,9 @@ void RectLed::VisitProperties(PropertyVisitor& visitor) const
               CaptionOnColor, CaptionOffColor, CaptionWordWrap, CaptionAlignment, CenterLabelFont);
 }
 
+LampColor RectLed::Shown() const
+{
+    return ShownColor(Active(), ActiveColor(), AutoInactiveColor() ? std::nullopt : std::optional(InactiveColor()));
+}
+
 } // namespace quor

@@ -2,6 +2,7 @@
 // A rectangular lamp with a text on its face.
 
 #include "widgets/bevels.h"
+#include "widgets/lamp.h"
 #include "widgets/widget.h"
 
 namespace quor {
@@ -13,7 +14,7 @@ inline constexpr std::int32_t left = 1;
 inline constexpr std::int32_t right = 2;
 } // namespace lamp_alignments
 
-class RectLed final : public WidgetOf<RectLed> {
+class RectLed final : public WidgetOf<RectLed, WidgetKind::RectLed> {
 public:
     Property<"Active", bool> Active;
     Property<"ActiveColor", Color> ActiveColor{Color{0x0000FF00}};
@@ -28,6 +29,7 @@ public:
     Property<"CaptionAlignment", std::int32_t> CaptionAlignment{lamp_alignments::center};
     Property<"CenterLabelFont", Font> CenterLabelFont;
 
+    LampColor Shown() const;
     void VisitProperties(PropertyVisitor& visitor) const override;
 };
 

@@ -1,7 +1,5 @@
 #include "widgets/round_led.h"
 
-#include <cmath>
-
 namespace quor {
 
 void RoundLed::VisitProperties(PropertyVisitor& visitor) const
@@ -10,10 +8,9 @@ void RoundLed::VisitProperties(PropertyVisitor& visitor) const
     VisitEach(visitor, Active, ActiveColor, InactiveColor, AutoInactiveColor, ShowReflection, BevelStyle, Transparent);
 }
 
-Rgb UnlitColor(Rgb lit) noexcept
+LampColor RoundLed::Shown() const
 {
-    const auto dim = [](std::uint8_t channel) { return static_cast<std::uint8_t>(std::lround(channel * 0.4)); };
-    return {dim(lit.red), dim(lit.green), dim(lit.blue)};
+    return ShownColor(Active(), ActiveColor(), AutoInactiveColor() ? std::nullopt : std::optional(InactiveColor()));
 }
 
 } // namespace quor

@@ -52,6 +52,11 @@ public:
     void VisitProperties(PropertyVisitor& visitor) const override;
 
 protected:
+    bool ChangesLook(const void* property) const override
+    {
+        return property != &Position && Widget::ChangesLook(property);
+    }
+
     // What the gauge has to paint of these pixels from its upper left corner, as a place on the canvas.
     Area PixelsWithin(const Extent& pixels) const;
 };

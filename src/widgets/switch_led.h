@@ -1,6 +1,7 @@
 #pragma once
 // A button with a lamp on it. By itself, a click turns the lamp over.
 
+#include "widgets/lamp.h"
 #include "widgets/widget.h"
 
 namespace quor {
@@ -13,7 +14,7 @@ inline constexpr std::int32_t left = 2;
 inline constexpr std::int32_t right = 3;
 } // namespace lamp_sides
 
-class SwitchLed final : public WidgetOf<SwitchLed> {
+class SwitchLed final : public WidgetOf<SwitchLed, WidgetKind::SwitchLed> {
 public:
     Property<"Active", bool> Active; // the lamp is lit
     Property<"LEDColor", Color> LEDColor{Color{0x0000FF00}};
@@ -27,6 +28,7 @@ public:
     // As the user does. It turns the lamp over, unless the button is disabled.
     void Click();
 
+    LampColor Shown() const;
     void VisitProperties(PropertyVisitor& visitor) const override;
 };
 

@@ -12,7 +12,7 @@ inline constexpr std::int16_t right = 1;
 inline constexpr std::int16_t center = 2;
 } // namespace label_alignments
 
-class TextLabel final : public WidgetOf<TextLabel> {
+class TextLabel final : public WidgetOf<TextLabel, WidgetKind::TextLabel> {
 public:
     Property<"Caption", std::string> Caption;
     Property<"ForeColor", Color> ForeColor{colors::buttonText};

@@ -3,6 +3,9 @@
 #include "widgets/canvas.h"
 #include "widgets/widget_array.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quor {
 
 Widget::Widget(const Widget& other)
@@ -35,6 +38,17 @@ const std::string& Widget::Name() const noexcept
 void Widget::VisitProperties(PropertyVisitor& visitor) const
 {
     VisitEach(visitor, Left, Top, Width, Height, Visible, Enabled, Tag);
+}
+
+bool Widget::ChangesLook(const void* property) const
+{
+    const void* others[] = {&Left, &Top, &Width, &Height, &Visible, &Tag};
+    return std::find(std::begin(others), std::end(others), property) == std::end(others);
+}
+
+void Widget::RenewLook() noexcept
+{
+    m_look = m_canvas == nullptr ? 0 : m_canvas->NextLook();
 }
 
 void Widget::InvalidateShown() const

@@ -17,6 +17,19 @@ namespace quor {
 class Canvas;
 class WidgetArray;
 
+// The classes of widget that can be painted.
+enum class WidgetKind {
+    AnalogDisplay,
+    AngularGauge,
+    LinearGauge,
+    Panel,
+    PushButton,
+    RectLed,
+    RoundLed,
+    SwitchLed,
+    TextLabel
+};
+
 class Widget {
 public:
     // In twips, within the visible part of the canvas.
@@ -44,6 +57,9 @@ public:
         PropertyAccess::Value(written) = std::move(value);
         Stored(&written);
         if (m_canvas != nullptr) {
+            if (ChangesLook(&written)) {
+                RenewLook();
+            }
             InvalidateChanged(before, Shown(&written));
         }
     }
@@ -59,6 +75,10 @@ public:
     WidgetArray* Array() const noexcept { return m_array; }
     Canvas* Container() const noexcept { return m_canvas; }
 
+    // Another number after each change of how it looks, and none that another widget of its canvas has or had. What is
+    // no part of it: place, size, and the value that a gauge's pointer shows. 0 while it is on no canvas.
+    std::uint64_t Look() const noexcept { return m_look; }
+
     // The next one towards the front, or null.
     Widget* Above() const noexcept { return m_above; }
     Widget* Below() const noexcept { return m_below; }
@@ -70,6 +90,8 @@ public:
 
     // Whether the user may move it among the others, to the front or to the back.
     virtual bool MayBeReordered() const { return true; }
+
+    virtual WidgetKind Kind() const noexcept = 0;
 
     // A new widget with these properties, on no canvas.
     virtual std::unique_ptr<Widget> Clone() const = 0;
@@ -84,8 +106,13 @@ protected:
     // What the control does by itself when a property (told by its address) has another value.
     virtual void Stored(const void* /*property*/) {}
 
+    // Whether another value of a property (told by its address) is another look.
+    virtual bool ChangesLook(const void* property) const;
+
     // Where the present value of a property (told by its address) shows; a new one repaints that and no more.
     virtual Area PartOf(const void* /*property*/) const { return Bounds(); }
+
+    void RenewLook() noexcept;
 
     // Says that it must be painted again.
     void Invalidate() const
@@ -111,11 +138,13 @@ private:
     Widget* m_above = nullptr;
     Widget* m_below = nullptr;
     std::int32_t m_index = 0;
+    std::uint64_t m_look = 0;
 };
 
-// Gives a widget class its Clone.
-template <class Derived> class WidgetOf : public Widget {
+// Gives a widget class its kind and its Clone.
+template <class Derived, WidgetKind kind, class Base = Widget> class WidgetOf : public Base {
 public:
+    WidgetKind Kind() const noexcept override { return kind; }
     std::unique_ptr<Widget> Clone() const override
     {
         return std::make_unique<Derived>(static_cast<const Derived&>(*this));

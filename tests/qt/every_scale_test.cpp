@@ -3,6 +3,7 @@
 #include "tests/qt/picture_of.h"
 
 #include "document/kinds.h"
+#include "qt/canvas/canvas_painting.h"
 #include "tests/qt/test.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
@@ -10,10 +11,13 @@
 #include "widgets/linear_gauge.h"
 #include "widgets/push_button.h"
 #include "widgets/rect_led.h"
+#include "widgets/round_led.h"
+#include "widgets/switch_led.h"
 #include "widgets/text_label.h"
 #include "widgets/widget_array.h"
 
 #include <QElapsedTimer>
+#include <QRegion>
 
 namespace {
 
@@ -23,7 +27,7 @@ protected:
 
     Widget& Load(const Kind& kind)
     {
-        Widget& widget = canvas.FindArray(kind.array)->Load(1);
+        Widget& widget = canvas.FindArray(kind.array)->Load(++count);
         const std::string words = "The station is heated by its own transmitters, and its fans are off at night.";
         if (auto* label = dynamic_cast<TextLabel*>(&widget)) {
             label->Set(&TextLabel::Caption, words);
@@ -41,6 +45,9 @@ protected:
     }
 
     Canvas canvas;
+
+private:
+    std::int32_t count = 0;
 };
 
 double MeanDifference(const QImage& one, const QImage& other)
@@ -76,13 +83,7 @@ TEST_F(EveryKind, LooksTheSameFinerOrCoarser)
 // The lowest row with ink in it, as a share of the height.
 double InkEnd(const QImage& image)
 {
-    int last = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            last = qGray(image.pixel(x, y)) < 225 ? y : last;
-        }
-    }
-    return (last + 1.0) / image.height();
+    return (BoxOf(image, [](QRgb pixel) { return qGray(pixel) < 225; }).bottom() + 1.0) / image.height();
 }
 
 TEST_F(EveryKind, BreaksItsLinesAtTheSameWords)
@@ -152,13 +153,9 @@ TEST_F(EveryKind, ShowsWhatIsVisibleOfIt)
                                        QRectF(2, 2, 56, 100'000), QRectF(-99'970, -99'980, 100'000, 100'000)}) {
                 ASSERT_TRUE(IsPaintable(area));
                 const QImage image = PictureOf(widget, area, view, scale, 0xFFFF00FF);
-                int shown = 0;
-                for (int y = 0; y < image.height(); ++y) {
-                    for (int x = 0; x < image.width(); ++x) {
-                        shown += image.pixel(x, y) != 0xFFFF00FF ? 1 : 0;
-                    }
-                }
-                EXPECT_EQ(shown > 0, kind.array != "ctlLEDRound") << kind.array << ", but the disc is in the middle";
+                const QRect shown = BoxOf(image, [](QRgb pixel) { return pixel != 0xFFFF00FF; });
+                EXPECT_EQ(!shown.isNull(), kind.array != "ctlLEDRound")
+                    << kind.array << ", but the disc is in the middle";
             }
         }
     }
@@ -184,6 +181,134 @@ TEST_F(EveryKind, WithNumbersOfNoSizeShowsNone)
         gauge.Set(&ScaleGauge::TickValuesVisible, false);
         EXPECT_EQ(with, shown()) << array;
     }
+}
+
+TEST_F(EveryKind, KeepsToItsArea)
+{
+    constexpr QRgb ground = 0xFFFE00FE;
+    for (const Kind& kind : Kinds()) {
+        const Widget& widget = Load(kind);
+        for (const qreal scale : {1.0, 1.5, 2.0}) {
+            for (const QSize& size : {QSize(1, 1), QSize(2, 40), QSize(10, 10), QSize(60, 14), QSize(300, 200)}) {
+                const QRectF area(QPointF(6, 6), QSizeF(size));
+                const QImage image = PictureOf(widget, area, size + QSize(12, 12), scale, ground);
+                const QRect box = BoxOf(image, [](QRgb pixel) { return pixel != ground; });
+                const QRectF most(area.topLeft() * scale, area.size() * scale);
+                EXPECT_TRUE(most.toAlignedRect().contains(box) || box.isNull())
+                    << kind.array << ' ' << size.width() << " x " << size.height() << " at " << scale;
+            }
+        }
+    }
+}
+
+void ShowValue(Widget& widget, double value)
+{
+    if (auto* gauge = dynamic_cast<ScaleGauge*>(&widget)) {
+        gauge->Set(&ScaleGauge::Position, value);
+    } else if (auto* display = dynamic_cast<AnalogDisplay*>(&widget)) {
+        display->Set(&AnalogDisplay::DisplayValue, value);
+    } else if (auto* led = dynamic_cast<RoundLed*>(&widget)) {
+        led->Set(&RoundLed::Active, value > 50);
+    } else if (auto* button = dynamic_cast<SwitchLed*>(&widget)) {
+        button->Click();
+    } else if (auto* label = dynamic_cast<TextLabel*>(&widget)) {
+        label->Set(&TextLabel::Caption, std::to_string(value));
+    }
+}
+
+// A canvas that was painted again and again, only where it said that it changed, beside one that is painted at once.
+TEST_F(EveryKind, IsTheSameWhetherAllIsPaintedOrWhatChanged)
+{
+    constexpr QSize size(720, 250);
+    int number = 0;
+    for (int round = 0; round < 2; ++round) { // plain ones, and others
+        for (const Kind& kind : Kinds()) {
+            Widget& widget = Load(kind);
+            if (auto* gauge = dynamic_cast<ScaleGauge*>(&widget); gauge != nullptr && round == 1) {
+                gauge->Set(&ScaleGauge::PointerSize, 12);
+                gauge->Set(&ScaleGauge::Transparent, true);
+                gauge->Set(&ScaleGauge::PositionMax, 100);
+            }
+            const float side = round == 0 ? 1'575.0F : 905.0F;
+            widget.Move(static_cast<float>(number % 7) * 1'540 + 8, static_cast<float>(number / 7) * 900, side, side);
+            widget.Set(&Widget::Visible, true);
+            ++number;
+        }
+    }
+    for (const qreal scale : {1.0, 1.5, 2.0}) {
+        const auto paint = [&](CanvasPainter& painter, QImage& image, const QRegion& region) {
+            QPainter onImage(&image);
+            onImage.setClipRegion(region);
+            painter.Paint(onImage, size, region, {.isEdited = false});
+        };
+        QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        CanvasPainter again(canvas);
+        paint(again, image, QRect(QPoint(0, 0), size));
+        QRegion changed;
+        const Subscription subscription = canvas.Changed.Subscribe(
+            [&](const Area& area) { changed |= PixelsOf(area).toAlignedRect().adjusted(-1, -1, 1, 1); });
+        for (const double value : {3.0, 50.0, 51.0, 400.0, -3.0, 77.7}) {
+            changed = QRegion();
+            for (Widget* widget = canvas.Back(); widget != nullptr; widget = widget->Above()) {
+                ShowValue(*widget, value);
+            }
+            paint(again, image, changed);
+            QImage whole = image;
+            whole.fill(Qt::red);
+            CanvasPainter atOnce(canvas);
+            paint(atOnce, whole, QRect(QPoint(0, 0), size));
+            ASSERT_EQ(image, whole) << value << " at " << scale;
+        }
+    }
+}
+
+TEST_F(EveryKind, ComesAtOnceForAnySizesAndNumbers)
+{
+    QElapsedTimer time;
+    time.start();
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    auto& dial = static_cast<AngularGauge&>(Load(*FindKind("ctlMeterAngle")));
+    auto& band = static_cast<LinearGauge&>(Load(*FindKind("ctlMeterLinear")));
+    for (const std::int16_t each : std::array<std::int16_t, 7>{-32'768, -1, 0, 1, 40, 500, 32'767}) {
+        for (ScaleGauge* gauge : {static_cast<ScaleGauge*>(&dial), static_cast<ScaleGauge*>(&band)}) {
+            gauge->Set(&ScaleGauge::SectionBandWidth, each);
+            gauge->Set(&ScaleGauge::PointerSize, each);
+            gauge->Set(&ScaleGauge::TickLabelMargin, each);
+            gauge->Set(&ScaleGauge::TickLabelPrecision, each);
+            gauge->Set(&ScaleGauge::Position, each == 40 ? none : 1e308);
+            gauge->Set(&ScaleGauge::PositionMax, each == 0 ? none : 3e38);
+        }
+        dial.Set(&AngularGauge::ArcRadius, each);
+        dial.Set(&AngularGauge::PointerMargin, static_cast<std::int16_t>(-each - 1));
+        dial.Set(&AngularGauge::ShowHub, true);
+        dial.Set(&AngularGauge::HubSize, each);
+        dial.Set(&AngularGauge::ArcRangeDegrees, each);
+        band.Set(&LinearGauge::PointerOffset, each);
+        band.Set(&LinearGauge::EndsMargin, each);
+        for (const QSize& size : {QSize(1, 1), QSize(2, 30), QSize(10, 10), QSize(1'000, 1'000)}) {
+            PictureOf(dial, QRect(QPoint(0, 0), size), size);
+            PictureOf(band, QRect(QPoint(0, 0), size), size);
+        }
+    }
+    EXPECT_LT(time.elapsed(), 10'000);
+}
+
+TEST(KeptPictures, TakeNoMoreThanTheyMayAndForgetWhatWasUsedLeast)
+{
+    Kept<QImage> kept(10 * 400);
+    int drawn = 0;
+    const auto show = [&](int number) {
+        kept.Of(KeyOf(number), [&] { return ++drawn, QImage(10, 10, QImage::Format_RGB32); });
+        EXPECT_LE(kept.Bytes(), 10 * 400);
+    };
+    for (int number = 0; number < 30; ++number) {
+        show(number);
+        show(0);
+    }
+    EXPECT_EQ(drawn, 30);
+    show(1);
+    EXPECT_EQ(drawn, 31);
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 // How all instruments and the marks of the canvas look, against pictures of them that were looked at and kept: no text
 // is on them, since machines have other fonts. QUOR_KEEP_SHEETS=1 keeps them anew.
 
+#include "tests/qt/picture_of.h"
+
 #include "document/kinds.h"
 #include "qt/canvas/canvas_painting.h"
 #include "qt/canvas/marks.h"
-#include "qt/painters/painters.h"
 #include "qt/ports/qt_pictures.h"
 #include "tests/qt/test.h"
 #include "widgets/analog_display.h"
@@ -20,8 +21,6 @@
 #include "widgets/widget_array.h"
 
 #include <QDir>
-#include <QImage>
-#include <QPainter>
 #include <QRegion>
 #include <QTemporaryDir>
 
@@ -29,13 +28,6 @@ namespace {
 
 constexpr QSize sheetSize(430, 284);
 constexpr Color blue{0x00D06030};
-
-using Change = std::function<void(Widget&)>;
-
-template <class W, FixedString Name, class T> Change With(Property<Name, T> W::*property, std::type_identity_t<T> value)
-{
-    return [property, value](Widget& widget) { widget.Set(property, value); };
-}
 
 // Instruments in rows, from left to right.
 class Sheet {
@@ -54,10 +46,10 @@ public:
     const Widget* moved = nullptr;
 
 private:
-    Widget& Add(const char* array, const QSize& size, const std::vector<Change>& changes = {})
+    Widget& Add(const char* array, const QSize& size, const std::vector<Write>& changes = {})
     {
         Widget& widget = canvas.FindArray(array)->Load(++m_count);
-        for (const Change& change : changes) {
+        for (const Write& change : changes) {
             change(widget);
         }
         const auto twips = [](int pixels) { return static_cast<float>(pixels) * twipsPerPixelX; };
@@ -69,7 +61,7 @@ private:
 
     void AddLamps()
     {
-        const Change lit = With(&RoundLed::Active, true);
+        const Write lit = With(&RoundLed::Active, true);
         for (const std::int32_t bevel : {bevels::none, bevels::raised, bevels::lowered}) {
             for (const int size : bevel == bevels::lowered ? std::vector{13, 31, 41} : std::vector{18}) {
                 Add("ctlLEDRound", {size, size}, {With(&RoundLed::BevelStyle, bevel), lit});
@@ -88,7 +80,7 @@ private:
         }
         Add("ctlLEDRect", {41, 21}, {With(&RectLed::Active, true), With(&RectLed::ActiveColor, colors::buttonFace)});
         m_next = {5, 73};
-        const Change noText = With(&SwitchLed::Caption, "");
+        const Write noText = With(&SwitchLed::Caption, "");
         for (std::int32_t side = lamp_sides::bottom; side <= lamp_sides::right; ++side) {
             Add("ctlCmdLED", {47, 33},
                 {noText, With(&SwitchLed::LEDAlignment, side), With(&SwitchLed::Active, side % 2 == 0)});
@@ -105,9 +97,9 @@ private:
         image.setPixelColor(3, 3, Qt::blue);
         image.save(directory.filePath("picture.png"));
         const PictureRef picture = m_pictures.LoadPicture(directory.filePath("picture.png").toStdString());
-        const Change bare = With(&PushButton::Caption, "");
-        const Change isMasked = With(&Panel::PictureUseMaskFlag, true);
-        const Change mask = With(&Panel::PictureMaskColorValue, Color{0x00FF00FF});
+        const Write bare = With(&PushButton::Caption, "");
+        const Write isMasked = With(&Panel::PictureUseMaskFlag, true);
+        const Write mask = With(&Panel::PictureMaskColorValue, Color{0x00FF00FF});
         Add("ctlCommand", {31, 33}, {bare, With(&PushButton::Picture, picture)});
         Add("ctlCommand", {31, 33}, {bare, With(&PushButton::Picture, picture), With(&Widget::Enabled, false)});
         m_next = {5, 110};
@@ -126,7 +118,7 @@ private:
                 {With(&AnalogDisplay::BorderStyle, bevel), With(&AnalogDisplay::ErrorActive, true),
                  With(&AnalogDisplay::ErrorText, "")});
         }
-        const Change noText = With(&TextLabel::Caption, "");
+        const Write noText = With(&TextLabel::Caption, "");
         Add("ctlLabel", {13, 19}, {noText, With(&TextLabel::BackStyle, 0)}); // a ghost
         Add("ctlLabel", {13, 19}, {noText, With(&TextLabel::BackStyle, 1), With(&TextLabel::BackColor, blue)});
         for (const std::int16_t appearance : {std::int16_t{0}, std::int16_t{1}}) {
@@ -136,7 +128,7 @@ private:
     }
 
     // Without numbers, its pointer at so many hundredths of the scale.
-    static Change Plain(double percent)
+    static Write Plain(double percent)
     {
         return [percent](Widget& widget) {
             auto& gauge = static_cast<ScaleGauge&>(widget);
@@ -153,7 +145,7 @@ private:
     void AddBands()
     {
         m_next = {5, 149};
-        const Change standing = With(&LinearGauge::Orientation, orientations::vertical);
+        const Write standing = With(&LinearGauge::Orientation, orientations::vertical);
         for (const double percent : {-5.0, 0.0, 46.0}) {
             const std::int32_t bevel = percent < 0 ? bevels::raised : bevels::none;
             Add("ctlMeterLinear", {27, 130}, {standing, Plain(percent), With(&ScaleGauge::BorderStyle, bevel)});
@@ -229,29 +221,12 @@ QImage Drawn(const Sheet& sheet, qreal scale)
     QImage image((QSizeF(sheetSize) * scale).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
-    PaintCanvas(painter, sheet.canvas, sheetSize, QRect(QPoint(0, 0), sheetSize), {.faded = sheet.moved});
+    CanvasPainter(sheet.canvas).Paint(painter, sheetSize, QRect(QPoint(0, 0), sheetSize), {.faded = sheet.moved});
     DrawOutline(painter, QRectF(404, 235, 21, 17), true);
     DrawOutline(painter, QRectF(403, 256, 21, 17), false);
     painter.end();
     image.setDevicePixelRatio(1);
     return Coarser(image);
-}
-
-// How many pixels are others by more than the eye sees or another compiler rounds.
-int OtherPixels(const QImage& one, const QImage& two)
-{
-    constexpr int most = 12; // of 255
-    int others = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = two.pixel(x, y);
-            const int off =
-                std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
-            others += off > most ? 1 : 0;
-        }
-    }
-    return others;
 }
 
 void ExpectAsKept(const QImage& image, const QString& name)
@@ -261,7 +236,8 @@ void ExpectAsKept(const QImage& image, const QString& name)
         image.save(kept, nullptr, 0); // as small as it gets
     }
     const QImage expected(kept);
-    if (expected.size() == image.size() && OtherPixels(image, expected) <= 8) {
+    constexpr int unseen = 12; // of 255: what the eye doesn't see, and another compiler rounds
+    if (expected.size() == image.size() && OtherPixels(image, expected, unseen) <= 8) {
         return;
     }
     const QString path = QDir::current().filePath(name + ".png");

@@ -29,15 +29,15 @@ const std::string words = "HIH HIH HIH HIH HIH HIH HIH HIH HIH HIH";
 // A setting that is written.
 struct Change {
     std::string name;
-    std::function<void(Widget&)> write;
+    Write write;
 };
 
-template <class W, FixedString Name, class T> Change With(Property<Name, T> W::*property, std::type_identity_t<T> value)
+template <class W, FixedString Name, class T> Change To(Property<Name, T> W::*property, std::type_identity_t<T> value)
 {
-    return {std::string(Property<Name, T>::name), [=](Widget& widget) { widget.Set(property, value); }};
+    return {std::string(Property<Name, T>::name), With(property, std::move(value))};
 }
 
-template <class W, FixedString Name> Change With(Property<Name, Font> W::*property, void (*write)(Font&))
+template <class W, FixedString Name> Change To(Property<Name, Font> W::*property, void (*write)(Font&))
 {
     return {std::string(Property<Name, Font>::name), [=](Widget& widget) {
                 Font font = (static_cast<W&>(widget).*property)();
@@ -121,10 +121,14 @@ protected:
                 change.write(widget);
             }
             const QRectF area(0, 0, widget.Width() / twipsPerPixelX, widget.Height() / twipsPerPixelY);
-            const auto shown = [&] { return PictureOf(widget, area, area.size().toSize()); };
-            const QImage before = shown();
+            const auto shown = [&](const Widget& each) {
+                return PictureOf(each, area, area.size().toSize(), 1, 0xFFFFFFFF, &kept);
+            };
+            const QImage before = shown(widget);
             row.change.write(widget);
-            const QImage after = shown();
+            const QImage after = shown(widget);
+            EXPECT_EQ(OtherPixels(after, shown(*widget.Clone()), 2), 0) // one on no canvas is drawn afresh
+                << array << ": " << row.change.name;
             if (row.effect.what == nullptr) {
                 EXPECT_EQ(after == before, row.effect.least == 0) << array << ": " << row.change.name;
                 continue;
@@ -139,11 +143,11 @@ protected:
     void CheckFont(const char* array, Property<Name, Font> W::*font, const std::vector<Change>& base)
     {
         Check(array, base,
-              {{With(font, [](Font& each) { each.SetBold(true); }), more},
-               {With(font, [](Font& each) { each.Size = 120'000; }), more},
-               {With(font, [](Font& each) { each.Italic = true; }), other},
-               {With(font, [](Font& each) { each.Underline = true; }), down},
-               {With(font, [](Font& each) { each.Strikethrough = true; }), more}});
+              {{To(font, [](Font& each) { each.SetBold(true); }), more},
+               {To(font, [](Font& each) { each.Size = 120'000; }), more},
+               {To(font, [](Font& each) { each.Italic = true; }), other},
+               {To(font, [](Font& each) { each.Underline = true; }), down},
+               {To(font, [](Font& each) { each.Strikethrough = true; }), more}});
     }
 
     void CheckLabel(const char* array);
@@ -153,10 +157,11 @@ protected:
     QTemporaryDir directory;
     PictureRef picture;
     const Change large{"size", [](Widget& widget) { widget.Move(0, 0, 900, 900); }};
-    const Change locked = With(&Widget::Enabled, false);
+    const Change locked = To(&Widget::Enabled, false);
 
 private:
     Canvas canvas;
+    KeptPictures kept;
     std::int32_t m_index = 0;
 };
 
@@ -164,30 +169,30 @@ private:
 TEST_F(Settings, OfARoundLampShow)
 {
     using L = RoundLed;
-    const Change manual = With(&L::AutoInactiveColor, false);
-    Check("ctlLEDRound", {large, With(&L::ActiveColor, pink), With(&L::InactiveColor, grey)},
-        {{With(&L::Active, true), more}, {manual, less}, {With(&L::ShowReflection, false), lowered},
-        {With(&L::BevelStyle, bevels::raised), raised}, {With(&L::BevelStyle, bevels::none), more},
-        {With(&L::Transparent, false), darker}, {With(&L::Tag, "other"), same}});
-    Check("ctlLEDRound", {large, manual}, {{With(&L::InactiveColor, pink), more}});
-    Check("ctlLEDRound", {large}, {{With(&L::InactiveColor, pink), same}});
+    const Change manual = To(&L::AutoInactiveColor, false);
+    Check("ctlLEDRound", {large, To(&L::ActiveColor, pink), To(&L::InactiveColor, grey)},
+        {{To(&L::Active, true), more}, {manual, less}, {To(&L::ShowReflection, false), lowered},
+        {To(&L::BevelStyle, bevels::raised), raised}, {To(&L::BevelStyle, bevels::none), more},
+        {To(&L::Transparent, false), darker}, {To(&L::Tag, "other"), same}});
+    Check("ctlLEDRound", {large, manual}, {{To(&L::InactiveColor, pink), more}});
+    Check("ctlLEDRound", {large}, {{To(&L::InactiveColor, pink), same}});
 }
 
 TEST_F(Settings, OfARectangularLampShow)
 {
     using L = RectLed;
-    const Change manual = With(&L::AutoInactiveColor, false);
-    const std::vector<Change> legend = {With(&L::Caption, "HIH"), With(&L::CaptionOffColor, pink), With(&L::CaptionOnColor, grey)};
-    Check("ctlLEDRect", {With(&L::ActiveColor, pink), With(&L::InactiveColor, grey)}, {{With(&L::Active, true), more},
-        {manual, less}, {With(&L::ShowReflection, false), lowered}, {With(&L::BevelStyle, bevels::raised), raised}});
-    Check("ctlLEDRect", {With(&L::Active, true), With(&L::BevelStyle, bevels::none)},
-        {{With(&L::BevelStyle, bevels::raised), raised}, {With(&L::BevelStyle, bevels::lowered), lowered}});
-    Check("ctlLEDRect", {manual}, {{With(&L::InactiveColor, pink), more}});
-    Check("ctlLEDRect", legend, {{With(&L::Caption, "HIHIH"), more}, {With(&L::Active, true), less},
-        {With(&L::CaptionOffColor, grey), less}, {With(&L::CaptionAlignment, lamp_alignments::right), right},
-        {With(&L::CaptionAlignment, lamp_alignments::left), left}});
-    Check("ctlLEDRect", {large, With(&L::Caption, words), With(&L::CaptionOffColor, pink)},
-        {{With(&L::CaptionWordWrap, true), more}});
+    const Change manual = To(&L::AutoInactiveColor, false);
+    const std::vector<Change> legend = {To(&L::Caption, "HIH"), To(&L::CaptionOffColor, pink), To(&L::CaptionOnColor, grey)};
+    Check("ctlLEDRect", {To(&L::ActiveColor, pink), To(&L::InactiveColor, grey)}, {{To(&L::Active, true), more},
+        {manual, less}, {To(&L::ShowReflection, false), lowered}, {To(&L::BevelStyle, bevels::raised), raised}});
+    Check("ctlLEDRect", {To(&L::Active, true), To(&L::BevelStyle, bevels::none)},
+        {{To(&L::BevelStyle, bevels::raised), raised}, {To(&L::BevelStyle, bevels::lowered), lowered}});
+    Check("ctlLEDRect", {manual}, {{To(&L::InactiveColor, pink), more}});
+    Check("ctlLEDRect", legend, {{To(&L::Caption, "HIHIH"), more}, {To(&L::Active, true), less},
+        {To(&L::CaptionOffColor, grey), less}, {To(&L::CaptionAlignment, lamp_alignments::right), right},
+        {To(&L::CaptionAlignment, lamp_alignments::left), left}});
+    Check("ctlLEDRect", {large, To(&L::Caption, words), To(&L::CaptionOffColor, pink)},
+        {{To(&L::CaptionWordWrap, true), more}});
     CheckFont("ctlLEDRect", &L::CenterLabelFont, legend);
 }
 
@@ -195,21 +200,21 @@ TEST_F(Settings, OfAButtonShow)
 {
     using B = PushButton;
     using S = SwitchLed;
-    const std::vector<Change> caption = {With(&B::Caption, "HIH"), With(&B::ForeColor, pink)};
-    const std::vector<Change> switched = {With(&S::Caption, "HIH"), With(&S::CaptionColor, pink)};
-    Check("ctlCommand", caption, {{With(&B::Caption, "HIHIH"), more}, {With(&B::ForeColor, grey), less},
-        {With(&B::CaptionAlignment, face_places::leftTop), left}, {locked, less}, {With(&B::BackColor, pink), more}});
-    Check("ctlCommand", {large, With(&B::Caption, words), With(&B::ForeColor, pink)},
-        {{With(&B::CaptionWordWrap, 1), more}});
-    Check("ctlCommand", {With(&B::PictureMaskColorValue, pink), With(&B::Picture, picture), With(&B::Caption, "HIH")},
-        {{With(&B::PictureUseMaskFlag, true), less}, {With(&B::ImageAlignment, face_places::rightOfCaption), right},
+    const std::vector<Change> caption = {To(&B::Caption, "HIH"), To(&B::ForeColor, pink)};
+    const std::vector<Change> switched = {To(&S::Caption, "HIH"), To(&S::CaptionColor, pink)};
+    Check("ctlCommand", caption, {{To(&B::Caption, "HIHIH"), more}, {To(&B::ForeColor, grey), less},
+        {To(&B::CaptionAlignment, face_places::leftTop), left}, {locked, less}, {To(&B::BackColor, pink), more}});
+    Check("ctlCommand", {large, To(&B::Caption, words), To(&B::ForeColor, pink)},
+        {{To(&B::CaptionWordWrap, 1), more}});
+    Check("ctlCommand", {To(&B::PictureMaskColorValue, pink), To(&B::Picture, picture), To(&B::Caption, "HIH")},
+        {{To(&B::PictureUseMaskFlag, true), less}, {To(&B::ImageAlignment, face_places::rightOfCaption), right},
         {locked, less}});
     CheckFont("ctlCommand", &B::Font, caption);
-    Check("ctlCmdLED", {With(&S::LEDColor, pink), locked}, {{With(&S::Active, true), more},
-        {With(&S::LEDColor, grey), less}, {With(&S::LEDAlignment, lamp_sides::bottom), down},
-        {With(&S::LEDAlignment, lamp_sides::left), left}, {With(&S::LEDAlignment, lamp_sides::right), right},
-        {Both(With(&S::CaptionMargin, 9), With(&S::BorderSize, 9)), same}});
-    Check("ctlCmdLED", switched, {{With(&S::Caption, "HIHIH"), more}, {With(&S::CaptionColor, grey), less},
+    Check("ctlCmdLED", {To(&S::LEDColor, pink), locked}, {{To(&S::Active, true), more},
+        {To(&S::LEDColor, grey), less}, {To(&S::LEDAlignment, lamp_sides::bottom), down},
+        {To(&S::LEDAlignment, lamp_sides::left), left}, {To(&S::LEDAlignment, lamp_sides::right), right},
+        {Both(To(&S::CaptionMargin, 9), To(&S::BorderSize, 9)), same}});
+    Check("ctlCmdLED", switched, {{To(&S::Caption, "HIHIH"), more}, {To(&S::CaptionColor, grey), less},
         {locked, less}});
     CheckFont("ctlCmdLED", &S::CaptionFont, switched);
 }
@@ -217,35 +222,35 @@ TEST_F(Settings, OfAButtonShow)
 void Settings::CheckLabel(const char* array)
 {
     using T = TextLabel;
-    const std::vector<Change> text = {With(&T::Caption, "HIH"), With(&T::ForeColor, pink)};
-    const Change border = With(&T::BorderStyle, 1);
-    Check(array, text, {{With(&T::Caption, "HIHIH"), more}, {With(&T::ForeColor, grey), less},
-        {With(&T::Alignment, label_alignments::right), right}, {locked, less}});
-    Check(array, {With(&T::BackStyle, 1), With(&T::BackColor, pink), With(&T::Caption, "")},
-        {{With(&T::BackColor, grey), less}, {With(&T::BackStyle, 0), less}, {border, darker},
-        {With(&T::Appearance, 1), same}});
-    Check(array, {border}, {{With(&T::Appearance, 1), lowered}});
-    Check(array, {large, With(&T::Caption, words), With(&T::ForeColor, pink)}, {{With(&T::WordWrap, true), more}});
+    const std::vector<Change> text = {To(&T::Caption, "HIH"), To(&T::ForeColor, pink)};
+    const Change border = To(&T::BorderStyle, 1);
+    Check(array, text, {{To(&T::Caption, "HIHIH"), more}, {To(&T::ForeColor, grey), less},
+        {To(&T::Alignment, label_alignments::right), right}, {locked, less}});
+    Check(array, {To(&T::BackStyle, 1), To(&T::BackColor, pink), To(&T::Caption, "")},
+        {{To(&T::BackColor, grey), less}, {To(&T::BackStyle, 0), less}, {border, darker},
+        {To(&T::Appearance, 1), same}});
+    Check(array, {border}, {{To(&T::Appearance, 1), lowered}});
+    Check(array, {large, To(&T::Caption, words), To(&T::ForeColor, pink)}, {{To(&T::WordWrap, true), more}});
     CheckFont(array, &T::Font, text);
 }
 
 void Settings::CheckPanel(const char* array)
 {
     using P = Panel;
-    const Change mask = With(&P::PictureMaskColorValue, pink);
-    const std::vector<Change> caption = {With(&P::Caption, "HIH"), With(&P::ForeColor, pink)};
-    Check(array, caption, {{With(&P::Caption, "HIHIH"), more}, {With(&P::ForeColor, grey), less},
-        {With(&P::CaptionAlignment, face_places::leftTop), left},
-        {With(&P::CaptionAlignment, face_places::centerBottom), down},
-        {With(&P::BevelStyle, panel_bevels::lowered), lowered}, {With(&P::BevelStyle, panel_bevels::none), lowered},
-        {With(&P::BackColor, pink), more}});
-    Check(array, {With(&P::Caption, words), With(&P::ForeColor, pink)}, {{With(&P::CaptionWordWrap, 1), more}});
-    Check(array, {mask, With(&P::Picture, picture)}, {{With(&P::PictureUseMaskFlag, true), less},
-        {With(&P::ImageAlignment, face_places::leftTop), left},
-        {With(&P::ImageAlignment, face_places::centerBottom), down}});
-    Check(array, {mask, With(&P::PanelPicture, picture)}, {{With(&P::PictureUseMaskFlag, true), less},
-        {With(&P::PictureFillModeCode, fill_modes::stretched), more},
-        {With(&P::PictureFillModeCode, fill_modes::tiled), more}});
+    const Change mask = To(&P::PictureMaskColorValue, pink);
+    const std::vector<Change> caption = {To(&P::Caption, "HIH"), To(&P::ForeColor, pink)};
+    Check(array, caption, {{To(&P::Caption, "HIHIH"), more}, {To(&P::ForeColor, grey), less},
+        {To(&P::CaptionAlignment, face_places::leftTop), left},
+        {To(&P::CaptionAlignment, face_places::centerBottom), down},
+        {To(&P::BevelStyle, panel_bevels::lowered), lowered}, {To(&P::BevelStyle, panel_bevels::none), lowered},
+        {To(&P::BackColor, pink), more}});
+    Check(array, {To(&P::Caption, words), To(&P::ForeColor, pink)}, {{To(&P::CaptionWordWrap, 1), more}});
+    Check(array, {mask, To(&P::Picture, picture)}, {{To(&P::PictureUseMaskFlag, true), less},
+        {To(&P::ImageAlignment, face_places::leftTop), left},
+        {To(&P::ImageAlignment, face_places::centerBottom), down}});
+    Check(array, {mask, To(&P::PanelPicture, picture)}, {{To(&P::PictureUseMaskFlag, true), less},
+        {To(&P::PictureFillModeCode, fill_modes::stretched), more},
+        {To(&P::PictureFillModeCode, fill_modes::tiled), more}});
     CheckFont(array, &P::Font, caption);
 }
 
@@ -264,73 +269,73 @@ void Settings::CheckScale(const char* array)
         widget.Set(&G::PositionMax, 100), widget.Set(&G::SectionEnd1, 20), widget.Set(&G::SectionEnd2, 40);
         widget.Set(&G::SectionEnd3, 60), widget.Set(&G::SectionEnd4, 80);
     }};
-    const Change noPointer = Both(percent, With(&G::PointerSize, 0));
-    const Change seven = Both(With(&G::TickMajorCount, 7), With(&G::TickMinorCount, 7));
-    const std::vector<Change> numbers = {percent, With(&G::TickLabelColorValue, pink)};
-    Check(array, {percent, With(&G::PointerColor, pink), With(&G::Position, 50)}, {{With(&G::Position, 90), right},
-        {With(&G::PositionMax, 200), left}, {With(&G::PositionMin, -100), right}, {With(&G::PointerSize, 16), more},
-        {With(&G::PointerColor, grey), less}});
-    Check(array, numbers, {{With(&G::TickValuesVisible, false), less}, {With(&G::TickLabelPrecision, 2), more},
-        {With(&G::TickLabelMargin, 6), down}, {With(&G::PositionMax, 1'000), more},
-        {With(&G::TickLabelColorValue, grey), less},
-        {Both(seven, Both(With(&G::ShowTicksMajor, true), With(&G::ShowTicksMinor, true))), same}});
+    const Change noPointer = Both(percent, To(&G::PointerSize, 0));
+    const Change seven = Both(To(&G::TickMajorCount, 7), To(&G::TickMinorCount, 7));
+    const std::vector<Change> numbers = {percent, To(&G::TickLabelColorValue, pink)};
+    Check(array, {percent, To(&G::PointerColor, pink), To(&G::Position, 50)}, {{To(&G::Position, 90), right},
+        {To(&G::PositionMax, 200), left}, {To(&G::PositionMin, -100), right}, {To(&G::PointerSize, 16), more},
+        {To(&G::PointerColor, grey), less}});
+    Check(array, numbers, {{To(&G::TickValuesVisible, false), less}, {To(&G::TickLabelPrecision, 2), more},
+        {To(&G::TickLabelMargin, 6), down}, {To(&G::PositionMax, 1'000), more},
+        {To(&G::TickLabelColorValue, grey), less},
+        {Both(seven, Both(To(&G::ShowTicksMajor, true), To(&G::ShowTicksMinor, true))), same}});
     CheckFont(array, &G::TickLabelFont, numbers);
-    Check(array, {noPointer, With(&G::SectionColor1, pink)}, {{With(&G::SectionBandWidth, 24), more},
-        {With(&G::SectionBandWidth, 1), less}, {With(&G::SectionEnd1, 35), more},
-        {With(&G::ReverseScaleFlag, true), right}, {With(&G::SectionCount, 1), more},
-        {Both(With(&G::SectionColor1, grey), With(&G::SectionColor2, pink)), right}});
-    Check(array, {noPointer, With(&G::SectionColor2, pink)}, {{With(&G::SectionEnd2, 55), right},
-        {Both(With(&G::SectionColor2, grey), With(&G::SectionColor3, pink)), right}});
-    Check(array, {noPointer, With(&G::SectionColor3, pink)}, {{With(&G::SectionEnd3, 75), right},
-        {Both(With(&G::SectionColor3, grey), With(&G::SectionColor4, pink)), right}});
-    Check(array, {noPointer, With(&G::SectionColor4, pink)}, {{With(&G::SectionEnd4, 95), right},
-        {With(&G::SectionColor4, grey), less}});
-    Check(array, {noPointer, With(&G::SectionColor5, pink)}, {{With(&G::SectionEnd4, 95), less}});
-    Check(array, {With(&G::BackGroundColor, pink), With(&G::BorderStyle, bevels::none)},
-        {{With(&G::Transparent, true), less}, {With(&G::BackGroundColor, grey), less},
-        {With(&G::BorderStyle, bevels::raised), raised}, {With(&G::BorderStyle, bevels::lowered), lowered}});
+    Check(array, {noPointer, To(&G::SectionColor1, pink)}, {{To(&G::SectionBandWidth, 24), more},
+        {To(&G::SectionBandWidth, 1), less}, {To(&G::SectionEnd1, 35), more},
+        {To(&G::ReverseScaleFlag, true), right}, {To(&G::SectionCount, 1), more},
+        {Both(To(&G::SectionColor1, grey), To(&G::SectionColor2, pink)), right}});
+    Check(array, {noPointer, To(&G::SectionColor2, pink)}, {{To(&G::SectionEnd2, 55), right},
+        {Both(To(&G::SectionColor2, grey), To(&G::SectionColor3, pink)), right}});
+    Check(array, {noPointer, To(&G::SectionColor3, pink)}, {{To(&G::SectionEnd3, 75), right},
+        {Both(To(&G::SectionColor3, grey), To(&G::SectionColor4, pink)), right}});
+    Check(array, {noPointer, To(&G::SectionColor4, pink)}, {{To(&G::SectionEnd4, 95), right},
+        {To(&G::SectionColor4, grey), less}});
+    Check(array, {noPointer, To(&G::SectionColor5, pink)}, {{To(&G::SectionEnd4, 95), less}});
+    Check(array, {To(&G::BackGroundColor, pink), To(&G::BorderStyle, bevels::none)},
+        {{To(&G::Transparent, true), less}, {To(&G::BackGroundColor, grey), less},
+        {To(&G::BorderStyle, bevels::raised), raised}, {To(&G::BorderStyle, bevels::lowered), lowered}});
 }
 
 TEST_F(Settings, OfADialShow)
 {
     using A = AngularGauge;
     CheckScale("ctlMeterAngle");
-    Check("ctlMeterAngle", {With(&A::HubColor, pink), With(&A::ShowHub, true)}, {{With(&A::HubSize, 30), more},
-        {With(&A::HubColor, grey), less}, {With(&A::ShowHub, false), less}, {With(&A::PointerColor, pink), outwards}});
+    Check("ctlMeterAngle", {To(&A::HubColor, pink), To(&A::ShowHub, true)}, {{To(&A::HubSize, 30), more},
+        {To(&A::HubColor, grey), less}, {To(&A::ShowHub, false), less}, {To(&A::PointerColor, pink), outwards}});
     Check("ctlMeterAngle",
-        {With(&A::TickLabelColorValue, pink), With(&A::TickValuesVisible, false), With(&A::ShowOuterArcRadius, false)},
-        {{With(&A::ShowInnerArcRadius, true), more}, {With(&A::ShowOuterArcRadius, true), more}});
+        {To(&A::TickLabelColorValue, pink), To(&A::TickValuesVisible, false), To(&A::ShowOuterArcRadius, false)},
+        {{To(&A::ShowInnerArcRadius, true), more}, {To(&A::ShowOuterArcRadius, true), more}});
     Check("ctlMeterAngle",
-        {With(&A::TickLabelColorValue, pink), With(&A::TickValuesVisible, false), With(&A::ShowOuterArcRadius, true)},
-        {{With(&A::ShowInnerArcRadius, true), inwards}});
-    Check("ctlMeterAngle", {With(&A::SectionColor1, pink), With(&A::PointerSize, 0)},
-        {{With(&A::ArcStartDegrees, 180), up}, {With(&A::ArcRangeDegrees, 180), less}, {With(&A::OffsetX, 9), right},
-        {With(&A::OffsetY, 9), down}, {With(&A::ArcRadius, 48), outwards}});
-    Check("ctlMeterAngle", {With(&A::PointerColor, pink), With(&A::Position, 50)},
-        {{With(&A::PointerStyleCode, pointer_styles::arrow), inwards},
-        {With(&A::PointerStyleCode, pointer_styles::triangle), outwards}, {With(&A::PointerMargin, 12), inwards},
-        {Both(With(&A::CurrentMax, 3), With(&A::CurrentMin, 3)), same},
-        {Both(With(&A::PanelFaceStyle, 2), With(&A::TickMargin, 4)), same},
-        {Both(With(&A::TickMajorLength, 9), With(&A::TickMinorLength, 9)), same},
-        {With(&A::TickMinorAlignment, tick_alignments::inside), same}});
+        {To(&A::TickLabelColorValue, pink), To(&A::TickValuesVisible, false), To(&A::ShowOuterArcRadius, true)},
+        {{To(&A::ShowInnerArcRadius, true), inwards}});
+    Check("ctlMeterAngle", {To(&A::SectionColor1, pink), To(&A::PointerSize, 0)},
+        {{To(&A::ArcStartDegrees, 180), up}, {To(&A::ArcRangeDegrees, 180), less}, {To(&A::OffsetX, 9), right},
+        {To(&A::OffsetY, 9), down}, {To(&A::ArcRadius, 48), outwards}});
+    Check("ctlMeterAngle", {To(&A::PointerColor, pink), To(&A::Position, 50)},
+        {{To(&A::PointerStyleCode, pointer_styles::arrow), inwards},
+        {To(&A::PointerStyleCode, pointer_styles::triangle), outwards}, {To(&A::PointerMargin, 12), inwards},
+        {Both(To(&A::CurrentMax, 3), To(&A::CurrentMin, 3)), same},
+        {Both(To(&A::PanelFaceStyle, 2), To(&A::TickMargin, 4)), same},
+        {Both(To(&A::TickMajorLength, 9), To(&A::TickMinorLength, 9)), same},
+        {To(&A::TickMinorAlignment, tick_alignments::inside), same}});
 }
 
 TEST_F(Settings, OfABandOrANumberShow)
 {
     using L = LinearGauge;
     using N = AnalogDisplay;
-    const std::vector<Change> number = {With(&N::FontColor, pink), With(&N::DisplayValue, 11), With(&N::Alignment, number_alignments::center)};
+    const std::vector<Change> number = {To(&N::FontColor, pink), To(&N::DisplayValue, 11), To(&N::Alignment, number_alignments::center)};
     CheckScale("ctlMeterLinear");
-    Check("ctlMeterLinear", {With(&L::PointerColor, pink), With(&L::Position, 50)}, {{With(&L::PointerOffset, 8), up},
-        {With(&L::ShowTicksAxis, true), same}});
-    Check("ctlMeterLinear", {With(&L::TickLabelColorValue, pink)},
-        {{With(&L::TickLocation, tick_locations::topLeft), up}});
-    Check("ctlMeterLinear", {With(&L::SectionColor1, pink)}, {{With(&L::EndsMargin, 40), less}});
-    Check("ctlMeterText", number, {{With(&N::DisplayValue, 1'111), more}, {With(&N::DisplayPrecision, 4), more},
-        {With(&N::Alignment, number_alignments::left), left}, {With(&N::Alignment, number_alignments::right), right},
-        {With(&N::FontColor, grey), less}, {With(&N::BackGroundColor, pink), more},
-        {With(&N::BorderStyle, bevels::raised), raised}, {With(&N::BorderStyle, bevels::none), lighter},
-        {With(&N::ErrorActive, true), other}, {With(&N::ErrorText, "none at all"), same}});
+    Check("ctlMeterLinear", {To(&L::PointerColor, pink), To(&L::Position, 50)}, {{To(&L::PointerOffset, 8), up},
+        {To(&L::ShowTicksAxis, true), same}});
+    Check("ctlMeterLinear", {To(&L::TickLabelColorValue, pink)},
+        {{To(&L::TickLocation, tick_locations::topLeft), up}});
+    Check("ctlMeterLinear", {To(&L::SectionColor1, pink)}, {{To(&L::EndsMargin, 40), less}});
+    Check("ctlMeterText", number, {{To(&N::DisplayValue, 1'111), more}, {To(&N::DisplayPrecision, 4), more},
+        {To(&N::Alignment, number_alignments::left), left}, {To(&N::Alignment, number_alignments::right), right},
+        {To(&N::FontColor, grey), less}, {To(&N::BackGroundColor, pink), more},
+        {To(&N::BorderStyle, bevels::raised), raised}, {To(&N::BorderStyle, bevels::none), lighter},
+        {To(&N::ErrorActive, true), other}, {To(&N::ErrorText, "none at all"), same}});
     CheckFont("ctlMeterText", &N::Font, number);
 }
 // clang-format on

@@ -88,7 +88,8 @@ public:
         QPainter painter(&image);
         painter.scale(scale, scale); // the image's own ratio can't be below 1
         const QRect all(QPoint(0, 0), size);
-        PaintCanvas(painter, canvas, size, all.adjusted(0, 0, 1, 1), {.isEdited = false}); // the size may be rounded up
+        CanvasPainter(canvas).Paint(painter, size, all.adjusted(0, 0, 1, 1),
+                                    {.isEdited = false}); // the size may be rounded up
         painter.end();
         QBuffer file;
         file.open(QIODevice::WriteOnly);

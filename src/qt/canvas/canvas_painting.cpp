@@ -95,19 +95,24 @@ void PaintGrid(QPainter& painter, const Canvas& canvas, const QRectF& dirty)
     PaintGridLines(painter, dirty, Qt::Vertical, VerticalLines(grid), origin);
 }
 
-void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area, const CanvasLook& look)
+Area TwipsOf(const QRect& pixels)
 {
-    const WidgetPainter paint = PainterFor(widget.Name());
-    if (paint != nullptr) {
-        paint(painter, widget, area);
-    }
-    if (look.isEdited && (paint == nullptr || PaintsNothing(widget))) {
+    return {static_cast<float>(pixels.x()) * twipsPerPixelX, static_cast<float>(pixels.y()) * twipsPerPixelY,
+            static_cast<float>(pixels.width()) * twipsPerPixelX, static_cast<float>(pixels.height()) * twipsPerPixelY};
+}
+
+} // namespace
+
+void CanvasPainter::PaintElement(QPainter& painter, const Widget& widget, const QRectF& area, const CanvasLook& look)
+{
+    PaintWidget(painter, widget, area, m_kept);
+    if (look.isEdited && PaintsNothing(widget)) {
         DrawGhost(painter, area);
     }
 }
 
 // As one picture, so that what lies under a part of the widget doesn't show through it.
-void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, const QRect& visible)
+void CanvasPainter::PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, const QRect& visible)
 {
     const QRect part = area.toAlignedRect().adjusted(-1, -1, 1, 1).intersected(visible);
     const qreal scale = painter.device()->devicePixelRatioF();
@@ -116,26 +121,20 @@ void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, con
     picture.fill(Qt::transparent);
     QPainter inner(&picture);
     inner.translate(-part.topLeft());
-    PaintWidget(inner, widget, area, {});
+    PaintWidget(inner, widget, area, m_kept);
     inner.end();
     painter.setOpacity(movedOpacity);
     painter.drawImage(part.topLeft(), picture);
     painter.setOpacity(1);
 }
 
-Area TwipsOf(const QRect& pixels)
-{
-    return {static_cast<float>(pixels.x()) * twipsPerPixelX, static_cast<float>(pixels.y()) * twipsPerPixelY,
-            static_cast<float>(pixels.width()) * twipsPerPixelX, static_cast<float>(pixels.height()) * twipsPerPixelY};
-}
-
-std::size_t PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& view, const QRegion& region,
-                         const CanvasLook& look)
+std::size_t CanvasPainter::PaintWidgets(QPainter& painter, const QRect& view, const QRegion& region,
+                                        const CanvasLook& look)
 {
     std::size_t painted = 0;
     const auto margin = static_cast<int>(std::ceil(1 / std::min<qreal>(1, painter.deviceTransform().m11())));
     const Area dirty = TwipsOf(region.boundingRect().adjusted(-2 * margin, -2 * margin, 2 * margin, 2 * margin));
-    for (const Widget* widget = canvas.Back(); widget != nullptr; widget = widget->Above()) {
+    for (const Widget* widget = m_canvas.Back(); widget != nullptr; widget = widget->Above()) {
         if (!widget->Visible() || !Overlap(widget->Bounds(), dirty)) {
             continue;
         }
@@ -147,23 +146,20 @@ std::size_t PaintWidgets(QPainter& painter, const Canvas& canvas, const QRect& v
         if (widget == look.faded) {
             PaintFaded(painter, *widget, area, view);
         } else {
-            PaintWidget(painter, *widget, area, look);
+            PaintElement(painter, *widget, area, look);
         }
     }
     return painted;
 }
 
-} // namespace
-
-std::size_t PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
-                        const CanvasLook& look)
+std::size_t CanvasPainter::Paint(QPainter& painter, const QSize& view, const QRegion& region, const CanvasLook& look)
 {
     const QRect dirty = region.boundingRect();
-    PaintGround(painter, canvas, view, dirty);
-    PaintGrid(painter, canvas, dirty);
-    const std::size_t painted = PaintWidgets(painter, canvas, QRect(QPoint(0, 0), view), region, look);
+    PaintGround(painter, m_canvas, view, dirty);
+    PaintGrid(painter, m_canvas, dirty);
+    const std::size_t painted = PaintWidgets(painter, QRect(QPoint(0, 0), view), region, look);
     if (look.isEdited) {
-        DrawSelection(painter, canvas);
+        DrawSelection(painter, m_canvas);
     }
     return painted;
 }

@@ -1,6 +1,8 @@
 #pragma once
 // Draws the canvas: ground, pictures, grid, the widgets from back to front, and the marks of the selection.
 
+#include "qt/painters/kept_pictures.h"
+
 #include <cstddef>
 
 class QPainter;
@@ -18,8 +20,21 @@ struct CanvasLook {
     bool isEdited = true;          // with the marks of the editor
 };
 
-// Only what lies in the region, which is in pixels of the view. Says how many widgets were drawn.
-std::size_t PaintCanvas(QPainter& painter, const Canvas& canvas, const QSize& view, const QRegion& region,
-                        const CanvasLook& look);
+class CanvasPainter {
+public:
+    // The canvas outlives it.
+    explicit CanvasPainter(const Canvas& canvas) : m_canvas(canvas) {}
+
+    // Only what lies in the region, which is in pixels of the view. Says how many widgets were drawn.
+    std::size_t Paint(QPainter& painter, const QSize& view, const QRegion& region, const CanvasLook& look);
+
+private:
+    void PaintElement(QPainter& painter, const Widget& widget, const QRectF& area, const CanvasLook& look);
+    void PaintFaded(QPainter& painter, const Widget& widget, const QRectF& area, const QRect& visible);
+    std::size_t PaintWidgets(QPainter& painter, const QRect& view, const QRegion& region, const CanvasLook& look);
+
+    const Canvas& m_canvas;
+    KeptPictures m_kept;
+};
 
 } // namespace quor

@@ -1,9 +1,7 @@
-#include "qt/painters/analog_display_painter.h"
-
-#include "qt/drawing/device_space.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/gauge_painting.h"
 #include "qt/painters/text_block.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/analog_display.h"
 #include "widgets/gauge_scale.h"
@@ -17,13 +15,6 @@ namespace quor {
 namespace {
 
 constexpr qreal blank = 3; // pixels beside the number
-
-TextSide SideOf(std::int32_t alignment)
-{
-    return alignment == number_alignments::left    ? TextSide::Left
-           : alignment == number_alignments::right ? TextSide::Right
-                                                   : TextSide::Center;
-}
 
 // What it shows, as far as it fits in the room in device-independent pixels: a part of a number would be another
 // number.
@@ -45,9 +36,8 @@ std::string TextIn(const QPainter& painter, const AnalogDisplay& display, qreal 
 
 } // namespace
 
-void PaintAnalogDisplay(QPainter& painter, const AnalogDisplay& display, const QRectF& area)
+void PaintAnalogDisplay(QPainter& painter, const AnalogDisplay& display, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
     const EdgeStyle edge = EdgeOf(display.BorderStyle());
     const QColor ground = ToQt(Resolve(display.BackGroundColor()));
     painter.fillRect(space.Area(), ground);
@@ -62,7 +52,8 @@ void PaintAnalogDisplay(QPainter& painter, const AnalogDisplay& display, const Q
     const TextBlock text(painter, TextIn(painter, display, std::max<qreal>(space.Size().width() - 2 * kept, 0)),
                          display.Font(), space.Scale(), std::nullopt);
     text.Draw(painter, room.left(), room.right(), text.MiddleBaseline(space.Area().top(), space.Area().height()),
-              SideOf(display.Alignment()), ToQt(Resolve(display.FontColor())));
+              SideOf(display.Alignment(), number_alignments::left, number_alignments::right),
+              ToQt(Resolve(display.FontColor())));
 }
 
 } // namespace quor

@@ -1,15 +1,13 @@
-#include "qt/painters/angular_gauge_painter.h"
-
-#include "qt/drawing/device_space.h"
 #include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/gauge_painting.h"
-#include "qt/painters/smooth_fills.h"
+#include "qt/painters/polygons.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/angular_gauge.h"
+#include "widgets/arc_layout.h"
+#include "widgets/gauge_scale.h"
 
 #include <QLinearGradient>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -35,21 +33,12 @@ struct Dial {
     }
 };
 
-QRectF Box(const Extent& extent, const QPointF& origin)
+void FillRing(QPainter& painter, const Dial& dial, const RingPart& part, const QColor& color)
 {
-    return {origin + QPointF(extent.left, extent.top), origin + QPointF(extent.right, extent.bottom)};
+    FillPolygon(painter, RingPolygon(dial.arc, part), dial.origin, color);
 }
 
-void FillRing(SmoothFills& fills, const Dial& dial, const RingPart& part, const QColor& color)
-{
-    const std::vector<Point> polygon = RingPolygon(dial.arc, part);
-    if (!polygon.empty()) {
-        fills.Trace(polygon, dial.origin);
-        fills.Fill(color);
-    }
-}
-
-void PaintSections(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
+void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
 {
     const ArcLayout& arc = dial.arc;
     const std::vector<SectionRun> runs = SectionRuns(gauge);
@@ -59,7 +48,7 @@ void PaintSections(SmoothFills& fills, const Dial& dial, const AngularGauge& gau
                       arc.radius,   i == 0 ? 0 : half, i + 1 == runs.size() ? 0 : half};
         const QColor color = ToQt(Resolve(runs[i].color));
         const bool isMuted = runs[i].color == colors::buttonFace; // it has to show on its own grey
-        FillRing(fills, dial, part, isMuted ? Darker(color, 0.38) : color);
+        FillRing(painter, dial, part, isMuted ? Darker(color, 0.38) : color);
         if (isMuted) {
             part = {part.from,
                     part.to,
@@ -67,34 +56,21 @@ void PaintSections(SmoothFills& fills, const Dial& dial, const AngularGauge& gau
                     part.outer - dial.line,
                     part.offFrom + dial.line,
                     part.offTo + dial.line};
-            FillRing(fills, dial, part, color);
+            FillRing(painter, dial, part, color);
         }
     }
 }
 
-void PaintArcs(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
+void PaintArcs(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
 {
-    QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
-    color.setAlphaF(0.7F);
+    const QColor color = WithAlpha(ToQt(Resolve(gauge.TickLabelColorValue())), 0.7);
     const ArcLayout& arc = dial.arc;
     if (gauge.ShowOuterArcRadius()) {
-        FillRing(fills, dial, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}, color);
+        FillRing(painter, dial, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}, color);
     }
     if (gauge.ShowInnerArcRadius()) {
-        FillRing(fills, dial, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}, color);
+        FillRing(painter, dial, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}, color);
     }
-}
-
-void PaintRings(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
-{
-    const std::vector<Point> all = RingPolygon(dial.arc, {0, 1, 0, dial.arc.radius + 2 * dial.line, 0, 0});
-    if (all.empty()) {
-        return;
-    }
-    SmoothFills fills(painter, Box(BoundsOf(all), dial.origin), dial.inside);
-    PaintSections(fills, dial, gauge);
-    PaintArcs(fills, dial, gauge);
-    fills.Draw();
 }
 
 qreal DigitHeight(const LaidNumbers& numbers)
@@ -139,21 +115,25 @@ void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge
     const QColor color = ToQt(Resolve(gauge.PointerColor()));
     const Outline outline = PointerOutline(gauge, dial.arc);
     const PointerRelief relief = ReliefOf(dial.arc);
-    SmoothFills fills(painter, Box(PointerBounds(outline, dial.arc), dial.origin), dial.inside);
-    fills.Trace(outline.Grown(relief.halo).Points(), dial.origin);
-    fills.Fill(isLight ? BlackAt(0.55) : WhiteAt(0.55));
-    fills.Trace(outline.Points(), dial.origin);
+    const Extent bounds = PointerBounds(outline, dial.arc);
+    const QRectF box(dial.origin + QPointF(bounds.left, bounds.top),
+                     dial.origin + QPointF(bounds.right, bounds.bottom));
+    painter.save();
+    if (!dial.inside.contains(box)) {
+        painter.setClipRect(dial.inside, Qt::IntersectClip);
+    }
+    FillPolygon(painter, outline.Grown(relief.halo).Points(), dial.origin, isLight ? BlackAt(0.55) : WhiteAt(0.55));
     for (const auto& shadow : relief.shadows) {
         if (shadow.opacity > 0) {
-            fills.Fill(BlackAt(shadow.opacity), QPointF(shadow.x, shadow.y).toPoint());
+            const QPointF fall = QPointF(shadow.x, shadow.y).toPoint();
+            FillPolygon(painter, outline.Points(), dial.origin + fall, BlackAt(shadow.opacity));
         }
     }
-    fills.Fill(color);
+    FillPolygon(painter, outline.Points(), dial.origin, color);
     if (gauge.PointerSize() >= shadedSize) {
-        fills.Trace(LitHalf(gauge, dial.arc).Points(), dial.origin);
-        fills.Fill(WhiteAt(isLight ? 0.34 : 0.18));
+        FillPolygon(painter, LitHalf(gauge, dial.arc).Points(), dial.origin, WhiteAt(isLight ? 0.34 : 0.18));
     }
-    fills.Draw();
+    painter.restore();
 }
 
 void PaintHub(QPainter& painter, const QRectF& disc, const ArcLayout& arc, qreal line, const QColor& color)
@@ -194,66 +174,54 @@ QRectF HubDisc(const Dial& dial, const AngularGauge& gauge)
 }
 
 // A picture of the hub, and where it lies, unless it would be too large.
-void KeepHub(AngularStill& still, const AngularGauge& gauge, qreal line)
+void KeepHub(DialFace& face, const AngularGauge& gauge, qreal line)
 {
     constexpr qint64 mostPixels = qint64{1} << 20;
-    const QRectF disc = HubDisc({still.arc, {}, {}, line}, gauge);
-    const qreal reach = std::ceil(3 * still.arc.scale); // of the shadow
+    const QRectF disc = HubDisc({face.arc, {}, {}, line}, gauge);
+    const qreal reach = std::ceil(3 * face.arc.scale); // of the shadow
     const QRect box = disc.adjusted(-1, -1, reach, reach).toAlignedRect();
     if (disc.isEmpty() || qint64{box.width()} * box.height() > mostPixels) {
         return;
     }
-    still.hub = QImage(box.size(), QImage::Format_ARGB32_Premultiplied);
-    still.hub.fill(Qt::transparent);
-    still.hubPlace = box.topLeft();
-    QPainter painter(&still.hub);
-    PaintHub(painter, disc.translated(-still.hubPlace), still.arc, line, ToQt(Resolve(gauge.HubColor())));
+    face.hub = PictureOf(
+        box, [&](QPainter& painter) { PaintHub(painter, disc, face.arc, line, ToQt(Resolve(gauge.HubColor()))); });
+    face.hubPlace = box.topLeft();
 }
 
 } // namespace
 
-AngularStill DrawAngularFace(QPainter& painter, const AngularGauge& gauge, const QRectF& area)
+DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const DeviceSpace& space)
 {
-    const DeviceSpace space(painter, area);
     PaintGround(painter, space, gauge);
     const QRectF inside = InsideEdge(space, EdgeOf(gauge));
     painter.setClipRect(inside, Qt::IntersectClip);
-    AngularStill still;
-    still.arc = ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale());
-    still.isPointerLight = IsLight(ToQt(Resolve(gauge.PointerColor())));
-    const Dial dial{still.arc, space.Area().topLeft(), inside, space.Line(1)};
-    PaintRings(painter, dial, gauge);
-    PaintNumbers(painter, space, still.arc, gauge);
-    KeepHub(still, gauge, space.Line(1));
-    return still;
+    DialFace face;
+    face.arc = ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale());
+    face.isPointerLight = IsLight(ToQt(Resolve(gauge.PointerColor())));
+    const Dial dial{face.arc, space.Area().topLeft(), inside, space.Line(1)};
+    PaintSections(painter, dial, gauge);
+    PaintArcs(painter, dial, gauge);
+    PaintNumbers(painter, space, face.arc, gauge);
+    KeepHub(face, gauge, space.Line(1));
+    return face;
 }
 
-FaceCache<AngularGauge, AngularStill>& AngularFaces()
+void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const WidgetSpace& space)
 {
-    static FaceCache<AngularGauge, AngularStill> faces(DrawAngularFace);
-    return faces;
-}
-
-void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const QRectF& area)
-{
-    const DeviceSpace space(painter, area);
-    if (space.Area().width() < 1 || space.Area().height() < 1) {
-        return;
-    }
-    const AngularStill still = AngularFaces().Paint(painter, space, gauge, !gauge.Transparent());
-    const Dial dial{still.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
-    PaintPointer(painter, dial, gauge, still.isPointerLight);
-    if (still.hub.isNull()) {
+    const DialFace face = PaintFace(painter, gauge, space, space.Pictures().dials, DrawDialFace);
+    const Dial dial{face.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
+    PaintPointer(painter, dial, gauge, face.isPointerLight);
+    if (face.hub.isNull()) {
         if (const QRectF disc = HubDisc(dial, gauge); !disc.isEmpty()) {
             painter.setClipRect(dial.inside, Qt::IntersectClip);
-            PaintHub(painter, disc, still.arc, dial.line, ToQt(Resolve(gauge.HubColor())));
+            PaintHub(painter, disc, face.arc, dial.line, ToQt(Resolve(gauge.HubColor())));
         }
     } else {
-        const QPointF place = dial.origin + still.hubPlace;
-        if (!dial.inside.contains(QRectF(place, still.hub.size()))) {
+        const QPointF place = dial.origin + face.hubPlace;
+        if (!dial.inside.contains(QRectF(place, face.hub.size()))) {
             painter.setClipRect(dial.inside, Qt::IntersectClip);
         }
-        painter.drawImage(place, still.hub);
+        painter.drawImage(place, face.hub);
     }
 }
 

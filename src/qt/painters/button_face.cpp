@@ -1,9 +1,9 @@
 #include "qt/painters/button_face.h"
 
 #include "qt/drawing/boxes.h"
-#include "qt/drawing/device_space.h"
 #include "qt/drawing/mixing.h"
-#include "qt/painters/kept_picture.h"
+
+#include "qt/painters/widget_painters.h"
 
 #include <QLinearGradient>
 
@@ -38,22 +38,17 @@ void PaintAfresh(QPainter& painter, const DeviceSpace& space, const QColor& colo
 
 } // namespace
 
-void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled)
+void PaintButtonFace(QPainter& painter, const WidgetSpace& space, const QColor& color, bool isEnabled)
 {
     const QRectF& box = space.Area();
-    if (box.isEmpty()) {
-        return;
-    }
-    PictureKey key(QLatin1StringView("button face"));
-    key << box.width() << box.height() << space.Scale() << color << isEnabled;
-    DrawKept(painter, box.toRect(), key, [&](QPainter& onPicture) { PaintAfresh(onPicture, space, color, isEnabled); });
+    const auto key = KeyOf(Shape::ButtonFace, box.width(), box.height(), space.Scale(), color.rgba(), isEnabled);
+    DrawKept(painter, space.Pictures().shapes, box.toRect(), key,
+             [&](QPainter& onPicture) { PaintAfresh(onPicture, space, color, isEnabled); });
 }
 
 QColor CaptionColorOn(const QColor& color, bool isEnabled)
 {
-    QColor shown = color;
-    shown.setAlphaF(static_cast<float>(isEnabled ? 1 : disabledOpacity));
-    return shown;
+    return WithAlpha(color, isEnabled ? 1 : disabledOpacity);
 }
 
 } // namespace quor

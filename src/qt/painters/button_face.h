@@ -7,9 +7,9 @@ class QPainter;
 
 namespace quor {
 
-class DeviceSpace;
+class WidgetSpace;
 
-void PaintButtonFace(QPainter& painter, const DeviceSpace& space, const QColor& color, bool isEnabled);
+void PaintButtonFace(QPainter& painter, const WidgetSpace& space, const QColor& color, bool isEnabled);
 
 // Of what stands on a locked button.
 inline constexpr qreal disabledOpacity = 0.4;

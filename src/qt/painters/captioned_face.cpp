@@ -10,19 +10,6 @@ namespace quor {
 
 namespace {
 
-TextSide SideOf(std::int32_t place)
-{
-    switch (ColumnOf(place)) {
-    case FaceColumn::Left:
-        return TextSide::Left;
-    case FaceColumn::Right:
-        return TextSide::Right;
-    case FaceColumn::Center:
-        break;
-    }
-    return TextSide::Center;
-}
-
 FacePlan PlanOf(const DeviceSpace& space, const FaceContents& contents)
 {
     FacePlan plan;
@@ -71,7 +58,7 @@ void PaintContents(QPainter& painter, const DeviceSpace& space, const FaceConten
     if (!text.IsEmpty()) {
         const qreal left = origin.x() + layout.caption.left;
         const qreal middle = text.MiddleBaseline(origin.y() + layout.caption.top, layout.caption.height);
-        text.Draw(painter, left, left + layout.caption.width, middle, SideOf(contents.captionPlace), contents.color);
+        text.Draw(painter, left, left + layout.caption.width, middle, ColumnOf(contents.captionPlace), contents.color);
     }
     painter.restore();
 }

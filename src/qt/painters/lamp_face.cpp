@@ -2,9 +2,7 @@
 
 #include "qt/drawing/boxes.h"
 #include "qt/drawing/mixing.h"
-#include "qt/painters/kept_picture.h"
-#include "qt/ports/qt_text.h"
-#include "widgets/round_led.h"
+#include "qt/painters/kept_pictures.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -30,9 +28,7 @@ void PaintSocket(QPainter& painter, const QRectF& box, const LampFace& lamp)
     const qreal radius = lamp.radius - lamp.line;
     FillRing(painter, wall, radius, lamp.line, Darker(lamp.color, lamp.isMuted ? 0.45 : 0.3));
     if (lamp.isLit && !lamp.isMuted) {
-        QColor glow = Lighter(lamp.color, 0.1);
-        glow.setAlphaF(0.7F);
-        FillRing(painter, wall, radius, lamp.line, glow);
+        FillRing(painter, wall, radius, lamp.line, WithAlpha(Lighter(lamp.color, 0.1), 0.7));
     }
 }
 
@@ -108,29 +104,14 @@ void PaintAfresh(QPainter& painter, const QRectF& box, const LampFace& lamp)
 
 } // namespace
 
-QColor ShownColor(const LampColors& colors)
-{
-    if (!colors.isLit && colors.worksOutUnlit) {
-        return ToQt(UnlitColor(Resolve(colors.lit)));
-    }
-    return ToQt(Resolve(colors.isLit ? colors.lit : colors.unlit));
-}
-
-bool IsMuted(const LampColors& colors)
-{
-    const bool isWorkedOut = !colors.isLit && colors.worksOutUnlit;
-    return !isWorkedOut && (colors.isLit ? colors.lit : colors.unlit) == colors::buttonFace;
-}
-
-void PaintLampFace(QPainter& painter, const QRectF& box, const LampFace& lamp)
+void PaintLampFace(QPainter& painter, KeptPictures& kept, const QRectF& box, const LampFace& lamp)
 {
     if (box.isEmpty()) {
         return;
     }
-    PictureKey key(QLatin1StringView("lamp face"));
-    key << box.width() << box.height() << lamp.color << lamp.bevel << lamp.isLit << lamp.isMuted << lamp.reflects
-        << lamp.radius << lamp.line;
-    DrawKept(painter, box.toRect(), key, [&](QPainter& onPicture) { PaintAfresh(onPicture, box, lamp); });
+    const auto key = KeyOf(Shape::LampFace, box.width(), box.height(), lamp.color.rgba(), lamp.bevel, lamp.isLit,
+                           lamp.isMuted, lamp.reflects, lamp.radius, lamp.line);
+    DrawKept(painter, kept.shapes, box.toRect(), key, [&](QPainter& onPicture) { PaintAfresh(onPicture, box, lamp); });
 }
 
 } // namespace quor

@@ -1,15 +1,12 @@
-#include "qt/painters/linear_gauge_painter.h"
-
 #include "qt/drawing/boxes.h"
-#include "qt/drawing/device_space.h"
 #include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/gauge_painting.h"
-#include "qt/painters/smooth_fills.h"
+#include "qt/painters/polygons.h"
 #include "qt/ports/qt_text.h"
+#include "widgets/gauge_scale.h"
 #include "widgets/linear_gauge.h"
-
-#include <QPainter>
+#include "widgets/linear_layout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -69,8 +66,7 @@ void PaintBand(QPainter& painter, const Scale& scale, const LinearGauge& gauge)
     const qreal low = std::min(layout.start, layout.end);
     const qreal high = std::max(layout.start, layout.end);
     if (layout.bandLow >= layout.bandHigh) {
-        QColor color = ToQt(Resolve(gauge.TickLabelColorValue()));
-        color.setAlphaF(0.55F);
+        const QColor color = WithAlpha(ToQt(Resolve(gauge.TickLabelColorValue())), 0.55);
         const qreal first = layout.areNumbersLow ? layout.scaleLine : layout.scaleLine - scale.line;
         painter.fillRect(scale.Box(low, high, first, first + scale.line), color);
         return;
@@ -132,7 +128,7 @@ Outline Triangle(const Scale& scale, qreal middle, qreal lowFlank, qreal highFla
 }
 
 // With the line's first pixel there along the scale.
-void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const LinearGauge& gauge, const QRectF& area)
+void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const LinearGauge& gauge)
 {
     const QColor color = ToQt(Resolve(gauge.PointerColor()));
     const bool isLight = IsLight(color);
@@ -141,89 +137,69 @@ void PaintPointer(QPainter& painter, const Scale& scale, qreal first, const Line
     const QPointF nowhere(0, 0);
     const Outline body = Triangle(scale, middle, half, half, gauge);
     if (half > 0) {
-        SmoothFills halo(painter, area, area);
-        halo.Trace(body.Grown(1.5 * scale.unit).Points(), nowhere);
-        halo.Fill(isLight ? BlackAt(0.8) : WhiteAt(0.8));
-        halo.Draw();
+        FillPolygon(painter, body.Grown(1.5 * scale.unit).Points(), nowhere, isLight ? BlackAt(0.8) : WhiteAt(0.8));
     }
     PaintHairline(painter, scale, first, color, isLight ? BlackAt(0.75) : WhiteAt(0.75));
     if (half > 0) {
-        SmoothFills fills(painter, area, area);
-        fills.Trace(body.Points(), nowhere);
-        fills.Fill(BlackAt(0.22), QPointF(scale.unit, scale.unit).toPoint());
-        fills.Fill(color);
-        fills.Trace(Triangle(scale, middle, half, 0, gauge).Points(), nowhere);
-        fills.Fill(WhiteAt(isLight ? 0.34 : 0.16));
-        fills.Draw();
+        FillPolygon(painter, body.Points(), QPointF(scale.unit, scale.unit).toPoint(), BlackAt(0.22));
+        FillPolygon(painter, body.Points(), nowhere, color);
+        FillPolygon(painter, Triangle(scale, middle, half, 0, gauge).Points(), nowhere, WhiteAt(isLight ? 0.34 : 0.16));
     }
 }
 
 // A picture of the pointer, all across the inside of the gauge, unless it would be too large.
-void KeepPointer(LinearStill& still, const DeviceSpace& space, const LinearGauge& gauge)
+void KeepPointer(BandFace& face, const DeviceSpace& space, const LinearGauge& gauge)
 {
     const QRectF inside = InsideEdge(space, EdgeOf(gauge)).translated(-space.Area().topLeft());
-    const bool isVertical = still.layout.isVertical;
+    const bool isVertical = face.layout.isVertical;
     const qreal along = isVertical ? inside.height() : inside.width();
     const qreal line = space.Line(1);
     const Stretch stretch = PointerStretch(gauge, along, space.Scale());
-    still.pointerMargin = std::ceil(std::min((stretch.high - stretch.low) / 2, along));
-    const int length = static_cast<int>(2 * still.pointerMargin + line);
-    const QSize size =
-        isVertical ? QSize(static_cast<int>(inside.width()), length) : QSize(length, static_cast<int>(inside.height()));
-    if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) {
+    face.pointerMargin = std::ceil(std::min((stretch.high - stretch.low) / 2, along));
+    const qreal length = 2 * face.pointerMargin + line;
+    const QRect box = (isVertical ? QRectF(inside.left(), 0, inside.width(), length)
+                                  : QRectF(0, inside.top(), length, inside.height()))
+                          .toRect();
+    if (box.isEmpty() || qint64{box.width()} * box.height() > mostPixels) {
         return;
     }
-    still.pointer = QImage(size, QImage::Format_ARGB32_Premultiplied);
-    still.pointer.fill(Qt::transparent);
-    const QPointF across = isVertical ? QPointF(inside.left(), 0) : QPointF(0, inside.top());
-    QPainter painter(&still.pointer);
-    PaintPointer(painter, {still.layout, -across, line, space.Scale()}, still.pointerMargin, gauge,
-                 still.pointer.rect());
+    face.pointer = PictureOf(box, [&](QPainter& painter) {
+        PaintPointer(painter, {face.layout, {}, line, space.Scale()}, face.pointerMargin, gauge);
+    });
 }
 
-LinearStill DrawLinearFace(QPainter& painter, const LinearGauge& gauge, const QRectF& area)
+BandFace DrawBandFace(QPainter& painter, const LinearGauge& gauge, const DeviceSpace& space)
 {
-    const DeviceSpace space(painter, area);
     PaintGround(painter, space, gauge);
     painter.setClipRect(InsideEdge(space, EdgeOf(gauge)), Qt::IntersectClip);
     const LaidNumbers numbers = LayNumbers(painter, gauge, space.Scale());
     const Scale scale{LayOut(painter, space, gauge, numbers), space.Area().topLeft(), space.Line(1), space.Scale()};
     PaintBand(painter, scale, gauge);
     PaintNumbers(painter, scale, numbers, gauge);
-    LinearStill still{scale.layout, {}, 0};
-    KeepPointer(still, space, gauge);
-    return still;
+    BandFace face{{}, scale.layout, {}, 0};
+    KeepPointer(face, space, gauge);
+    return face;
 }
 
 } // namespace
 
-FaceCache<LinearGauge, LinearStill>& LinearFaces()
+void PaintLinearGauge(QPainter& painter, const LinearGauge& gauge, const WidgetSpace& space)
 {
-    static FaceCache<LinearGauge, LinearStill> faces(DrawLinearFace);
-    return faces;
-}
-
-void PaintLinearGauge(QPainter& painter, const LinearGauge& gauge, const QRectF& area)
-{
-    const DeviceSpace space(painter, area);
-    if (space.Area().width() < 1 || space.Area().height() < 1) {
-        return;
-    }
-    const LinearStill still = LinearFaces().Paint(painter, space, gauge, !gauge.Transparent());
+    const BandFace face = PaintFace(painter, gauge, space, space.Pictures().bands, DrawBandFace);
     const QRectF inside = InsideEdge(space, EdgeOf(gauge));
-    const qreal low = still.layout.Marked(PointerPlace(gauge), space.Line(1), space.Scale()) - still.pointerMargin;
-    if (still.pointer.isNull()) {
+    const qreal low = face.layout.Marked(PointerPlace(gauge), space.Line(1), space.Scale()) - face.pointerMargin;
+    if (face.pointer.isNull()) {
         painter.setClipRect(inside, Qt::IntersectClip);
-        const Scale scale{still.layout, space.Area().topLeft(), space.Line(1), space.Scale()};
-        PaintPointer(painter, scale, low + still.pointerMargin, gauge, inside);
+        const Scale scale{face.layout, space.Area().topLeft(), space.Line(1), space.Scale()};
+        PaintPointer(painter, scale, low + face.pointerMargin, gauge);
         return;
     }
-    const QPointF place = still.layout.isVertical ? QPointF(inside.left(), space.Area().top() + low)
-                                                  : QPointF(space.Area().left() + low, inside.top());
-    if (!inside.contains(QRectF(place, still.pointer.size()))) {
+    const QPointF place = face.layout.isVertical ? QPointF(inside.left(), space.Area().top() + low)
+                                                 : QPointF(space.Area().left() + low, inside.top());
+    if (!inside.contains(QRectF(place, face.pointer.size()))) {
         painter.setClipRect(inside, Qt::IntersectClip);
     }
-    painter.drawImage(place, still.pointer);
+    painter.drawImage(place, face.pointer);
 }
 
 } // namespace quor

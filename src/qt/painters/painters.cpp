@@ -1,15 +1,7 @@
 #include "qt/painters/painters.h"
 
 #include "base/values.h"
-#include "qt/painters/analog_display_painter.h"
-#include "qt/painters/angular_gauge_painter.h"
-#include "qt/painters/linear_gauge_painter.h"
-#include "qt/painters/panel_painter.h"
-#include "qt/painters/push_button_painter.h"
-#include "qt/painters/rect_led_painter.h"
-#include "qt/painters/round_led_painter.h"
-#include "qt/painters/switch_led_painter.h"
-#include "qt/painters/text_label_painter.h"
+#include "qt/painters/widget_painters.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/linear_gauge.h"
@@ -20,65 +12,48 @@
 #include "widgets/switch_led.h"
 #include "widgets/text_label.h"
 
-#include <algorithm>
-#include <array>
-
 namespace quor {
 
 namespace {
 
-template <class Kind, auto Paint> void PaintAs(QPainter& painter, const Widget& widget, const QRectF& area)
-{
-    Paint(painter, static_cast<const Kind&>(widget), area);
-}
-
-bool IsBlankLabel(const Widget& widget)
-{
-    return IsBlank(static_cast<const TextLabel&>(widget));
-}
-
-struct PainterRow {
-    std::string_view arrayName;
-    WidgetPainter paint;
-    bool (*isBlank)(const Widget&) = nullptr; // for a kind that its properties may leave without anything to see
+struct Row {
+    void (*paint)(QPainter& painter, const Widget& widget, const WidgetSpace& space);
+    bool isStill = false; // no value moves a part of it, so all of it is kept
 };
 
-constexpr std::array painters = {
-    PainterRow{"ctlLEDRound", PaintAs<RoundLed, PaintRoundLed>},
-    PainterRow{"ctlLEDRect", PaintAs<RectLed, PaintRectLed>},
-    PainterRow{"ctlStatusLabel", PaintAs<TextLabel, PaintTextLabel>, IsBlankLabel},
-    PainterRow{"ctlLabel", PaintAs<TextLabel, PaintTextLabel>, IsBlankLabel},
-    PainterRow{"ctlBlnPic", PaintAs<Panel, PaintPanel>},
-    PainterRow{"ctlPicture", PaintAs<Panel, PaintPanel>},
-    PainterRow{"ctlCommand", PaintAs<PushButton, PaintPushButton>},
-    PainterRow{"ctlCmdLED", PaintAs<SwitchLed, PaintSwitchLed>},
-    PainterRow{"ctlMeterText", PaintAs<AnalogDisplay, PaintAnalogDisplay>},
-    PainterRow{"ctlMeterLinear", PaintAs<LinearGauge, PaintLinearGauge>},
-    PainterRow{"ctlMeterAngle", PaintAs<AngularGauge, PaintAngularGauge>},
-};
-
-const PainterRow* FindRow(std::string_view arrayName)
+template <class Kind, auto paint> void PaintAs(QPainter& painter, const Widget& widget, const WidgetSpace& space)
 {
-    const auto* row = std::find_if(painters.begin(), painters.end(),
-                                   [&](const PainterRow& each) { return each.arrayName == arrayName; });
-    return row == painters.end() ? nullptr : row;
+    paint(painter, static_cast<const Kind&>(widget), space);
 }
+
+// By their kind.
+constexpr Row rows[] = {{PaintAs<AnalogDisplay, PaintAnalogDisplay>}, {PaintAs<AngularGauge, PaintAngularGauge>},
+                        {PaintAs<LinearGauge, PaintLinearGauge>},     {PaintAs<Panel, PaintPanel>, true},
+                        {PaintAs<PushButton, PaintPushButton>, true}, {PaintAs<RectLed, PaintRectLed>},
+                        {PaintAs<RoundLed, PaintRoundLed>},           {PaintAs<SwitchLed, PaintSwitchLed>},
+                        {PaintAs<TextLabel, PaintTextLabel>, true}};
 
 } // namespace
 
-WidgetPainter PainterFor(std::string_view arrayName)
+void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area, KeptPictures& kept)
 {
-    const PainterRow* row = FindRow(arrayName);
-    return row == nullptr ? nullptr : row->paint;
+    const WidgetSpace space(painter, area, kept);
+    if (space.Area().width() < 1 || space.Area().height() < 1) {
+        return;
+    }
+    const Row& row = rows[static_cast<std::size_t>(widget.Kind())];
+    const auto paint = [&](QPainter& onPicture) { row.paint(onPicture, widget, space); };
+    if (row.isStill && widget.Look() != 0) {
+        DrawKept(painter, kept.shapes, space.Area().toRect(), space.Key(Shape::Widget, widget), paint);
+    } else {
+        paint(painter);
+    }
 }
 
 bool PaintsNothing(const Widget& widget)
 {
-    if (widget.Width() < twipsPerPixelX || widget.Height() < twipsPerPixelY) {
-        return true;
-    }
-    const PainterRow* row = FindRow(widget.Name());
-    return row != nullptr && row->isBlank != nullptr && row->isBlank(widget);
+    return widget.Width() < twipsPerPixelX || widget.Height() < twipsPerPixelY ||
+           (widget.Kind() == WidgetKind::TextLabel && IsBlank(static_cast<const TextLabel&>(widget)));
 }
 
 bool IsPaintable(const QRectF& area)

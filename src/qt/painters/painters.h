@@ -1,22 +1,18 @@
 #pragma once
-// The painters of all kinds of widget, found by the name of their array.
+// Draws any widget.
 
 #include <QRectF>
-
-#include <string_view>
 
 class QPainter;
 
 namespace quor {
 
 struct Area;
+struct KeptPictures;
 class Widget;
 
-// Draws a widget in the area, which is in device-independent pixels.
-using WidgetPainter = void (*)(QPainter& painter, const Widget& widget, const QRectF& area);
-
-// Null for a kind that isn't drawn.
-WidgetPainter PainterFor(std::string_view arrayName);
+// In the area, which is in device-independent pixels. What is kept is of the widget's canvas alone.
+void PaintWidget(QPainter& painter, const Widget& widget, const QRectF& area, KeptPictures& kept);
 
 // True for a widget that would be invisible as it is, such as one without any extent.
 bool PaintsNothing(const Widget& widget);

@@ -1,9 +1,7 @@
-#include "qt/painters/panel_painter.h"
-
-#include "qt/drawing/device_space.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/captioned_face.h"
 #include "qt/painters/picture_drawing.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/panel.h"
 
@@ -48,9 +46,8 @@ void PaintGroundPicture(QPainter& painter, const Panel& panel, const DeviceSpace
 
 } // namespace
 
-void PaintPanel(QPainter& painter, const Panel& panel, const QRectF& area)
+void PaintPanel(QPainter& painter, const Panel& panel, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
     const EdgeStyle edge = EdgeOf(panel);
     const QRectF inside = InsideEdge(space, edge);
     std::optional<Rgb> mask;

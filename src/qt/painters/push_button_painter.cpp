@@ -1,18 +1,15 @@
-#include "qt/painters/push_button_painter.h"
-
 #include "qt/drawing/boxes.h"
-#include "qt/drawing/device_space.h"
 #include "qt/painters/button_face.h"
 #include "qt/painters/captioned_face.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/push_button.h"
 
 namespace quor {
 
-void PaintPushButton(QPainter& painter, const PushButton& button, const QRectF& area)
+void PaintPushButton(QPainter& painter, const PushButton& button, const WidgetSpace& space)
 {
     constexpr FaceGaps gaps{6, 5, 5};
-    const DeviceSpace space(painter, area);
     PaintButtonFace(painter, space, ToQt(Resolve(button.BackColor())), button.Enabled());
     std::optional<Rgb> mask;
     if (button.PictureUseMaskFlag()) {

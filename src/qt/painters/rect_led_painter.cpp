@@ -1,10 +1,8 @@
-#include "qt/painters/rect_led_painter.h"
-
 #include "qt/drawing/boxes.h"
-#include "qt/drawing/device_space.h"
 #include "qt/drawing/mixing.h"
 #include "qt/painters/lamp_face.h"
 #include "qt/painters/text_block.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/rect_led.h"
 
@@ -17,23 +15,13 @@ constexpr qreal leastContrast = 3;
 
 LampFace FaceOf(const RectLed& led, const DeviceSpace& space)
 {
-    const LampColors colors{led.Active(), led.ActiveColor(), led.InactiveColor(), led.AutoInactiveColor()};
-    LampFace face;
-    face.color = ShownColor(colors);
+    LampFace face(led.Shown());
     face.bevel = led.BevelStyle();
     face.isLit = led.Active();
-    face.isMuted = IsMuted(colors);
     face.reflects = led.ShowReflection();
     face.radius = (face.bevel == bevels::none ? 2 : 3) * space.Scale();
     face.line = space.Line(1);
     return face;
-}
-
-TextSide SideOf(std::int32_t alignment)
-{
-    return alignment == lamp_alignments::left    ? TextSide::Left
-           : alignment == lamp_alignments::right ? TextSide::Right
-                                                 : TextSide::Center;
 }
 
 // What sets a legend off from a face of nearly its own brightness; none where it isn't needed.
@@ -63,16 +51,16 @@ void PaintLegend(QPainter& painter, const RectLed& led, const DeviceSpace& space
     }
     painter.setClipRect(inside, Qt::IntersectClip);
     text.Draw(painter, box.left() + inset, box.right() - inset, text.MiddleBaseline(box.top(), box.height()),
-              SideOf(led.CaptionAlignment()), color, OutlineFor(color, face.color));
+              SideOf(led.CaptionAlignment(), lamp_alignments::left, lamp_alignments::right), color,
+              OutlineFor(color, face.color));
 }
 
 } // namespace
 
-void PaintRectLed(QPainter& painter, const RectLed& led, const QRectF& area)
+void PaintRectLed(QPainter& painter, const RectLed& led, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
     const LampFace face = FaceOf(led, space);
-    PaintLampFace(painter, space.Area(), face);
+    PaintLampFace(painter, space.Pictures(), space.Area(), face);
     if (!led.Caption().empty()) {
         PaintLegend(painter, led, space, face);
     }

@@ -1,10 +1,6 @@
-#include "qt/painters/round_led_painter.h"
-
-#include "qt/drawing/device_space.h"
 #include "qt/drawing/mixing.h"
-#include "qt/painters/kept_picture.h"
-#include "qt/painters/lamp_face.h"
-#include "qt/painters/smooth_fills.h"
+#include "qt/painters/polygons.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/round_led.h"
 
@@ -40,11 +36,7 @@ struct Lamp {
     // So large that at most a part of it shows, without rim and reflection.
     bool IsVast() const { return !reachable.contains(Place()); }
 
-    PictureKey Key() const
-    {
-        PictureKey key(QLatin1StringView("lamp"));
-        return key << radius << lens << rim << color << bevel << isLit << isMuted << reflects;
-    }
+    auto Key() const { return KeyOf(Shape::Lamp, radius, lens, rim, color.rgba(), bevel, isLit, isMuted, reflects); }
 };
 
 // In device-independent pixels.
@@ -53,7 +45,7 @@ qreal BezelWidth(qreal diameter)
     return diameter < 14 ? 1 : diameter < 32 ? 2 : diameter < 56 ? 3 : 4;
 }
 
-Lamp LampOf(const RoundLed& led, const DeviceSpace& space, const QRectF& area)
+Lamp LampOf(const RoundLed& led, const WidgetSpace& space)
 {
     const QRectF& box = space.Area();
     const qreal diameter = std::min(box.width(), box.height());
@@ -65,15 +57,16 @@ Lamp LampOf(const RoundLed& led, const DeviceSpace& space, const QRectF& area)
     lamp.bevel = led.BevelStyle();
     qreal bezel = 0;
     if (lamp.bevel != bevels::none) {
-        bezel = std::min(space.Line(BezelWidth(std::min(area.width(), area.height()))), std::floor((diameter - 1) / 2));
+        bezel = std::min(space.Line(BezelWidth(std::min(space.Size().width(), space.Size().height()))),
+                         std::floor((diameter - 1) / 2));
     }
     lamp.lens = lamp.radius - bezel;
     lamp.rim = lamp.lens < 2 || lamp.IsVast() ? 0 : space.Line(1);
     lamp.isLit = led.Active();
     lamp.reflects = led.ShowReflection();
-    const LampColors colors{led.Active(), led.ActiveColor(), led.InactiveColor(), led.AutoInactiveColor()};
-    lamp.isMuted = IsMuted(colors);
-    lamp.color = ShownColor(colors);
+    const LampColor shown = led.Shown();
+    lamp.isMuted = shown.isMuted;
+    lamp.color = ToQt(shown.color);
     return lamp;
 }
 
@@ -118,9 +111,7 @@ void PaintBezel(QPainter& painter, const Lamp& lamp)
     gradient.setStops(stops);
     FillDisc(painter, lamp, lamp.radius, gradient);
     if (lamp.isLit && !lamp.isMuted) {
-        QColor spill = lamp.color;
-        spill.setAlphaF(0.62F);
-        FillDisc(painter, lamp, (lamp.lens + lamp.radius) / 2, spill);
+        FillDisc(painter, lamp, (lamp.lens + lamp.radius) / 2, WithAlpha(lamp.color, 0.62));
     }
 }
 
@@ -194,17 +185,13 @@ void PaintReflection(QPainter& painter, const Lamp& lamp)
 
 } // namespace
 
-void PaintRoundLed(QPainter& painter, const RoundLed& led, const QRectF& area)
+void PaintRoundLed(QPainter& painter, const RoundLed& led, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
     if (!led.Transparent()) {
         painter.fillRect(space.Area(), ToQt(Resolve(colors::buttonFace)));
     }
-    if (space.Area().width() < 1 || space.Area().height() < 1) {
-        return;
-    }
-    const Lamp lamp = LampOf(led, space, area);
-    DrawKept(painter, lamp.Place(), lamp.Key(), [&](QPainter& onPicture) {
+    const Lamp lamp = LampOf(led, space);
+    DrawKept(painter, space.Pictures().shapes, lamp.Place(), lamp.Key(), [&](QPainter& onPicture) {
         onPicture.setRenderHint(QPainter::Antialiasing);
         PaintBezel(onPicture, lamp);
         PaintLens(onPicture, lamp);

@@ -1,12 +1,9 @@
-#include "qt/painters/switch_led_painter.h"
-
-#include "qt/drawing/device_space.h"
 #include "qt/painters/button_face.h"
 #include "qt/painters/lamp_face.h"
 #include "qt/painters/text_block.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/face_layout.h"
-#include "widgets/round_led.h"
 #include "widgets/switch_led.h"
 
 namespace quor {
@@ -21,26 +18,21 @@ QRectF OnFace(const DeviceSpace& space, const FaceBox& box)
     return QRectF(first, last).translated(space.Area().topLeft());
 }
 
-void PaintBar(QPainter& painter, const SwitchLed& button, const DeviceSpace& space, const FaceBox& bar)
+void PaintBar(QPainter& painter, const SwitchLed& button, const WidgetSpace& space, const FaceBox& bar)
 {
-    const LampColors colors{button.Active(), button.LEDColor(), button.LEDColor(), true};
-    const bool isMuted = button.LEDColor() == colors::buttonFace;
-    LampFace lamp;
-    lamp.color = isMuted ? ToQt(Resolve(button.LEDColor())) : ShownColor(colors);
+    LampFace lamp(button.Shown());
     lamp.bevel = bevels::lowered;
     lamp.isLit = button.Active();
-    lamp.isMuted = isMuted;
     lamp.radius = 2 * space.Scale();
     lamp.line = space.Line(1);
-    PaintLampFace(painter, OnFace(space, bar), lamp);
+    PaintLampFace(painter, space.Pictures(), OnFace(space, bar), lamp);
 }
 
 } // namespace
 
-void PaintSwitchLed(QPainter& painter, const SwitchLed& button, const QRectF& area)
+void PaintSwitchLed(QPainter& painter, const SwitchLed& button, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
-    const FaceSize size{area.width(), area.height()};
+    const FaceSize size{space.Size().width(), space.Size().height()};
     PaintButtonFace(painter, space, ToQt(Resolve(colors::buttonFace)), button.Enabled());
     const FaceBox bar = LampBar(size, button.LEDAlignment());
     if (bar.width > 0) {

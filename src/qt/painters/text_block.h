@@ -1,6 +1,8 @@
 #pragma once
 // A text laid out in lines, to be measured and drawn in device pixels.
 
+#include "widgets/text_side.h"
+
 #include <QColor>
 #include <QFont>
 #include <QString>
@@ -14,8 +16,6 @@ class QPainter;
 namespace quor {
 
 class Font;
-
-enum class TextSide { Left, Right, Center };
 
 class TextBlock {
 public:

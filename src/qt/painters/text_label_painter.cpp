@@ -1,8 +1,7 @@
-#include "qt/painters/text_label_painter.h"
-
-#include "qt/drawing/device_space.h"
+#include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/text_block.h"
+#include "qt/painters/widget_painters.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/text_label.h"
 
@@ -10,7 +9,7 @@ namespace quor {
 
 namespace {
 
-constexpr float disabledOpacity = 0.45F;
+constexpr qreal disabledOpacity = 0.45;
 constexpr qreal lowBox = 1.6; // lines: one line stands in the middle of a lower box
 
 EdgeStyle EdgeOf(const TextLabel& label)
@@ -26,11 +25,12 @@ qreal InsetOf(EdgeStyle edge)
     return edge == EdgeStyle::None ? 0 : edge == EdgeStyle::Flat ? 3 : 4;
 }
 
-TextSide SideOf(std::int16_t alignment)
+// A number that is none of the alignments is the left.
+TextSide SideOf(const TextLabel& label)
 {
-    return alignment == label_alignments::right    ? TextSide::Right
-           : alignment == label_alignments::center ? TextSide::Center
-                                                   : TextSide::Left;
+    return label.Alignment() == label_alignments::center  ? TextSide::Center
+           : label.Alignment() == label_alignments::right ? TextSide::Right
+                                                          : TextSide::Left;
 }
 
 bool HasGround(const TextLabel& label)
@@ -54,17 +54,15 @@ void PaintCaption(QPainter& painter, const TextLabel& label, const DeviceSpace& 
     const QRectF& box = space.Area();
     const bool isInMiddle = text.Lines() == 1 && box.height() < lowBox * text.LineHeight();
     const qreal baseline = isInMiddle ? text.MiddleBaseline(box.top(), box.height()) : text.TopBaseline(room.top());
-    QColor color = ToQt(Resolve(label.ForeColor()));
-    color.setAlphaF(label.Enabled() ? 1 : disabledOpacity);
+    const QColor color = WithAlpha(ToQt(Resolve(label.ForeColor())), label.Enabled() ? 1 : disabledOpacity);
     painter.setClipRect(inside, Qt::IntersectClip);
-    text.Draw(painter, room.left(), room.right(), baseline, SideOf(label.Alignment()), color);
+    text.Draw(painter, room.left(), room.right(), baseline, SideOf(label), color);
 }
 
 } // namespace
 
-void PaintTextLabel(QPainter& painter, const TextLabel& label, const QRectF& area)
+void PaintTextLabel(QPainter& painter, const TextLabel& label, const WidgetSpace& space)
 {
-    const DeviceSpace space(painter, area);
     const EdgeStyle edge = EdgeOf(label);
     const QColor ground = HasGround(label) ? ToQt(Resolve(label.BackColor())) : QColor();
     if (ground.isValid()) {

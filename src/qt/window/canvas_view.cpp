@@ -2,7 +2,6 @@
 
 #include "editor/main_form.h"
 #include "forms/bars.h"
-#include "qt/canvas/canvas_painting.h"
 #include "qt/canvas/marks.h"
 #include "qt/painters/painters.h"
 #include "qt/ports/qt_text.h"
@@ -64,7 +63,7 @@ Qt::CursorShape CursorOf(std::size_t handle)
 } // namespace
 
 CanvasView::CanvasView(frmMain& main, QWidget* parent)
-    : QAbstractScrollArea(parent), m_main(main), m_canvas(main.ssScroll())
+    : QAbstractScrollArea(parent), m_main(main), m_canvas(main.ssScroll()), m_painter(m_canvas)
 {
     setObjectName(QStringLiteral("ssScroll"));
     setAccessibleName(QStringLiteral("Canvas"));
@@ -108,8 +107,8 @@ void CanvasView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     const bool isMoving = m_outline && m_outline->what == DragOutline::What::Move;
-    m_painted += PaintCanvas(painter, m_canvas, viewport()->size(), event->region(),
-                             {.faded = isMoving ? m_main.SelectedWidget() : nullptr});
+    m_painted += m_painter.Paint(painter, viewport()->size(), event->region(),
+                                 {.faded = isMoving ? m_main.SelectedWidget() : nullptr});
     if (m_outline) {
         DrawOutline(painter, PixelsOf(m_outline->area), m_outline->what == DragOutline::What::Insert);
         PointerTip(ToQt(m_outline->tip), font(), m_pointer.toPoint(), viewport()->size()).Draw(painter, font());

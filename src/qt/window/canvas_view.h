@@ -3,6 +3,7 @@
 
 #include "base/event.h"
 #include "editor/mouse.h"
+#include "qt/canvas/canvas_painting.h"
 
 #include <QAbstractScrollArea>
 #include <QPointF>
@@ -60,6 +61,7 @@ private:
 
     frmMain& m_main;
     Canvas& m_canvas;
+    CanvasPainter m_painter;
     bool m_isFollowing = false;            // the bars move after the model, not the other way
     Qt::MouseButton m_held = Qt::NoButton; // that began what is going on
     QPointF m_pressedAt;                   // pixels of the view, scrolled with the canvas
