@@ -60,7 +60,7 @@ void AddMixed(clsCustView& view, std::int64_t count)
 
 World::World(Files& files) : m_files(files)
 {
-    m_live.DesignMode = true;
+    m_desk.live.DesignMode = true;
     AddWidgetArrays(m_canvas);
     Renew();
 }
@@ -68,14 +68,12 @@ World::World(Files& files) : m_files(files)
 void World::Renew()
 {
     m_view.reset();
-    m_view = std::make_unique<clsCustView>(
-        ViewPorts{m_files, m_boxes, m_reporter, m_timers, m_pictures, m_progress, m_live}, m_canvas);
+    m_view = std::make_unique<clsCustView>(m_desk.PortsOfView(m_reporter, m_files), m_canvas);
 }
 
 EditorPorts World::PortsOfEditor()
 {
-    return {m_files,    m_boxes, m_dialog,   m_forms,    m_timers, m_screen, m_pictures,
-            m_settings, m_login, m_reporter, m_progress, m_live,   m_help,   m_systemInfo};
+    return m_desk.PortsOfEditor(m_reporter, m_files);
 }
 
 } // namespace quor::bench

@@ -1,19 +1,11 @@
 #pragma once
 // What nearly every test uses: GoogleTest, the ports in memory, and the standard library's usual parts.
 
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_clipboard.h"
-#include "tests/support/fake_dialog.h"
 #include "tests/support/fake_files.h"
 #include "tests/support/fake_forms.h"
-#include "tests/support/fake_login.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_screen.h"
+#include "tests/support/fake_ports.h"
 #include "tests/support/fake_server.h"
-#include "tests/support/fake_settings.h"
-#include "tests/support/fake_system_info.h"
 #include "tests/support/fake_timers.h"
-#include "tests/support/planned_failures.h"
 #include "tests/support/test_reporter.h"
 
 #include <gtest/gtest.h>
@@ -39,5 +31,20 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+namespace quor {
+
+// The number of the failure with which the body ends, 0 without one.
+template <class Body> std::int32_t FailureOf(Body&& body)
+{
+    try {
+        body();
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+} // namespace quor
 
 using namespace quor;

@@ -1,58 +1,28 @@
 #pragma once
 // The main form with every port in memory.
 
-#include "binding/live.h"
-#include "document/view_document.h"
 #include "editor/main_form.h"
 #include "editor/property_panel.h"
 #include "forms/bars.h"
 #include "forms/fields.h"
 #include "forms/form.h"
 #include "pages/page.h"
-#include "support/frm_view_pbar.h"
+#include "tests/support/fake_desk.h"
 #include "tests/test.h"
 
 namespace quor {
 
-struct EditorFixture : testing::Test {
-    FakeFiles files;
-    FakeTimers timers;
-    FakeForms forms{timers};
-    FakeBoxes boxes;
-    FakeDialog dialog;
-    FakeSettings settings;
-    FakeLogin login;
-    FakeHelp help;
-    FakeSystemInfo systemInfo;
-    FakePictures pictures{files};
-    FakeScreen screen;
-    Live live;
-    TestReporter reporter;
+struct EditorFixture : testing::Test, FakeDesk {
+    EditorFixture() : FakeDesk(trace) {}
+
     struct StepTrace final : Trace {
         std::function<void()> atAStep = [] {};
         void Steps(std::int32_t /*progress*/) const override { atAStep(); }
     } trace;
-    frmViewPBar progress{forms, trace};
-    frmMain main{EditorPorts{.files = files,
-                             .boxes = boxes,
-                             .dlgProp = dialog,
-                             .forms = forms,
-                             .timers = timers,
-                             .screen = screen,
-                             .pictures = pictures,
-                             .settings = settings,
-                             .login = login,
-                             .reporter = reporter,
-                             .progress = progress,
-                             .live = live,
-                             .help = help,
-                             .systemInfo = systemInfo}};
+    TestReporter reporter;
+    frmMain main{PortsOfEditor(reporter)};
 
-    void SetUp() override
-    {
-        live.PictureFiles = &pictures;
-        main.Form_Load("");
-    }
+    void SetUp() override { main.Form_Load(""); }
 
     // A new element of that kind, selected.
     template <class E> E& Insert()

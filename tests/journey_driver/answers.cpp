@@ -1,24 +1,29 @@
 #include "tests/journey_driver/answers.h"
 
+#include "tests/support/quoted.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <span>
 
 namespace quor {
 
 namespace {
 
-// Whether a sequence of items meets a sequence of patterns, of which some stand for any run of items.
+constexpr std::size_t none = std::string_view::npos;
+
+// The first of the patterns that isn't met, of which some stand for any run of items; their number where more items
+// come, none if all is met.
 template <class Pattern, class Item, class IsRun, class Meets>
-bool MatchesRuns(std::span<const Pattern> patterns, std::span<const Item> items, IsRun isRun, Meets meets)
+std::size_t FirstUnmet(const std::vector<Pattern>& patterns, const std::vector<Item>& items, IsRun isRun, Meets meets)
 {
-    constexpr std::size_t none = static_cast<std::size_t>(-1);
     std::size_t pattern = 0;
     std::size_t item = 0;
     std::size_t run = none; // the last one met, and the item up to which it reaches
     std::size_t runEnd = 0;
+    std::size_t farthest = 0;
     while (item < items.size()) {
+        farthest = std::max(farthest, pattern);
         if (pattern < patterns.size() && isRun(patterns[pattern])) {
             run = pattern++;
             runEnd = item;
@@ -29,46 +34,26 @@ bool MatchesRuns(std::span<const Pattern> patterns, std::span<const Item> items,
             pattern = run + 1;
             item = ++runEnd;
         } else {
-            return false;
+            return farthest;
         }
     }
-    return std::all_of(patterns.begin() + static_cast<std::ptrdiff_t>(pattern), patterns.end(), isRun);
-}
-
-using Characters = std::vector<std::string_view>;
-
-std::string_view FirstCharacter(std::string_view text)
-{
-    std::size_t length = 1;
-    while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) {
-        ++length;
+    while (pattern < patterns.size() && isRun(patterns[pattern])) {
+        ++pattern;
     }
-    return text.substr(0, length);
+    return pattern == patterns.size() ? none : std::max(farthest, pattern);
 }
 
-constexpr std::string_view anyCharacter{}; // in a pattern
-
-// The characters that `{22}` at the head of the text stands for, and how long it is; 0 if it is none.
-std::size_t ReadCount(std::string_view text, std::size_t& count)
+// Of a pattern: `{22}` gives 22 times an empty one, which stands for any character.
+std::vector<std::string_view> Characters(std::string_view text, bool isPattern)
 {
-    const std::size_t end = text.find('}');
-    if (text.front() != '{' || end == std::string_view::npos || end < 2) {
-        return 0;
-    }
-    std::uint16_t number = 0;
-    const auto [stop, error] = std::from_chars(text.data() + 1, text.data() + end, number);
-    count = number;
-    return error == std::errc() && stop == text.data() + end ? end + 1 : 0;
-}
-
-Characters Split(std::string_view text, bool isPattern)
-{
-    Characters characters;
+    std::vector<std::string_view> characters;
     while (!text.empty()) {
-        std::size_t count = 0;
-        if (const std::size_t length = isPattern ? ReadCount(text, count) : 0; length > 0) {
-            characters.insert(characters.end(), count, anyCharacter);
-            text.remove_prefix(length);
+        std::uint16_t count = 0;
+        const char* const end = text.data() + text.size();
+        const char* stop = std::from_chars(text.data() + 1, end, count).ptr;
+        if (isPattern && text.front() == '{' && stop != text.data() + 1 && stop != end && *stop == '}') {
+            characters.insert(characters.end(), count, std::string_view());
+            text.remove_prefix(static_cast<std::size_t>(stop + 1 - text.data()));
         } else {
             characters.push_back(FirstCharacter(text));
             text.remove_prefix(characters.back().size());
@@ -80,80 +65,66 @@ Characters Split(std::string_view text, bool isPattern)
 bool Meets(const Expected& expected, const AnswerLine& line)
 {
     return MatchesLine(expected.pattern, line.text) ||
-           (!line.quoted.empty() && MatchesLine(expected.pattern, line.quoted));
-}
-
-bool MatchesInOrder(std::span<const Expected> block, std::span<const AnswerLine> lines)
-{
-    return MatchesRuns(
-        block, lines, [](const Expected& expected) { return expected.pattern == "*"; }, Meets);
-}
-
-// How many of the lines in order are met, from the first on.
-std::size_t MetInOrder(const std::vector<Expected>& inOrder, const std::vector<AnswerLine>& lines)
-{
-    for (std::size_t count = inOrder.size(); count > 0; --count) {
-        std::vector<Expected> head(inOrder.begin(), inOrder.begin() + static_cast<std::ptrdiff_t>(count));
-        head.push_back({Expected::Kind::InOrder, "*"});
-        if (MatchesInOrder(head, lines)) {
-            return count;
-        }
-    }
-    return 0;
-}
-
-// The expected lines that are not met.
-std::vector<const Expected*> Unmet(const std::vector<Expected>& block, const std::vector<AnswerLine>& lines)
-{
-    std::vector<const Expected*> unmet;
-    std::vector<Expected> inOrder;
-    std::vector<const Expected*> origins;
-    for (const Expected& expected : block) {
-        const bool isThere =
-            std::any_of(lines.begin(), lines.end(), [&](const AnswerLine& line) { return Meets(expected, line); });
-        if (expected.kind == Expected::Kind::InOrder) {
-            inOrder.push_back(expected);
-            origins.push_back(&expected);
-        } else if (isThere != (expected.kind == Expected::Kind::Among)) {
-            unmet.push_back(&expected);
-        }
-    }
-    if (!inOrder.empty() && !MatchesInOrder(inOrder, lines)) {
-        const std::size_t met = MetInOrder(inOrder, lines);
-        unmet.push_back(met < origins.size() ? origins[met] : nullptr);
-    }
-    return unmet;
+           (line.isBare && MatchesLine(expected.pattern, Quoted(line.text)));
 }
 
 } // namespace
 
 bool MatchesLine(std::string_view pattern, std::string_view line)
 {
-    return MatchesRuns<std::string_view, std::string_view>(
-        Split(pattern, true), Split(line, false), [](std::string_view character) { return character == "*"; },
-        [](std::string_view wanted, std::string_view character) {
-            return wanted.data() == anyCharacter.data() || wanted == character;
-        });
+    return FirstUnmet(
+               Characters(pattern, true), Characters(line, false),
+               [](std::string_view character) { return character == "*"; },
+               [](std::string_view wanted, std::string_view character) {
+                   return wanted.empty() || wanted == character;
+               }) == none;
 }
 
 std::string Difference(const std::vector<Expected>& block, const std::vector<AnswerLine>& lines)
 {
-    const std::vector<const Expected*> unmet = Unmet(block, lines);
-    if (unmet.empty()) {
-        return {};
-    }
+    using Kind = Expected::Kind;
+    std::vector<Expected> inOrder;
+    std::ranges::copy_if(block, std::back_inserter(inOrder),
+                         [](const Expected& expected) { return expected.kind == Kind::InOrder; });
+    const std::size_t unmet =
+        inOrder.empty() ? none
+                        : FirstUnmet(
+                              inOrder, lines, [](const Expected& expected) { return expected.pattern == "*"; }, Meets);
     constexpr std::string_view marks[] = {"> ", ">? ", ">! "};
+    bool differs = unmet != none;
     std::string text = "  expected\n";
+    std::size_t place = 0;
     for (const Expected& expected : block) {
-        const bool isUnmet = std::find(unmet.begin(), unmet.end(), &expected) != unmet.end();
-        text += isUnmet ? "  * " : "    ";
+        const bool isThere = std::ranges::any_of(lines, [&](const AnswerLine& line) { return Meets(expected, line); });
+        const bool isMet =
+            expected.kind == Kind::InOrder ? place++ != unmet : isThere == (expected.kind == Kind::Among);
+        differs = differs || !isMet;
+        text += isMet ? "    " : "  * ";
         text += std::string(marks[static_cast<std::size_t>(expected.kind)]) + expected.pattern + '\n';
     }
-    text += unmet.back() == nullptr ? "  * and nothing more\n  came\n" : "  came\n";
+    text += unmet == inOrder.size() ? "  * and nothing more\n  came\n" : "  came\n";
     for (const AnswerLine& line : lines) {
         text += "    " + line.text + '\n';
     }
-    return text + (lines.empty() ? "    nothing\n" : "");
+    return differs ? text + (lines.empty() ? "    nothing\n" : "") : std::string();
+}
+
+std::vector<std::string> SplitLines(std::string_view text)
+{
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::string_view line = text.substr(0, end);
+        lines.emplace_back(line.substr(0, line.size() - (line.ends_with('\r') ? 1 : 0)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string_view FirstCharacter(std::string_view text)
+{
+    const auto isInside = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
+    return {text.begin(), std::find_if_not(text.begin() + 1, text.end(), isInside)};
 }
 
 } // namespace quor

@@ -2,7 +2,7 @@
 
 #include "forms/fields.h"
 #include "forms/panes.h"
-#include "tests/journey_driver/format.h"
+#include "tests/journey_driver/words.h"
 
 namespace quor {
 

@@ -33,4 +33,9 @@ using Journey = std::vector<Entry>;
 // Fails with JourneyError, which begins with the number of the line.
 Journey ReadJourney(std::string_view text);
 
+// Plays it from its first step to its last: the differences as text, empty if there are none. A journey that is not
+// compared prints its lines as they come. Paths of the journey's own files are relative to the folder of its path.
+// Fails with JourneyError, too; a journey with a step that isn't one isn't begun.
+std::string Play(const Journey& journey, const std::string& path, bool compares);
+
 } // namespace quor

@@ -2,10 +2,9 @@
 //
 // Exit status: 0 all as expected, 1 something differs, 2 a journey can't be read.
 
-#include "tests/journey_driver/play.h"
+#include "tests/journey_driver/journey.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -14,16 +13,9 @@
 
 namespace {
 
-constexpr int allAsExpected = 0;
-constexpr int somethingDiffers = 1;
-constexpr int cannotBeRead = 2;
+enum Status { allAsExpected, somethingDiffers, cannotBeRead };
 
-bool HasAnswers(const quor::Journey& journey)
-{
-    return std::ranges::any_of(journey, [](const quor::Entry& entry) { return !entry.answers.empty(); });
-}
-
-int PlayFile(const std::string& path, bool prints)
+Status PlayFile(const std::string& path, bool prints)
 {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
@@ -31,18 +23,18 @@ int PlayFile(const std::string& path, bool prints)
         return cannotBeRead;
     }
     const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    std::string differences;
     try {
         const quor::Journey journey = quor::ReadJourney(text);
-        const bool compares = !prints && HasAnswers(journey);
-        differences = quor::Play(journey, path, compares);
+        const bool hasAnswers =
+            std::ranges::any_of(journey, [](const quor::Entry& entry) { return !entry.answers.empty(); });
+        const std::string differences = quor::Play(journey, path, !prints && hasAnswers);
+        std::cout << differences << std::flush;
+        return differences.empty() ? allAsExpected : somethingDiffers;
     } catch (const quor::JourneyError& error) {
         std::cout.flush();
         std::cerr << path << ':' << error.what() << '\n';
         return cannotBeRead;
     }
-    std::cout << differences << std::flush;
-    return differences.empty() ? allAsExpected : somethingDiffers;
 }
 
 } // namespace
@@ -58,7 +50,7 @@ int main(int argumentCount, char** argumentTexts)
         std::cerr << "usage: quor-view-journey [--print] FILE...\n";
         return cannotBeRead;
     }
-    int status = allAsExpected;
+    Status status = allAsExpected;
     for (const std::string& path : paths) {
         status = std::max(status, PlayFile(path, prints));
     }

@@ -1,70 +1,70 @@
-#include "tests/journey_driver/play.h"
-
 #include "base/failure.h"
-#include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
-#include <iostream>
 
 namespace quor {
 
-namespace {
-
-[[noreturn]] void Refuse(const Entry& entry, const std::string& why)
+const StepRow& FindStep(std::span<const Word> words)
 {
-    throw JourneyError(std::to_string(entry.line) + ": " + why);
-}
-
-void CheckSteps(const Journey& journey)
-{
-    for (const Entry& entry : journey) {
-        try {
-            if (!entry.words.empty()) {
-                FindStep(entry.words);
+    std::string usages;
+    for (const auto rows : {PreparingSteps(), UserSteps(), FormSteps(), LiveSteps(), ShowingSteps(), SettingSteps()}) {
+        for (const StepRow& row : rows) {
+            if (FitsUsage(row.usage, words)) {
+                return row;
             }
-        } catch (const JourneyError& error) {
-            Refuse(entry, error.what());
+            if (row.usage.substr(0, row.usage.find(' ')) == words.front().text) {
+                usages += "\n  " + std::string(row.usage);
+            }
         }
     }
+    throw JourneyError(usages.empty() ? "no such step: " + words.front().text : "wanted is:" + usages);
 }
 
-void Act(Stage& stage, const Entry& entry)
+namespace {
+
+// What an entry fails with, as its own fault.
+template <class Act> void OfEntry(const Entry& entry, Act act)
 {
+    std::string why;
     try {
-        stage.BeforeStep(entry.words);
-        FindStep(entry.words).act(stage, Arguments(std::span(entry.words).subspan(1)));
-        stage.AfterStep();
-    } catch (const JourneyError& error) {
-        Refuse(entry, error.what());
+        return act();
     } catch (const Failure& failure) {
-        Refuse(entry, "failed with " + std::to_string(failure.Number()) + ": " + failure.Description());
+        why = "failed with " + std::to_string(failure.Number()) + ": " + failure.Description();
     } catch (const std::exception& error) {
-        Refuse(entry, std::string("failed: ") + error.what());
+        why = error.what();
     }
+    throw JourneyError(std::to_string(entry.line) + ": " + why);
 }
 
 } // namespace
 
 std::string Play(const Journey& journey, const std::string& path, bool compares)
 {
-    CheckSteps(journey);
+    for (const Entry& entry : journey) {
+        if (!entry.words.empty()) {
+            OfEntry(entry, [&] { FindStep(entry.words); });
+        }
+    }
     std::string differences;
     Output output;
-    if (!compares) {
-        output.onLine = [](const std::string& line) { std::cout << line << '\n'; };
-    }
+    output.prints = !compares;
     Stage stage(output, std::filesystem::path(path).parent_path().string());
     for (const Entry& entry : journey) {
         if (!entry.words.empty()) {
-            Act(stage, entry);
+            OfEntry(entry, [&] {
+                stage.BeforeStep(entry.words);
+                FindStep(entry.words).act(stage, Arguments(entry.words));
+                stage.AfterStep();
+            });
         } else if (const std::string difference = Difference(entry.answers, output.Take());
                    compares && !difference.empty()) {
             differences += path + ':' + std::to_string(entry.line) + ": the program answers otherwise\n" + difference;
         }
     }
-    output.End();
+    output.prints = false; // what the end of the stage makes the program say
     return differences;
 }
 

@@ -1,23 +1,18 @@
 #include "tests/journey_driver/stage.h"
 
 #include "base/guard.h"
-#include "binding/mtr_data_source.h"
 #include "document/view_document.h"
 #include "editor/application.h"
 #include "editor/main_form.h"
 #include "editor/property_panel.h"
-#include "elements/status_element.h"
 #include "forms/bars.h"
 #include "pages/page.h"
-#include "support/frm_view_pbar.h"
-#include "tests/journey_driver/format.h"
 #include "tests/journey_driver/lone_view.h"
-#include "tests/journey_driver/raised_lines.h"
-#include "tests/journey_driver/tracer.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 
 namespace quor {
@@ -28,40 +23,42 @@ const std::string programFolder = "program";
 const std::string logPath = programFolder + "/error.log";
 const std::string reportForm = "frmError";
 
-std::string_view Words(BoxButtons buttons)
-{
-    constexpr std::string_view words[] = {"ok", "yes no", "yes no cancel"};
-    return words[static_cast<std::size_t>(buttons)];
-}
-
 std::string DialogText(const CommonDialog& dialog, DialogKind kind)
 {
     constexpr std::string_view kinds[] = {"open", "save", "color", "font"};
-    std::string text = "dialog " + std::string(kinds[static_cast<std::size_t>(kind)]);
-    const bool isOfFiles = kind == DialogKind::Open || kind == DialogKind::Save;
-    if (isOfFiles) {
-        text += " filter " + Quoted(dialog.Filter);
-    }
-    text += " flags " + ValueText(dialog.Flags);
-    if (isOfFiles) {
-        text += " file " + Quoted(dialog.FileName) + " directory " + Quoted(dialog.InitialDirectory);
-    }
-    return text;
+    const std::string_view name = kinds[static_cast<std::size_t>(kind)];
+    return kind == DialogKind::Open || kind == DialogKind::Save
+               ? Line("dialog", name, "filter", dialog.Filter, "flags", dialog.Flags, "file", dialog.FileName,
+                      "directory", dialog.InitialDirectory)
+               : Line("dialog", name, "flags", dialog.Flags);
 }
 
 } // namespace
 
-Stage::Stage(Output& output, std::string folder)
-    : out(output), m_folder(std::move(folder)), m_tracer(std::make_unique<Tracer>(*this)), m_progress(forms, *m_tracer),
-      m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock, *m_tracer}, programFolder, "user")
+void Output::Text(std::string_view text)
 {
-    m_live.Server = &server;
-    m_live.CatalogHost = &server;
-    m_live.Login = &login;
-    m_live.Boxes = &boxes;
-    m_live.PictureFiles = &pictures;
-    m_live.ViewFiles = &files;
-    m_live.Tracer = m_tracer.get();
+    for (std::string& line : SplitLines(text)) {
+        Add({std::move(line), true});
+    }
+}
+
+void Output::Add(AnswerLine line)
+{
+    if (prints) {
+        std::cout << line.text << '\n';
+    }
+    m_pending.push_back(std::move(line));
+}
+
+Stage::Stage(Output& output, std::string folder)
+    : FakeDesk(static_cast<const Trace&>(*this)), out(output), m_folder(std::move(folder)),
+      m_reporter(ErrorReporter::Ports{files, forms, screen, clipboard, clock, *this}, programFolder, "user")
+{
+    live.Server = &server;
+    live.CatalogHost = &server;
+    live.Login = &login;
+    live.Boxes = &boxes;
+    live.ViewFiles = &files;
     ListenToPorts();
 }
 
@@ -84,31 +81,16 @@ FakeFiles::Bytes Stage::HostBytes(const std::string& path) const
 void Stage::ListenToPorts()
 {
     const auto keep = [&](Subscription subscription) { m_portSubscriptions.push_back(std::move(subscription)); };
-    keep(files.Called.Subscribe([this](const std::string& call) {
-        if (IsTraced("files")) {
-            out.Line(call);
-        }
-    }));
-    keep(screen.PointerSet.Subscribe([this](MousePointer pointer) {
-        if (IsTraced("screen")) {
-            out.Line("pointer " + std::to_string(static_cast<int>(pointer)));
-        }
-    }));
-    keep(login.LogOnShown.Subscribe([this] {
-        if (IsTraced("screen")) {
-            out.Line("logon dialog");
-        }
-    }));
-    keep(server.Called.Subscribe([this](const std::string& call) {
-        if (IsTraced("server")) {
-            out.Line("call " + call);
-        }
-    }));
+    keep(files.Called.Subscribe([this](const std::string& call) { SayIf("files", std::string_view(call)); }));
+    keep(screen.PointerSet.Subscribe(
+        [this](MousePointer pointer) { SayIf("screen", "pointer", static_cast<int>(pointer)); }));
+    keep(login.LogOnShown.Subscribe([this] { SayIf("screen", "logon dialog"); }));
+    keep(server.Called.Subscribe([this](const std::string& call) { SayIf("server", "call", std::string_view(call)); }));
     keep(boxes.Shown.Subscribe([this](const ShownBox& box) {
-        out.Line("message " + Quoted(box.text) + " title " + Quoted(box.title) + " buttons " +
-                 std::string(Words(box.buttons)));
+        constexpr std::string_view buttons[] = {"ok", "yes no", "yes no cancel"};
+        out.Say("message", box.text, "title", box.title, "buttons", buttons[static_cast<std::size_t>(box.buttons)]);
     }));
-    keep(dialog.Shown.Subscribe([this](DialogKind kind) { out.Line(DialogText(dialog, kind)); }));
+    keep(dialog.Shown.Subscribe([this](DialogKind kind) { out.Say(std::string_view(DialogText(dialog, kind))); }));
     keep(forms.Shown.Subscribe([this](Form& form) { OnForm(form); }));
     keep(forms.ModalShown.Subscribe([this](Form& form) {
         if (form.Name() == reportForm) {
@@ -122,15 +104,15 @@ void Stage::ListenToPorts()
 void Stage::OnForm(Form& form)
 {
     if (form.Name() == "frmSplash") {
-        out.Line("splash " + Quoted(form.Item<Label>("lblSplash").Caption()));
-    } else if (const auto* progress = dynamic_cast<const frmViewPBar*>(&form)) {
-        out.Line("progress " + Quoted(progress->lblStatus.Caption()) + ' ' + ValueText(progress->pbrConfig.Maximum()));
+        out.Say("splash", form.Item<Label>("lblSplash").Caption());
+    } else if (form.Name() == progress.Name()) {
+        out.Say("progress", progress.lblStatus.Caption(), progress.pbrConfig.Maximum());
     }
 }
 
 void Stage::BeforeStep(std::span<const Word> words)
 {
-    m_tracer->BeginStep();
+    m_status.reset();
     // An error report stays on the screen for steps that speak of it; else the user has read it.
     const bool isRead = std::ranges::none_of(words, [](const Word& word) { return word.text.starts_with(reportForm); });
     if (isRead) {
@@ -150,7 +132,7 @@ void Stage::AfterStep()
     if (m_application != nullptr && m_application->HasEnded() && !m_endIsTold) {
         CloseReports();
         m_endIsTold = true;
-        out.Line("ended");
+        out.Say("ended");
         m_programSubscriptions.clear();
         m_application.reset();
     }
@@ -161,17 +143,15 @@ void Stage::Start(const std::string& tail)
     if (m_application != nullptr || m_liveView != nullptr) {
         throw JourneyError("the program runs already");
     }
-    m_live.DesignMode = false;
-    m_live.Catalog = nullptr;
+    live.DesignMode = false;
+    live.Catalog = nullptr;
     m_endIsTold = false;
-    m_tracer->BeginProgram();
-    const EditorPorts ports{files,    boxes, dialog,     forms,      timers, screen, pictures,
-                            settings, login, m_reporter, m_progress, m_live, help,   systemInfo};
-    m_application = std::make_unique<Application>(ports, tail);
+    m_selected.clear();
+    m_application = std::make_unique<Application>(PortsOfEditor(m_reporter), tail);
     const auto keep = [&](Subscription subscription) { m_programSubscriptions.push_back(std::move(subscription)); };
     keep(m_application->MainFormShown.Subscribe([this, keep](frmMain& main) {
-        out.Line("main form");
-        keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Line("popup " + band.Name); }));
+        out.Say("main form");
+        keep(main.abViewEdit().Popup.Subscribe([this](Band& band) { out.Say("popup", std::string_view(band.Name)); }));
     }));
     m_application->Start();
 }
@@ -181,9 +161,8 @@ void Stage::OpenLive(const std::string& path)
     if (m_application != nullptr) {
         throw JourneyError("the editor runs already");
     }
-    m_live.DesignMode = false;
-    const ViewPorts ports{files, boxes, m_reporter, timers, pictures, m_progress, m_live};
-    m_liveView = std::make_unique<LoneView>(ports);
+    live.DesignMode = false;
+    m_liveView = std::make_unique<LoneView>(PortsOfView(m_reporter));
     m_liveView->Load(path);
 }
 
@@ -193,11 +172,16 @@ void Stage::Raise(const std::function<void()>& raise)
         IgnoreFailure(raise);
         return;
     }
-    RaisedLines lines;
-    RaisedLines* outer = std::exchange(m_raised, &lines);
+    std::vector<std::pair<Place, std::string>> lines;
+    auto* outer = std::exchange(m_raised, &lines);
+    const Place outerPlace = std::exchange(m_place, {});
     IgnoreFailure(raise);
     m_raised = outer;
-    lines.Print(out);
+    m_place = outerPlace;
+    std::ranges::stable_sort(lines, {}, &std::pair<Place, std::string>::first);
+    for (const auto& [place, line] : lines) {
+        out.Say(std::string_view(line));
+    }
 }
 
 // The position of an element that one of the two recognises; none while it is being made or when it is gone.
@@ -216,34 +200,95 @@ template <class IsIt> const Element* Stage::Find(std::size_t& position, IsIt isI
     return nullptr;
 }
 
-void Stage::Tell(const std::string& name, std::string line)
+void Stage::Tell(const std::string& name, std::string line) const
 {
     if (m_raised == nullptr) {
-        out.Line(std::move(line));
+        out.Say(std::string_view(line));
         return;
     }
     std::size_t position = 0;
     Find(position, [&](const Element& element) { return element.ObjName() == name; });
-    m_raised->Add(position, std::move(line));
+    m_raised->emplace_back(m_place.first == position ? m_place : Place{position, 1}, std::move(line));
 }
 
-void Stage::Tell(const ServerListener& source, const std::string& words)
+void Stage::Tell(const ServerListener& source, const std::string& line) const
 {
     const auto isOf = [&](const Element& element) {
         auto& owner = const_cast<Element&>(element);
         return &source == &element.ClickAction || &source == owner.StatusSource() || &source == owner.MeterSource();
     };
     std::size_t position = 0;
-    const Element* element = Find(position, isOf);
-    if (element == nullptr) {
-        return;
+    if (const Element* element = Find(position, isOf)) {
+        m_place = {position, &source == &element->ClickAction ? 0 : 1};
+        if (traced.contains("sources")) {
+            Tell(element->ObjName(), Line(element->ObjName(), std::string_view(line)));
+        }
     }
-    if (m_raised != nullptr) {
-        m_raised->Begin(position, &source == &element->ClickAction);
+}
+
+void Stage::Writes(const Widget& widget, const WrittenProperty& property) const
+{
+    PropertyPrinter printer([&](std::string_view name, const std::string& value) {
+        Tell(widget.Tag(), Line("write", widget.Tag(), name, std::string_view(value)));
+    });
+    if (traced.contains("widgets")) {
+        property.visit(printer, property);
     }
-    if (IsTraced("sources")) {
-        Tell(element->ObjName(), Quoted(element->ObjName()) + ' ' + words);
+}
+
+void Stage::Repaints(const Widget& widget) const
+{
+    if (traced.contains("widgets")) {
+        Tell(widget.Tag(), Line("repaint", widget.Tag()));
     }
+}
+
+void Stage::Selects(const Widget* widget) const
+{
+    const std::string name = widget == nullptr ? "" : widget->Tag();
+    if (widget == nullptr) {
+        out.Say("select none");
+    } else if (name != m_selected) {
+        out.Say("select", name);
+    }
+    m_selected = name;
+}
+
+void Stage::SetsStatus(const std::string& text) const
+{
+    // The fields of a page that takes over an element set one and the same text again and again.
+    if (m_status != text) {
+        out.Say("status", text);
+        m_status = text;
+    }
+}
+
+void Stage::SetsTabs(const Band& panel) const
+{
+    m_status.reset();
+    std::string captions;
+    for (const Band* child : panel.Children()) {
+        if (child->Visible()) {
+            captions += Quoted(child->Caption) + ' ';
+        }
+    }
+    const Band* front = panel.CurrentChild();
+    out.Say("tabs", std::string_view(captions + "front"), front == nullptr ? std::string() : front->Caption);
+}
+
+void Stage::Calls(std::string_view verb, const std::string& page, const std::string& element) const
+{
+    if (verb == "SetOwner") {
+        SayIf("pages", verb, std::string_view(page), element);
+    } else {
+        SayIf("pages", verb, std::string_view(page));
+    }
+}
+
+void Stage::Reports(const ErrorReport& report) const
+{
+    out.Say("error", report.message, "number", report.number, "source", report.source, "description",
+            report.description, "ref", report.ref);
 }
 
 frmMain& Stage::Main() const
@@ -275,25 +320,21 @@ Element& Stage::ElementOf(const std::string& name) const
     throw JourneyError("no such element: " + name);
 }
 
-Form& Stage::FormOf(const std::string& name) const
+Form& Stage::FormOf(std::string_view name) const
 {
     Form* form = forms.Find(name);
     if (form == nullptr && m_application != nullptr) {
         form = Main().Panel().FindPage(name);
     }
-    if (form != nullptr) {
-        return *form;
+    if (form == nullptr) {
+        throw JourneyError("no such form: " + std::string(name));
     }
-    throw JourneyError("no such form: " + name);
+    return *form;
 }
 
-std::vector<std::string> Stage::LogLines() const
+std::string Stage::LogText() const
 {
-    std::vector<std::string> lines;
-    if (files.Has(logPath)) {
-        lines = SplitLines(files.Text(logPath));
-    }
-    return lines;
+    return files.Has(logPath) ? files.Text(logPath) : std::string();
 }
 
 std::vector<std::string> Stage::FilePaths() const

@@ -1,29 +1,22 @@
 #pragma once
 // The program on its stage: every port in memory, and what it says as lines.
 
-#include "binding/live.h"
+#include "binding/bln_data_source.h"
+#include "binding/cmd_data_source.h"
+#include "binding/mtr_data_source.h"
+#include "platform/trace.h"
 #include "support/error_report.h"
-#include "support/frm_view_pbar.h"
-#include "tests/journey_driver/journey.h"
-#include "tests/journey_driver/output.h"
-#include "tests/support/fake_boxes.h"
-#include "tests/support/fake_clipboard.h"
-#include "tests/support/fake_dialog.h"
-#include "tests/support/fake_files.h"
-#include "tests/support/fake_forms.h"
-#include "tests/support/fake_login.h"
-#include "tests/support/fake_pictures.h"
-#include "tests/support/fake_screen.h"
+#include "tests/journey_driver/words.h"
+#include "tests/support/fake_desk.h"
 #include "tests/support/fake_server.h"
-#include "tests/support/fake_settings.h"
-#include "tests/support/fake_system_info.h"
-#include "tests/support/fake_timers.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quor {
@@ -33,12 +26,29 @@ class Canvas;
 class Element;
 class Form;
 class LoneView;
-class RaisedLines;
-class Tracer;
 class clsCustView;
 class frmMain;
 
-class Stage {
+// The lines that come out of a journey.
+class Output {
+public:
+    bool prints = false; // each line as it comes
+
+    template <class... T> void Say(const T&... values) { Add({Line(values...)}); }
+
+    // A bare text, as the lines that it has.
+    void Text(std::string_view text);
+
+    // The lines since the last time.
+    std::vector<AnswerLine> Take() { return std::exchange(m_pending, {}); }
+
+private:
+    void Add(AnswerLine line);
+
+    std::vector<AnswerLine> m_pending;
+};
+
+class Stage : private Trace, public FakeDesk {
 public:
     // Paths of the journey's own files are relative to the folder.
     Stage(Output& output, std::string folder);
@@ -47,23 +57,10 @@ public:
     Stage& operator=(const Stage&) = delete;
 
     Output& out;
-    FakeFiles files;
-    FakeTimers timers;
-    FakeForms forms{timers};
-    FakeBoxes boxes;
-    FakeDialog dialog;
-    FakeSettings settings;
-    FakeLogin login;
-    FakePictures pictures{files};
-    FakeClipboard clipboard;
-    FakeScreen screen;
-    FakeClock clock;
-    FakeHelp help;
-    FakeSystemInfo systemInfo;
     FakeServer server;
     std::set<std::int16_t> loginRights = login.rightsHeld; // of whom logs on next
     std::vector<std::string> reportButtons;                // that the user pushes in the next error report
-    std::set<std::string> traced;                          // what is traced
+    std::set<std::string, std::less<>> traced;             // what is traced
 
     // A file of the journey's folder; fails with JourneyError.
     bool HasHostFile(const std::string& path) const;
@@ -83,34 +80,81 @@ public:
     clsCustView& View() const;
     Canvas& CanvasInUse() const;
     Element& ElementOf(const std::string& name) const;
-    Form& FormOf(const std::string& name) const;
-
-    bool IsTraced(const std::string& what) const { return traced.contains(what); }
-
-    // A line about an element, by its widget's tag or its source.
-    void Tell(const std::string& element, std::string line);
-    void Tell(const ServerListener& source, const std::string& words);
+    Form& FormOf(std::string_view name) const;
 
     // Runs what raises an event: the lines about elements come in the order of the elements.
     void Raise(const std::function<void()>& raise);
 
-    std::vector<std::string> LogLines() const;
+    std::string LogText() const;
     std::vector<std::string> FilePaths() const; // without the log
 
 private:
+    // Where a line about an element belongs among those of one event: its click action comes first.
+    using Place = std::pair<std::size_t, int>;
+
+    // A line if that is traced.
+    template <class... T> void SayIf(std::string_view what, const T&... values) const
+    {
+        if (traced.contains(what)) {
+            out.Say(values...);
+        }
+    }
+
+    // A line about an element, by its widget's tag or its source.
+    void Tell(const std::string& element, std::string line) const;
+    void Tell(const ServerListener& source, const std::string& line) const;
+
+    void Writes(const Widget& widget, const WrittenProperty& property) const override;
+    void Repaints(const Widget& widget) const override;
+    void UpdateBlnData(const clsBlnDataSource& source, bool value, bool mute) const override
+    {
+        Tell(source, Line("UpdateBlnData", value, mute));
+    }
+    void LabelData(const clsBlnDataSource& source, const std::string& on, const std::string& off) const override
+    {
+        Tell(source, Line("LabelData", on, off));
+    }
+    void UpdateMtrData(const clsMtrDataSource& source, float value, bool mute) const override
+    {
+        Tell(source, Line("UpdateMtrData", value, mute));
+    }
+    void DecPlacesChanged(const clsMtrDataSource& source, std::int16_t places) const override
+    {
+        Tell(source, Line("DecPlacesChanged", places));
+    }
+    void LabelData(const clsMtrDataSource& source, const MeterLabel& label) const override
+    {
+        Tell(source, Line("LabelData", label.strLabel, label.sngMin, label.sngMax, label.sngSecondLower,
+                          label.sngFirstLower, label.sngFirstUpper, label.sngSecondUpper));
+    }
+    void LabelData(const clsCmdDataSource& source, const std::string& caption) const override
+    {
+        Tell(source, Line("LabelData", caption));
+    }
+    void ToggleEnable(const clsCmdDataSource& source, bool enable) const override
+    {
+        Tell(source, Line("ToggleEnable", enable));
+    }
+    void Selects(const Widget* widget) const override;
+    void SetsStatus(const std::string& text) const override;
+    void SetsTabs(const Band& panel) const override;
+    void Calls(std::string_view verb, const std::string& page, const std::string& element) const override;
+    void Reports(const ErrorReport& report) const override;
+    void Steps(std::int32_t value) const override { SayIf("screen", "progress step", value); }
+
     template <class IsIt> const Element* Find(std::size_t& position, IsIt isIt) const;
     void ListenToPorts();
     void OnForm(Form& form);
     void CloseReports();
 
     std::string m_folder;
-    Live m_live;
-    std::unique_ptr<Tracer> m_tracer;
-    frmViewPBar m_progress;
     ErrorReporter m_reporter;
-    RaisedLines* m_raised = nullptr; // of the event under way
     std::unique_ptr<Application> m_application;
     std::unique_ptr<LoneView> m_liveView;
+    std::vector<std::pair<Place, std::string>>* m_raised = nullptr; // of the event under way
+    mutable Place m_place;                                          // of the source that is heard
+    mutable std::string m_selected;                                 // the name of the selected element
+    mutable std::optional<std::string> m_status;                    // the text that was last told in this step
     bool m_endIsTold = true;
     std::vector<Subscription> m_portSubscriptions;
     std::vector<Subscription> m_programSubscriptions;

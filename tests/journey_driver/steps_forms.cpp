@@ -3,8 +3,6 @@
 #include "forms/fields.h"
 #include "forms/form.h"
 #include "forms/panes.h"
-#include "tests/journey_driver/format.h"
-#include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
 namespace quor {
@@ -32,22 +30,13 @@ Target FindTarget(Stage& stage, const std::string& text)
         throw JourneyError("no such control: " + text);
     }
     const std::string index = name.substr(bracket + 1, name.size() - bracket - 2);
-    return {options->get(), ToInteger(index)};
+    return {options->get(), To<std::int32_t>(index)};
 }
 
-void SetList(ListBox& list, const std::string& value)
+template <class List> void SetRow(List& list, std::ptrdiff_t count, const std::string& value)
 {
-    const std::int32_t index = ToInteger(value);
-    if (index < 0 || index >= std::ssize(list.Items())) {
-        throw JourneyError("the list has no row " + value);
-    }
-    list.Choose(index);
-}
-
-void SetRow(RowList& list, const std::string& value)
-{
-    const std::int32_t index = ToInteger(value);
-    if (index < 0 || index >= std::ssize(list.Rows())) {
+    const auto index = To<std::int32_t>(value);
+    if (index < 0 || index >= count) {
         throw JourneyError("the list has no row " + value);
     }
     list.Choose(index);
@@ -71,14 +60,14 @@ void SetOption(OptionArray& options, std::int32_t option, const std::string& val
     options.Choose(option);
 }
 
-void Set(Stage& stage, const Arguments& arguments)
+void Set(Stage& stage, const Arguments& words)
 {
-    const Target target = FindTarget(stage, arguments[0]);
-    const std::string& value = arguments[1];
+    const Target target = FindTarget(stage, words[1]);
+    const std::string& value = words[2];
     if (auto* list = dynamic_cast<ListBox*>(target.control)) {
-        SetList(*list, value);
+        SetRow(*list, std::ssize(list->Items()), value);
     } else if (auto* rows = dynamic_cast<RowList*>(target.control)) {
-        SetRow(*rows, value);
+        SetRow(*rows, std::ssize(rows->Rows()), value);
     } else if (auto* box = dynamic_cast<CheckBox*>(target.control)) {
         SetBox(*box, value);
     } else if (auto* options = dynamic_cast<OptionArray*>(target.control)) {
@@ -88,53 +77,50 @@ void Set(Stage& stage, const Arguments& arguments)
     } else if (auto* number = dynamic_cast<NumberField*>(target.control)) {
         number->Type(value);
     } else {
-        throw JourneyError("nothing to set: " + arguments[0]);
+        throw JourneyError("nothing to set: " + words[1]);
     }
 }
 
 // What is typed replaces what was there; a number field lets a character that it refuses fall under the table.
-void Type(Stage& stage, const Arguments& arguments)
+void Type(Stage& stage, const Arguments& words)
 {
-    const Target target = FindTarget(stage, arguments[0]);
+    const Target target = FindTarget(stage, words[1]);
     auto* text = dynamic_cast<TextBox*>(target.control);
     auto* number = dynamic_cast<NumberField*>(target.control);
     if (text == nullptr && number == nullptr) {
-        throw JourneyError("nothing to type into: " + arguments[0]);
+        throw JourneyError("nothing to type into: " + words[1]);
     }
     std::string typed;
-    const auto isInCharacter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
-    const std::string& all = arguments[1];
-    for (std::size_t end = 1, start = 0; start < all.size(); start = end++) {
-        while (end < all.size() && isInCharacter(all[end])) {
-            ++end;
-        }
-        const std::string longer = typed + all.substr(start, end - start);
+    for (std::string_view rest = words[2]; !rest.empty();) {
+        const std::string longer = typed + std::string(FirstCharacter(rest));
+        rest.remove_prefix(FirstCharacter(rest).size());
         if (text != nullptr) {
             text->Type(longer);
-            typed = longer;
         } else if (number->Judge(longer) != NumberField::Typing::Refused) {
             number->Type(longer);
-            typed = longer;
+        } else {
+            continue;
         }
+        typed = longer;
     }
 }
 
-void Push(Stage& stage, const Arguments& arguments)
+void Push(Stage& stage, const Arguments& words)
 {
-    const Target target = FindTarget(stage, arguments[0]);
+    const Target target = FindTarget(stage, words[1]);
     if (auto* button = dynamic_cast<Button*>(target.control)) {
         button->Push();
     } else if (auto* swatch = dynamic_cast<Swatch*>(target.control)) {
         swatch->Push();
     } else {
-        throw JourneyError("nothing to push: " + arguments[0]);
+        throw JourneyError("nothing to push: " + words[1]);
     }
 }
 
 constexpr StepRow rows[] = {
-    {"set", "FORM.CONTROL VALUE", Set},
-    {"type", "FORM.CONTROL TEXT", Type},
-    {"push", "FORM.CONTROL", Push},
+    {"set FORM.CONTROL VALUE", Set},
+    {"type FORM.CONTROL TEXT", Type},
+    {"push FORM.CONTROL", Push},
 };
 
 } // namespace

@@ -11,8 +11,6 @@
 #include "elements/mtr_linear.h"
 #include "elements/picture.h"
 #include "elements/status_label.h"
-#include "tests/journey_driver/format.h"
-#include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
 namespace quor {
@@ -29,9 +27,7 @@ template <class Owner, class Base, class P> bool SetIfMeant(Owner& owner, const 
     if (P::name != wish.name) {
         return false;
     }
-    typename P::Value value{};
-    ReadValue(wish.text, value);
-    owner.Set(setting, value);
+    owner.Set(setting, To<typename P::Value>(wish.text));
     return true;
 }
 
@@ -143,21 +139,21 @@ bool SetScaleMeter(Element& element, const Wish& wish)
                     &E::SectionEnd1, &E::SectionEnd2, &E::SectionEnd3, &E::SectionEnd4, &E::TickLabelColor);
 }
 
-void Let(Stage& stage, const Arguments& arguments)
+void Let(Stage& stage, const Arguments& words)
 {
-    Element& element = stage.ElementOf(arguments[0]);
-    const Wish wish{arguments[1], arguments[2]};
+    Element& element = stage.ElementOf(words[1]);
+    const Wish wish{words[2], words[3]};
     for (const auto set :
          {SetCommon, SetStatus, SetMeterSource, SetLamp, SetLabel, SetPicture, SetButton, SetMeter, SetScaleMeter}) {
         if (set(element, wish)) {
             return;
         }
     }
-    throw JourneyError("no such setting: " + arguments[1]);
+    throw JourneyError("no such setting: " + words[2]);
 }
 
 constexpr StepRow rows[] = {
-    {"let", "NAME SETTING VALUE", Let},
+    {"let NAME SETTING VALUE", Let},
 };
 
 } // namespace

@@ -1,194 +1,115 @@
 // Steps that prepare what the program will find and what its user will do.
 
-#include "tests/journey_driver/format.h"
-#include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
 #include <algorithm>
-#include <set>
-#include <utility>
 
 namespace quor {
 
 namespace {
 
-void SetSetting(Stage& stage, const Arguments& arguments)
+template <auto Member> void SetSetting(Stage& stage, const Arguments& words)
 {
-    FakeSettings& settings = stage.settings;
-    const std::string& name = arguments[0];
-    const std::string& value = arguments[1];
-    if (name == "GridSize") {
-        ReadValue(value, settings.gridSize);
-    } else if (name == "ShowGrid") {
-        ReadValue(value, settings.showGrid);
-    } else if (name == "SnapToGrid") {
-        ReadValue(value, settings.snapToGrid);
-    } else if (name == "ViewsDirectory") {
-        settings.viewsDirectory = value;
-    } else if (name == "ToolbarDirectory") {
-        settings.toolbarDirectory = value;
-    } else {
-        settings.helpFile = value;
-    }
+    auto& member = stage.settings.*Member;
+    member = words.As<std::remove_reference_t<decltype(member)>>(2);
 }
 
-FakeFiles::Bytes FromHex(std::string_view digits)
+void TakeFile(Stage& stage, const Arguments& words)
 {
-    FakeFiles::Bytes bytes;
-    for (; !digits.empty(); digits.remove_prefix(2)) {
-        Color byte;
-        if (digits.size() < 2) {
-            throw JourneyError("half a byte");
-        }
-        ReadValue("0x" + std::string(digits.substr(0, 2)), byte);
-        bytes.push_back(static_cast<std::uint8_t>(byte.value));
-    }
-    return bytes;
+    stage.files.Put(words[1], stage.HostBytes(words[3]));
 }
 
-void MakeFile(Stage& stage, const Arguments& arguments)
+void MakeFile(Stage& stage, const Arguments& words)
 {
-    if (arguments[1] == "from") {
-        if (arguments.Count() != 3) {
-            throw JourneyError("wanted is: file PATH from PATH2");
-        }
-        stage.files.Put(arguments[0], stage.HostBytes(arguments[2]));
-        return;
-    }
     std::string digits;
-    for (const Word& word : arguments.From(2)) {
+    for (const Word& word : words.From(3)) {
         digits += word.text;
     }
-    stage.files.Put(arguments[0], FromHex(digits));
-}
-
-void DeleteFile(Stage& stage, const Arguments& arguments)
-{
-    if (!stage.files.Has(arguments[0])) {
-        throw JourneyError("no such file: " + arguments[0]);
+    FakeFiles::Bytes bytes;
+    for (std::size_t at = 0; at < digits.size(); at += 2) {
+        const std::string byte = digits.substr(at, 2);
+        if (byte.size() < 2) {
+            throw JourneyError("half a byte");
+        }
+        bytes.push_back(static_cast<std::uint8_t>(To<Color>("0x" + byte).value));
     }
-    stage.files.Erase(arguments[0]);
+    stage.files.Put(words[1], bytes);
 }
 
-void MakeReadOnly(Stage& stage, const Arguments& arguments)
+void DeleteFile(Stage& stage, const Arguments& words)
 {
-    stage.files.SetReadOnly(arguments[0]);
+    stage.files.Get(words[1]);
+    stage.files.Erase(words[1]);
 }
 
-struct FailingCall {
-    std::string_view call;
-    PlannedFailures& (*port)(Stage& stage);
-};
-
-constexpr auto ofFiles = [](Stage& stage) -> PlannedFailures& { return stage.files.planned; };
-constexpr auto ofDialog = [](Stage& stage) -> PlannedFailures& { return stage.dialog.planned; };
-constexpr auto ofPictures = [](Stage& stage) -> PlannedFailures& { return stage.pictures.planned; };
-constexpr auto ofSettings = [](Stage& stage) -> PlannedFailures& { return stage.settings.planned; };
-constexpr auto ofClipboard = [](Stage& stage) -> PlannedFailures& { return stage.clipboard.planned; };
-
-constexpr FailingCall failingCalls[] = {
-    {"files.exists", ofFiles},     {"files.open", ofFiles},        {"files.read", ofFiles},
-    {"files.write", ofFiles},      {"files.copy", ofFiles},        {"files.move", ofFiles},
-    {"files.delete", ofFiles},     {"dialog.open", ofDialog},      {"dialog.save", ofDialog},
-    {"dialog.color", ofDialog},    {"dialog.font", ofDialog},      {"pictures.load", ofPictures},
-    {"settings.read", ofSettings}, {"settings.write", ofSettings}, {"clipboard.set", ofClipboard},
-};
-
-const FailingCall& FindCall(const Arguments& arguments)
+void MakeReadOnly(Stage& stage, const Arguments& words)
 {
-    const auto* call = std::ranges::find(failingCalls, std::string_view(arguments[0]), &FailingCall::call);
-    if (call == std::end(failingCalls) || arguments.Integer(1) < 1) {
-        throw JourneyError("no such call: " + arguments[0] + ' ' + arguments[1]);
+    stage.files.SetReadOnly(words[1]);
+}
+
+template <auto Port> void PlanFailure(Stage& stage, const Arguments& words)
+{
+    const int n = words.As<int>(2);
+    if (n < 1) {
+        throw JourneyError("the very next call is 1");
     }
-    return *call;
+    const std::string operation = words[1].substr(words[1].find('.') + 1);
+    (stage.*Port).planned.Plan(operation, n, words.Has(3) ? words.As<int>(3) : failures::internal);
 }
 
-void CheckFailure(const Arguments& arguments)
+void Answer(Stage& stage, const Arguments& words)
 {
-    FindCall(arguments);
-}
-
-void PlanFailure(Stage& stage, const Arguments& arguments)
-{
-    const FailingCall& call = FindCall(arguments);
-    const std::string_view operation = call.call.substr(call.call.find('.') + 1);
-    const std::int32_t number = arguments.Has(2) ? arguments.Integer(2) : failures::internal;
-    call.port(stage).Plan(operation, arguments.Integer(1), number);
-}
-
-void Answer(Stage& stage, const Arguments& arguments)
-{
-    using Named = std::pair<std::string_view, BoxAnswer>;
-    constexpr Named answers[] = {
-        {"ok", BoxAnswer::Ok}, {"yes", BoxAnswer::Yes}, {"no", BoxAnswer::No}, {"cancel", BoxAnswer::Cancel}};
-    for (const Word& word : arguments.From(0)) {
-        const auto* found = std::ranges::find(answers, std::string_view(word.text), &Named::first);
+    constexpr std::string_view answers[] = {"ok", "yes", "no", "cancel"};
+    for (const Word& word : words.From(1)) {
+        const auto* found = std::ranges::find(answers, word.text);
         if (found != std::end(answers)) {
-            stage.boxes.answers.push_back(found->second);
+            stage.boxes.answers.push_back(static_cast<BoxAnswer>(found - answers));
         } else {
             stage.reportButtons.push_back(word.text == "copy" ? "cmdCopy" : "cmdDetails");
         }
     }
 }
 
-void PickFont(Stage& stage, const Arguments& arguments)
+void PickFont(Stage& stage, const Arguments& words)
 {
-    if (!arguments.Has(2)) {
-        throw JourneyError("wanted is: dialog font NAME SIZE [bold] [italic] [underline] [strikethrough]");
-    }
     std::set<std::string> styles;
-    for (const Word& word : arguments.From(3)) {
+    for (const Word& word : words.From(4)) {
         styles.insert(word.text);
     }
-    const auto takes = [&](const char* style) { return styles.erase(style) > 0; };
-    const bool bold = takes("bold");
-    const bool italic = takes("italic");
-    const bool underline = takes("underline");
-    const bool strikethrough = takes("strikethrough");
-    if (!styles.empty()) {
-        throw JourneyError("no such style: " + *styles.begin());
-    }
-    stage.dialog.WillPickFont([=, name = arguments[1], size = arguments.Number(2)](CommonDialog& dialog) {
+    stage.dialog.WillPickFont([=, name = words[2], size = words.As<double>(3)](CommonDialog& dialog) {
         dialog.FontName = name;
         dialog.FontSize = size;
-        dialog.FontBold = bold;
-        dialog.FontItalic = italic;
-        dialog.FontUnderline = underline;
-        dialog.FontStrikethru = strikethrough;
+        dialog.FontBold = styles.contains("bold");
+        dialog.FontItalic = styles.contains("italic");
+        dialog.FontUnderline = styles.contains("underline");
+        dialog.FontStrikethru = styles.contains("strikethrough");
     });
 }
 
-void ScriptDialog(Stage& stage, const Arguments& arguments)
-{
-    const std::string& kind = arguments[0];
-    if (kind == "font") {
-        PickFont(stage, arguments);
-        return;
-    }
-    if (arguments.Count() != (kind == "cancel" ? 1U : 2U)) {
-        throw JourneyError("wanted is: dialog open|save PATH, dialog color 0x..., dialog cancel");
-    }
-    if (kind == "open") {
-        stage.dialog.WillOpen(arguments[1]);
-    } else if (kind == "save") {
-        stage.dialog.WillSave(arguments[1]);
-    } else if (kind == "color") {
-        Color color;
-        ReadValue(arguments[1], color);
-        stage.dialog.WillPickColor(color);
-    } else {
-        stage.dialog.WillCancel();
-    }
-}
-
 constexpr StepRow rows[] = {
-    {"setting", "GridSize|ShowGrid|SnapToGrid|ViewsDirectory|ToolbarDirectory|HelpFile VALUE", SetSetting},
-    {"file", "PATH from|hex [TEXT...]", MakeFile},
-    {"delete", "PATH", DeleteFile},
-    {"readonly", "PATH", MakeReadOnly},
-    {"fail", "PORT.CALL N [NUMBER]", PlanFailure, CheckFailure},
-    {"answer", "ok|yes|no|cancel|copy|details...", Answer},
-    {"dialog", "open|save|color|font|cancel [VALUE...]", ScriptDialog},
+    {"setting GridSize N", SetSetting<&FakeSettings::gridSize>},
+    {"setting ShowGrid true|false", SetSetting<&FakeSettings::showGrid>},
+    {"setting SnapToGrid true|false", SetSetting<&FakeSettings::snapToGrid>},
+    {"setting ViewsDirectory PATH", SetSetting<&FakeSettings::viewsDirectory>},
+    {"setting ToolbarDirectory PATH", SetSetting<&FakeSettings::toolbarDirectory>},
+    {"setting HelpFile PATH", SetSetting<&FakeSettings::helpFile>},
+    {"file PATH from PATH2", TakeFile},
+    {"file PATH hex [BYTES...]", MakeFile},
+    {"delete PATH", DeleteFile},
+    {"readonly PATH", MakeReadOnly},
+    {"fail files.exists|files.open|files.read|files.write|files.copy|files.move|files.delete N [NUMBER]",
+     PlanFailure<&Stage::files>},
+    {"fail dialog.open|dialog.save|dialog.color|dialog.font N [NUMBER]", PlanFailure<&Stage::dialog>},
+    {"fail pictures.load N [NUMBER]", PlanFailure<&Stage::pictures>},
+    {"fail settings.read|settings.write N [NUMBER]", PlanFailure<&Stage::settings>},
+    {"fail clipboard.set N [NUMBER]", PlanFailure<&Stage::clipboard>},
+    {"answer ok|yes|no|cancel|copy|details...", Answer},
+    {"dialog open PATH", [](Stage& stage, const Arguments& words) { stage.dialog.WillOpen(words[2]); }},
+    {"dialog save PATH", [](Stage& stage, const Arguments& words) { stage.dialog.WillSave(words[2]); }},
+    {"dialog color COLOR",
+     [](Stage& stage, const Arguments& words) { stage.dialog.WillPickColor(words.As<Color>(2)); }},
+    {"dialog font NAME SIZE [bold|italic|underline|strikethrough...]", PickFont},
+    {"dialog cancel", [](Stage& stage, const Arguments&) { stage.dialog.WillCancel(); }},
 };
 
 } // namespace

@@ -1,47 +1,22 @@
 // Steps that show what stands: print and trace.
 
 #include "apps/view_json/view_json.h"
-#include "binding/live.h"
-#include "document/view_document.h"
 #include "editor/main_form.h"
 #include "elements/mtr_linear.h"
 #include "format/container.h"
 #include "forms/bars.h"
 #include "forms/form.h"
-#include "support/frm_view_pbar.h"
 #include "tests/journey_driver/control_text.h"
-#include "tests/journey_driver/format.h"
 #include "tests/journey_driver/lone_view.h"
-#include "tests/journey_driver/stage.h"
 #include "tests/journey_driver/steps.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace quor {
 
 namespace {
 
-std::string Flag(std::string_view name, bool value)
-{
-    return ' ' + std::string(name) + ' ' + ValueText(value);
-}
-
-std::string Number(std::string_view name, float value)
-{
-    return ' ' + std::string(name) + ' ' + ValueText(value);
-}
-
-// Prints `NAME VALUE`: all, or those of that name or with it in front of a dot.
-NamedValue PrintNamed(Stage& stage, const std::string& wanted, bool& isFound)
-{
-    return [&stage, wanted, &isFound](std::string_view name, const std::string& value) {
-        if (wanted.empty() || name == wanted || name.starts_with(wanted + '.')) {
-            isFound = true;
-            stage.out.Line(std::string(name) + ' ' + value);
-        }
-    };
-}
+using Bare = std::string_view;
 
 void MustBeFound(bool isFound, const std::string& what)
 {
@@ -50,33 +25,44 @@ void MustBeFound(bool isFound, const std::string& what)
     }
 }
 
+// Prints `NAME VALUE` of what a printer visits: all, or those of that name or with it in front of a dot.
+template <class Printer, class Visit> void PrintNamed(Stage& stage, const std::string& wanted, Visit visit)
+{
+    bool isFound = wanted.empty();
+    Printer printer([&](Bare name, const std::string& value) {
+        if (wanted.empty() || name == wanted || name.starts_with(wanted + '.')) {
+            isFound = true;
+            stage.out.Say(name, Bare(value));
+        }
+    });
+    visit(printer);
+    MustBeFound(isFound, wanted);
+}
+
 void PrintElements(Stage& stage, const Arguments&)
 {
     for (const Element* element : stage.View().CtlOrder()) {
-        stage.out.Line("element " + std::to_string(element->ElementType()) + ' ' + Quoted(element->ObjName()) +
-                       Number("left", element->ObjLeft()) + Number("top", element->ObjTop()) +
-                       Number("width", element->ObjWidth()) + Number("height", element->ObjHeight()));
+        stage.out.Say("element", element->ElementType(), element->ObjName(), "left", element->ObjLeft(), "top",
+                      element->ObjTop(), "width", element->ObjWidth(), "height", element->ObjHeight());
     }
 }
 
-void PrintElement(Stage& stage, const Arguments& arguments)
+void PrintElement(Stage& stage, const Arguments& words)
 {
-    bool isFound = false;
-    FieldPrinter printer(PrintNamed(stage, arguments[2], isFound));
-    Element& element = stage.ElementOf(arguments[1]);
-    element.Fields(printer);
-    if (auto* meter = dynamic_cast<clsMtrLinear*>(&element)) { // which has two settings that no record holds
-        static_cast<FieldWalk&>(printer)(meter->PointerColor, meter->TickVals);
-    }
-    MustBeFound(isFound, arguments[2]);
+    PrintNamed<FieldPrinter>(stage, words[3], [&](FieldWalk& printer) {
+        Element& element = stage.ElementOf(words[2]);
+        element.Fields(printer);
+        if (auto* meter = dynamic_cast<clsMtrLinear*>(&element)) { // which has two settings that no record holds
+            printer(meter->PointerColor, meter->TickVals);
+        }
+    });
 }
 
-void PrintWidget(Stage& stage, const Arguments& arguments)
+void PrintWidget(Stage& stage, const Arguments& words)
 {
-    bool isFound = false;
-    PropertyPrinter printer(PrintNamed(stage, arguments[2], isFound));
-    stage.ElementOf(arguments[1]).MyControl()->VisitProperties(printer);
-    MustBeFound(isFound, arguments[2]);
+    PrintNamed<PropertyPrinter>(stage, words[3], [&](PropertyVisitor& printer) {
+        stage.ElementOf(words[2]).MyControl()->VisitProperties(printer);
+    });
 }
 
 void PrintOrder(Stage& stage, const Arguments&)
@@ -90,93 +76,71 @@ void PrintOrder(Stage& stage, const Arguments&)
 
 void PrintHandles(Stage& stage, const Arguments&)
 {
-    std::size_t index = 0;
+    int index = 0;
     for (const GrabHandle& handle : stage.CanvasInUse().Handles()) {
-        stage.out.Line("handle " + std::to_string(index++) + Number("left", handle.left) + Number("top", handle.top) +
-                       Flag("visible", handle.visible));
+        stage.out.Say("handle", index++, "left", handle.left, "top", handle.top, "visible", handle.visible);
     }
 }
 
-void PrintPage(Stage& stage, const Arguments& arguments)
+void PrintPage(Stage& stage, const Arguments& words)
 {
-    bool isFound = false;
-    const std::string& wanted = arguments[2];
-    for (const std::unique_ptr<Control>& control : stage.FormOf(arguments[1]).Controls()) {
+    const std::string& wanted = words[3];
+    bool isFound = wanted.empty();
+    for (const std::unique_ptr<Control>& control : stage.FormOf(words[2]).Controls()) {
         for (const std::string& line : ControlLines(*control)) {
             if (wanted.empty() || control->Name() == wanted || line.starts_with("control " + wanted + ' ')) {
                 isFound = true;
-                stage.out.Line(line);
+                stage.out.Say(Bare(line));
             }
         }
     }
-    MustBeFound(isFound || wanted.empty(), wanted);
+    MustBeFound(isFound, wanted);
 }
 
 void PrintTools(Stage& stage, const Arguments&)
 {
     for (const std::unique_ptr<BarTool>& tool : stage.Main().abViewEdit().Tools()) {
-        stage.out.Line("tool " + tool->Name + Flag("enabled", tool->Enabled()) + Flag("checked", tool->Checked()));
+        stage.out.Say("tool", Bare(tool->Name), "enabled", tool->Enabled(), "checked", tool->Checked());
     }
 }
 
 void PrintView(Stage& stage, const Arguments&)
 {
-    bool isFound = false;
-    FieldPrinter printer(PrintNamed(stage, "", isFound));
-    stage.View().Fields(printer);
+    PrintNamed<FieldPrinter>(stage, "", [&](FieldWalk& printer) { stage.View().Fields(printer); });
     if (!stage.IsLive()) {
-        stage.out.Line("CurrentFile " + Quoted(stage.Main().Session().CurrentFile()));
-        stage.out.Line("SavedChecksum " + ValueText(stage.Main().Session().SavedChecksum()));
+        stage.out.Say("CurrentFile", stage.Main().Session().CurrentFile());
+        stage.out.Say("SavedChecksum", stage.Main().Session().SavedChecksum());
     }
 }
 
 // Reports of a load that nobody is to see.
-class Silence final : public Reporter {
-public:
-    void ShowError(const ErrorReport& report) noexcept override { words = report.description; }
+struct Silence final : Reporter {
+    void ShowError(const ErrorReport& /*report*/) noexcept override {}
     void LogError(const ErrorReport& /*report*/) noexcept override {}
-
-    std::string words;
 };
 
-void PrintFile(Stage& stage, const Arguments& arguments)
+void PrintFile(Stage& stage, const Arguments& words)
 {
-    const std::string& path = arguments[1];
-    MustBeFound(stage.files.Has(path), "file " + path);
-    FakeFiles files;
-    files.Put(path, stage.files.Get(path));
-    const ViewHeader header = ContainerReader(*files.Open(path, OpenMode::Read)).Header();
-    stage.out.Line("version " + std::to_string(header.version));
-    FakeTimers timers;
-    FakeForms forms(timers);
-    FakeBoxes boxes;
-    FakePictures pictures(files);
+    FakeDesk desk;
+    desk.live.DesignMode = true;
+    desk.files.Put(words[2], stage.files.Get(words[2]));
+    stage.out.Say("version", ContainerReader(*desk.files.Open(words[2], OpenMode::Read)).Header().version);
     Silence reporter;
-    frmViewPBar progress(forms);
-    Live live{true};
-    LoneView lone(ViewPorts{files, boxes, reporter, timers, pictures, progress, live});
-    lone.Load(path);
+    LoneView lone(desk.PortsOfView(reporter));
+    lone.Load(words[2]);
     if (lone.View().Verdict() == LoadVerdict::Ok) {
         for (const std::string& line : SplitLines(JsonText(ViewToJson(lone.View())))) {
-            stage.out.Line(line);
+            stage.out.Say(Bare(line));
         }
     }
 }
 
-void PrintSame(Stage& stage, const Arguments& arguments)
+void PrintSame(Stage& stage, const Arguments& words)
 {
-    MustBeFound(stage.files.Has(arguments[1]), "file " + arguments[1]);
-    const std::string& other = arguments[2];
+    const std::string& other = words[3];
     const bool isOfProgram = !stage.HasHostFile(other) && stage.files.Has(other);
-    const bool same = stage.files.Get(arguments[1]) == (isOfProgram ? stage.files.Get(other) : stage.HostBytes(other));
-    stage.out.Line(same ? "same" : "differs");
-}
-
-void PrintLog(Stage& stage, const Arguments&)
-{
-    for (const std::string& line : stage.LogLines()) {
-        stage.out.Text(line);
-    }
+    const bool same = stage.files.Get(words[2]) == (isOfProgram ? stage.files.Get(other) : stage.HostBytes(other));
+    stage.out.Say(same ? "same" : "differs");
 }
 
 void PrintFiles(Stage& stage, const Arguments&)
@@ -186,100 +150,64 @@ void PrintFiles(Stage& stage, const Arguments&)
     }
 }
 
-void PrintClipboard(Stage& stage, const Arguments&)
-{
-    stage.out.Text(stage.clipboard.text);
-}
-
-void PrintGridLines(Stage& stage, std::string_view name, const GridFamily& family, bool visible)
-{
-    for (int line = 1; line <= family.count; ++line) {
-        stage.out.Line("line " + std::string(name) + '(' + std::to_string(line) + ')' +
-                       Number("place", family.PlaceOf(line)) + Number("length", family.length) +
-                       Flag("visible", visible));
-    }
-}
-
 void PrintGrid(Stage& stage, const Arguments&)
 {
     const GridLines& grid = stage.CanvasInUse().Grid();
-    PrintGridLines(stage, "lnGridX", HorizontalLines(grid), grid.visible);
-    PrintGridLines(stage, "lnGridY", VerticalLines(grid), grid.visible);
+    const auto print = [&](std::string_view name, const GridFamily& family) {
+        for (int line = 1; line <= family.count; ++line) {
+            stage.out.Say("line", Bare(std::string(name) + '(' + std::to_string(line) + ')'), "place",
+                          family.PlaceOf(line), "length", family.length, "visible", grid.visible);
+        }
+    };
+    print("lnGridX", HorizontalLines(grid));
+    print("lnGridY", VerticalLines(grid));
 }
 
 void PrintBands(Stage& stage, const Arguments&)
 {
     for (const std::unique_ptr<Band>& band : stage.Main().abViewEdit().Bands()) {
-        stage.out.Line("band " + band->Name + " caption " + Quoted(band->Caption) + Flag("visible", band->Visible()));
+        stage.out.Say("band", Bare(band->Name), "caption", band->Caption, "visible", band->Visible());
         for (const BandTool& tool : band->Tools()) {
-            stage.out.Line("tool " + tool.Tool().Name + " caption " + Quoted(tool.Caption()) + " tip " +
-                           Quoted(tool.Tip()));
+            stage.out.Say("tool", Bare(tool.Tool().Name), "caption", tool.Caption(), "tip", tool.Tip());
         }
     }
 }
 
 void PrintToolbox(Stage& stage, const Arguments&)
 {
-    std::size_t index = 0;
+    int index = 0;
     for (const ToolboxButton& button : stage.Main().Toolbox().cmdTool()) {
-        stage.out.Line("button " + std::to_string(index++) + Number("left", button.place.left) +
-                       Number("top", button.place.top) + Number("width", button.place.width) +
-                       Number("height", button.place.height));
+        stage.out.Say("button", index++, "left", button.place.left, "top", button.place.top, "width",
+                      button.place.width, "height", button.place.height);
     }
 }
 
-// The arguments of these include the word itself.
-constexpr StepRow prints[] = {
-    {"elements", "elements", PrintElements},
-    {"element", "element NAME [SETTING]", PrintElement},
-    {"widget", "widget NAME [PROPERTY]", PrintWidget},
-    {"order", "order", PrintOrder},
-    {"handles", "handles", PrintHandles},
-    {"page", "page FORM [CONTROL]", PrintPage},
-    {"tools", "tools", PrintTools},
-    {"view", "view", PrintView},
-    {"file", "file PATH", PrintFile},
-    {"same", "same PATH PATH2", PrintSame},
-    {"log", "log", PrintLog},
-    {"files", "files", PrintFiles},
-    {"clipboard", "clipboard", PrintClipboard},
-    {"grid", "grid", PrintGrid},
-    {"bands", "bands", PrintBands},
-    {"toolbox", "toolbox", PrintToolbox},
-};
-
-const StepRow& FindPrint(const Arguments& arguments)
+void SetTrace(Stage& stage, const Arguments& words)
 {
-    const auto* row = std::ranges::find(prints, std::string_view(arguments[0]), &StepRow::word);
-    if (row == std::end(prints)) {
-        throw JourneyError("nothing to print: " + arguments[0]);
-    }
-    arguments.Check("print", row->shape);
-    return *row;
-}
-
-void Print(Stage& stage, const Arguments& arguments)
-{
-    FindPrint(arguments).act(stage, arguments);
-}
-
-void CheckPrint(const Arguments& arguments)
-{
-    FindPrint(arguments);
-}
-
-void Trace(Stage& stage, const Arguments& arguments)
-{
-    if (arguments[1] == "on") {
-        stage.traced.insert(arguments[0]);
-    } else {
-        stage.traced.erase(arguments[0]);
+    stage.traced.erase(words[1]);
+    if (words[2] == "on") {
+        stage.traced.insert(words[1]);
     }
 }
 
 constexpr StepRow rows[] = {
-    {"print", "WHAT [VALUE...]", Print, CheckPrint},
-    {"trace", "widgets|pages|server|sources|files|screen on|off", Trace},
+    {"print elements", PrintElements},
+    {"print element NAME [SETTING]", PrintElement},
+    {"print widget NAME [PROPERTY]", PrintWidget},
+    {"print order", PrintOrder},
+    {"print handles", PrintHandles},
+    {"print page FORM [CONTROL]", PrintPage},
+    {"print tools", PrintTools},
+    {"print view", PrintView},
+    {"print file PATH", PrintFile},
+    {"print same PATH PATH2", PrintSame},
+    {"print log", [](Stage& stage, const Arguments&) { stage.out.Text(stage.LogText()); }},
+    {"print files", PrintFiles},
+    {"print clipboard", [](Stage& stage, const Arguments&) { stage.out.Text(stage.clipboard.text); }},
+    {"print grid", PrintGrid},
+    {"print bands", PrintBands},
+    {"print toolbox", PrintToolbox},
+    {"trace widgets|pages|server|sources|files|screen on|off", SetTrace},
 };
 
 } // namespace

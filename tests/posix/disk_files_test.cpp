@@ -43,16 +43,6 @@ protected:
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));
     }
 
-    template <class Body> static std::int32_t FailureOf(Body&& body)
-    {
-        try {
-            body();
-            return 0;
-        } catch (const Failure& failure) {
-            return failure.Number();
-        }
-    }
-
     static mode_t ModeOf(const std::string& path)
     {
         struct stat status {};

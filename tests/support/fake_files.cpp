@@ -67,41 +67,10 @@ private:
     bool m_isOpen = true;
 };
 
-void FakeFiles::Put(const std::string& path, Bytes bytes)
-{
-    m_files[path] = std::make_shared<Bytes>(std::move(bytes));
-}
-
-void FakeFiles::PutText(const std::string& path, std::string_view text)
-{
-    Put(path, Bytes(text.begin(), text.end()));
-}
-
-bool FakeFiles::Has(const std::string& path) const
-{
-    return m_files.contains(path);
-}
-
-const FakeFiles::Bytes& FakeFiles::Get(const std::string& path) const
-{
-    return *Find(path);
-}
-
-std::string FakeFiles::Text(const std::string& path) const
-{
-    const Bytes& bytes = Get(path);
-    return {bytes.begin(), bytes.end()};
-}
-
 void FakeFiles::Erase(const std::string& path)
 {
     m_files.erase(path);
     m_readOnly.erase(path);
-}
-
-void FakeFiles::SetReadOnly(const std::string& path)
-{
-    m_readOnly.insert(path);
 }
 
 std::vector<std::string> FakeFiles::Paths() const
@@ -142,11 +111,6 @@ std::unique_ptr<OpenFile> FakeFiles::Open(const std::string& path, OpenMode mode
     return std::make_unique<FakeOpenFile>(*this, path, Find(path), mode);
 }
 
-std::unique_ptr<OpenFile> FakeFiles::OpenLike(const std::string& path, const std::string& /*model*/)
-{
-    return Open(path, OpenMode::Create);
-}
-
 void FakeFiles::CopyFile(const std::string& from, const std::string& to)
 {
     Call("copy", Quoted(from) + ' ' + Quoted(to));
@@ -174,16 +138,6 @@ void FakeFiles::DeleteFile(const std::string& path)
     Call("delete", Quoted(path));
     Find(path);
     Erase(path);
-}
-
-std::string FakeFiles::TempFolder()
-{
-    return "temp";
-}
-
-std::string FakeFiles::TempName()
-{
-    return "temp" + std::to_string(++m_tempNames) + ".tmp";
 }
 
 void FakeFiles::Call(std::string_view operation, const std::string& arguments)

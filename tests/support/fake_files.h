@@ -21,27 +21,30 @@ public:
     std::string spareFolder;          // none
 
     // For tests, uncounted and unhindered.
-    void Put(const std::string& path, Bytes bytes);
-    void PutText(const std::string& path, std::string_view text);
-    bool Has(const std::string& path) const;
-    const Bytes& Get(const std::string& path) const; // fails with 53
-    std::string Text(const std::string& path) const; // fails with 53
+    void Put(const std::string& path, Bytes bytes) { m_files[path] = std::make_shared<Bytes>(std::move(bytes)); }
+    void PutText(const std::string& path, std::string_view text) { Put(path, Bytes(text.begin(), text.end())); }
+    bool Has(const std::string& path) const { return m_files.contains(path); }
+    const Bytes& Get(const std::string& path) const { return *Find(path); } // fails with 53
+    std::string Text(const std::string& path) const { return {Get(path).begin(), Get(path).end()}; }
     void Erase(const std::string& path);
-    void SetReadOnly(const std::string& path); // also of a file that comes later
-    std::vector<std::string> Paths() const;    // sorted
+    void SetReadOnly(const std::string& path) { m_readOnly.insert(path); } // also of a file that comes later
+    std::vector<std::string> Paths() const;                                // sorted
 
     bool FileExists(const std::string& path) override;
     bool IsAbsent(const std::string& path) override;
     std::unique_ptr<OpenFile> Open(const std::string& path, OpenMode mode) override;
-    std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& model) override;
+    std::unique_ptr<OpenFile> OpenLike(const std::string& path, const std::string& /*model*/) override
+    {
+        return Open(path, OpenMode::Create);
+    }
     void CopyFile(const std::string& from, const std::string& to) override;
     void CopyScratch(const std::string& from, const std::string& to) override { CopyFile(from, to); }
     void MoveFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
     std::string FollowLinks(const std::string& path) override { return path; }
-    std::string TempFolder() override;
+    std::string TempFolder() override { return "temp"; }
     std::string SpareFolder() override { return spareFolder; }
-    std::string TempName() override; // temp1.tmp and so on
+    std::string TempName() override { return "temp" + std::to_string(++m_tempNames) + ".tmp"; }
 
 private:
     friend class FakeOpenFile;

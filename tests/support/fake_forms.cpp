@@ -26,9 +26,7 @@ Form* FakeForms::Find(std::string_view name) const
 
 void FakeForms::Show(Form& form)
 {
-    const bool isShown =
-        std::any_of(m_open.begin(), m_open.end(), [&](const auto& open) { return open->form == &form; });
-    if (!isShown) {
+    if (std::ranges::find(m_open, &form, &Open::form) == m_open.end()) {
         Shown.Raise(Enter(form, nullptr));
     }
 }
@@ -41,8 +39,7 @@ void FakeForms::ShowModal(std::unique_ptr<Form> form)
 
 void FakeForms::Hide(Form& form)
 {
-    const auto found =
-        std::find_if(m_open.begin(), m_open.end(), [&](const auto& open) { return open->form == &form; });
+    const auto found = std::ranges::find(m_open, &form, &Open::form);
     if (found != m_open.end()) {
         const std::unique_ptr<Open> ending = std::move(*found);
         m_open.erase(found);

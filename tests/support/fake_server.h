@@ -89,7 +89,6 @@ public:
     bool appAlarms = false;
     std::vector<std::string> calls;   // Sites.Item("A").Units.Item(1).RequestConfig
     std::vector<std::string> catalog; // the configured sites
-    int reloads = 0;
     PlannedFailures planned;          // reload, sites
     Event<const std::string&> Called; // an operation, as calls has it
 
@@ -106,11 +105,7 @@ public:
     bool AppAlarms() const override { return appAlarms; }
     TeskSiteCatalog& GetCatalog() override { return *this; }
     void GetSites(TeskSiteList& list) override;
-    void ReloadSites() override
-    {
-        planned.Count("reload");
-        ++reloads;
-    }
+    void ReloadSites() override { planned.Count("reload"); }
 
 private:
     TeskSite& Item(const std::string& netName) override;

@@ -24,19 +24,18 @@ public:
     }
 
     std::vector<ErrorReport> reports; // all that were shown
-    std::vector<ErrorReport> logged;  // for the log alone
 
     // A report with that reference will come; once a call.
     void Announce(RefNumber ref) { m_announced.push_back(ref.number); }
 
-    void ShowError(const ErrorReport& report) noexcept override { Take(report, reports); }
-    void LogError(const ErrorReport& report) noexcept override { Take(report, logged); }
-
-private:
-    void Take(const ErrorReport& report, std::vector<ErrorReport>& taken)
+    void ShowError(const ErrorReport& report) noexcept override
     {
-        taken.push_back(report);
-        const auto announced = std::find(m_announced.begin(), m_announced.end(), report.ref);
+        reports.push_back(report);
+        LogError(report);
+    }
+    void LogError(const ErrorReport& report) noexcept override
+    {
+        const auto announced = std::ranges::find(m_announced, report.ref);
         if (announced == m_announced.end()) {
             ADD_FAILURE() << "Ref# " << report.ref << ": " << report.message << " (" << report.number << ' '
                           << report.source << ": " << report.description << ')';
@@ -45,6 +44,7 @@ private:
         }
     }
 
+private:
     std::vector<std::int32_t> m_announced;
 };
 

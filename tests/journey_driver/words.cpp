@@ -1,0 +1,78 @@
+#include "tests/journey_driver/words.h"
+
+#include <algorithm>
+
+namespace quor {
+
+namespace {
+
+// Of a usage or a choice, and takes it off.
+std::string_view NextPart(std::string_view& text, char end)
+{
+    const std::string_view part = text.substr(0, text.find(end));
+    text.remove_prefix(std::min(part.size() + 1, text.size()));
+    return part;
+}
+
+bool FitsSlot(std::string_view slot, const Word& word)
+{
+    constexpr std::string_view integers = " N MS CODE NUMBER RIGHT ";
+    constexpr std::string_view numbers = " X Y DX DY SIZE TIME ";
+    const std::string name = ' ' + std::string(slot) + ' ';
+    std::int32_t integer = 0;
+    double number = 0;
+    if (std::ranges::none_of(slot, [](char letter) { return letter >= 'a' && letter <= 'z'; })) {
+        return (integers.find(name) == integers.npos || Reads(word.text, integer)) &&
+               (numbers.find(name) == numbers.npos || Reads(word.text, number));
+    }
+    while (!slot.empty()) {
+        if (NextPart(slot, '|') == word.text) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool FitsUsage(std::string_view usage, std::span<const Word> words)
+{
+    if (words.front().isQuoted) {
+        return false;
+    }
+    while (!usage.empty()) {
+        std::string_view slot = NextPart(usage, ' ');
+        const bool isOptional = slot.starts_with('[');
+        slot = isOptional ? slot.substr(1, slot.size() - 2) : slot;
+        const bool repeats = slot.ends_with("...");
+        slot.remove_suffix(repeats ? 3 : 0);
+        if (words.empty()) {
+            return isOptional;
+        }
+        do {
+            if (!FitsSlot(slot, words.front())) {
+                return false;
+            }
+            words = words.subspan(1);
+        } while (repeats && !words.empty());
+    }
+    return words.empty();
+}
+
+void TellFont(std::string_view name, const Font& font, const NamedValue& tell)
+{
+    constexpr double sizeUnits = 10'000; // in a point
+    const auto attribute = [&](std::string_view of, const auto& value) {
+        tell(std::string(name) + '.' + std::string(of), ValueText(value));
+    };
+    attribute("Bold", font.Bold());
+    attribute("Charset", font.Charset);
+    attribute("Italic", font.Italic);
+    attribute("Name", font.Name);
+    attribute("Size", static_cast<double>(font.Size) / sizeUnits);
+    attribute("Strikethrough", font.Strikethrough);
+    attribute("Underline", font.Underline);
+    attribute("Weight", font.Weight());
+}
+
+} // namespace quor
