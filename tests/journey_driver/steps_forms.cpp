@@ -1,4 +1,4 @@
-// Steps on the controls of forms, as the user's mouse and keys would.
+// Steps on the controls of forms, as the user's mouse and keys would, and what the controls show.
 
 #include "forms/fields.h"
 #include "forms/form.h"
@@ -9,118 +9,187 @@ namespace quor {
 
 namespace {
 
+// Acts on the control as the first of these classes that it is; false if it is none of them.
+template <class... C, class Act> bool ActAs(Control& control, Act act)
+{
+    const auto attempt = [&](auto* meant) {
+        if (meant != nullptr) {
+            act(*meant);
+        }
+        return meant != nullptr;
+    };
+    return (attempt(dynamic_cast<C*>(&control)) || ...);
+}
+
 // FORM.CONTROL or FORM.CONTROL(INDEX). Members of most arrays are controls of their own; an option is one of its array.
 struct Target {
-    Control* control;
+    Control& control;
     std::int32_t option = -1;
 };
 
 Target FindTarget(Stage& stage, const std::string& text)
 {
     const std::size_t dot = text.find('.');
-    Form& form = stage.FormOf(text.substr(0, dot));
+    const Form& form = stage.FormOf(text.substr(0, dot));
     const std::string name = dot == std::string::npos ? "" : text.substr(dot + 1);
     if (const auto* control = form.Controls().Find(name)) {
-        return {control->get()};
+        return {**control};
     }
     const std::size_t bracket = name.find('(');
-    const std::string array = name.substr(0, bracket);
-    const auto* options = form.Controls().Find(array);
+    const auto* options = form.Controls().Find(name.substr(0, bracket));
     if (bracket == std::string::npos || !name.ends_with(')') || options == nullptr) {
         throw JourneyError("no such control: " + text);
     }
-    const std::string index = name.substr(bracket + 1, name.size() - bracket - 2);
-    return {options->get(), To<std::int32_t>(index)};
+    return {**options, To<std::int32_t>(name.substr(bracket + 1, name.size() - bracket - 2))};
 }
 
-template <class List> void SetRow(List& list, std::ptrdiff_t count, const std::string& value)
+void MustBe(bool condition, const std::string& words)
 {
-    const auto index = To<std::int32_t>(value);
-    if (index < 0 || index >= count) {
-        throw JourneyError("the list has no row " + value);
-    }
-    list.Choose(index);
-}
-
-void SetBox(CheckBox& box, const std::string& value)
-{
-    if (value != "0" && value != "1") {
-        throw JourneyError("a box is 0 or 1");
-    }
-    if (box.Value() != (value == "1")) {
-        box.Toggle();
+    if (!condition) {
+        throw JourneyError(words);
     }
 }
 
-void SetOption(OptionArray& options, std::int32_t option, const std::string& value)
+template <class C> void SetTo(C& control, std::int32_t option, const std::string& value)
 {
-    if (option < 0 || option >= std::ssize(options.Captions()) || value != "true") {
-        throw JourneyError("an option that is there is set to true");
+    if constexpr (std::is_same_v<C, CheckBox>) {
+        MustBe(value == "0" || value == "1", "a box is 0 or 1");
+        if (control.Value() != (value == "1")) {
+            control.Toggle();
+        }
+    } else if constexpr (std::is_same_v<C, OptionArray>) {
+        MustBe(option >= 0 && option < std::ssize(control.Captions()) && value == "true",
+               "an option that is there is set to true");
+        control.Choose(option);
+    } else if constexpr (requires { control.Choose(0); }) {
+        const auto row = To<std::int32_t>(value);
+        std::ptrdiff_t count = 0;
+        if constexpr (std::is_same_v<C, ListBox>) {
+            count = std::ssize(control.Items());
+        } else {
+            count = std::ssize(control.Rows());
+        }
+        MustBe(row >= 0 && row < count, "the list has no row " + value);
+        control.Choose(row);
+    } else {
+        control.Type(value);
     }
-    options.Choose(option);
 }
 
 void Set(Stage& stage, const Arguments& words)
 {
     const Target target = FindTarget(stage, words[1]);
-    const std::string& value = words[2];
-    if (auto* list = dynamic_cast<ListBox*>(target.control)) {
-        SetRow(*list, std::ssize(list->Items()), value);
-    } else if (auto* rows = dynamic_cast<RowList*>(target.control)) {
-        SetRow(*rows, std::ssize(rows->Rows()), value);
-    } else if (auto* box = dynamic_cast<CheckBox*>(target.control)) {
-        SetBox(*box, value);
-    } else if (auto* options = dynamic_cast<OptionArray*>(target.control)) {
-        SetOption(*options, target.option, value);
-    } else if (auto* text = dynamic_cast<TextBox*>(target.control)) {
-        text->Type(value);
-    } else if (auto* number = dynamic_cast<NumberField*>(target.control)) {
-        number->Type(value);
-    } else {
-        throw JourneyError("nothing to set: " + words[1]);
-    }
+    const bool isSet = ActAs<ListBox, RowList, CheckBox, OptionArray, TextBox, NumberField>(
+        target.control, [&](auto& control) { SetTo(control, target.option, words[2]); });
+    MustBe(isSet, "nothing to set: " + words[1]);
 }
 
 // What is typed replaces what was there; a number field lets a character that it refuses fall under the table.
 void Type(Stage& stage, const Arguments& words)
 {
-    const Target target = FindTarget(stage, words[1]);
-    auto* text = dynamic_cast<TextBox*>(target.control);
-    auto* number = dynamic_cast<NumberField*>(target.control);
-    if (text == nullptr && number == nullptr) {
-        throw JourneyError("nothing to type into: " + words[1]);
-    }
-    std::string typed;
-    for (std::string_view rest = words[2]; !rest.empty();) {
-        const std::string longer = typed + std::string(FirstCharacter(rest));
-        rest.remove_prefix(FirstCharacter(rest).size());
-        if (text != nullptr) {
-            text->Type(longer);
-        } else if (number->Judge(longer) != NumberField::Typing::Refused) {
-            number->Type(longer);
-        } else {
-            continue;
+    const bool isTyped = ActAs<TextBox, NumberField>(FindTarget(stage, words[1]).control, [&](auto& control) {
+        std::string typed;
+        for (std::string_view rest = words[2]; !rest.empty(); rest.remove_prefix(FirstCharacter(rest).size())) {
+            const std::string longer = typed + std::string(FirstCharacter(rest));
+            if constexpr (requires { control.Judge(longer); }) {
+                if (control.Judge(longer) == NumberField::Typing::Refused) {
+                    continue;
+                }
+            }
+            control.Type(longer);
+            typed = longer;
         }
-        typed = longer;
-    }
+    });
+    MustBe(isTyped, "nothing to type into: " + words[1]);
 }
 
 void Push(Stage& stage, const Arguments& words)
 {
-    const Target target = FindTarget(stage, words[1]);
-    if (auto* button = dynamic_cast<Button*>(target.control)) {
-        button->Push();
-    } else if (auto* swatch = dynamic_cast<Swatch*>(target.control)) {
-        swatch->Push();
+    const bool isPushed =
+        ActAs<Button, Swatch>(FindTarget(stage, words[1]).control, [](auto& control) { control.Push(); });
+    MustBe(isPushed, "nothing to push: " + words[1]);
+}
+
+template <class C> std::string ValueOf(const C& control)
+{
+    if constexpr (std::is_same_v<C, CheckBox>) {
+        return control.Value() ? "1" : "0";
+    } else if constexpr (std::is_same_v<C, Swatch>) {
+        return Line(control.BackColor(), control.Caption());
+    } else if constexpr (std::is_same_v<C, ListBox>) {
+        return ValueText(control.ListIndex());
+    } else if constexpr (requires { control.Rows(); }) {
+        return ValueText(control.Index());
+    } else if constexpr (requires { control.Text(); }) {
+        return ValueText(control.Text());
+    } else if constexpr (requires { control.Value(); }) {
+        return ValueText(control.Value());
     } else {
-        throw JourneyError("nothing to push: " + words[1]);
+        return ValueText(control.Caption());
     }
+}
+
+// What stands behind the rest of the line.
+template <class C> std::string RestOf(const C& control)
+{
+    std::string rest;
+    if constexpr (std::is_same_v<C, ListBox>) {
+        rest = " items";
+        for (const std::string& item : control.Items()) {
+            rest += ' ' + Quoted(item);
+        }
+    } else if constexpr (std::is_same_v<C, RowList>) {
+        rest = " items";
+        for (const RowList::Row& row : control.Rows()) {
+            rest += ' ' + Quoted(row.text);
+        }
+    } else if constexpr (std::is_same_v<C, TextBox>) {
+        rest = " back " + ValueText(control.BackColor());
+    }
+    return rest;
+}
+
+// An array of options has a line for each.
+std::vector<std::string> ControlLines(Control& control)
+{
+    std::vector<std::string> lines;
+    const auto add = [&](const std::string& name, const std::string& value, const std::string& rest) {
+        using Bare = std::string_view;
+        lines.push_back(Line("control", Bare(name), "value", Bare(value), "enabled", control.Enabled(), "visible",
+                             control.Visible()) +
+                        rest);
+    };
+    if (const auto* options = dynamic_cast<const OptionArray*>(&control)) {
+        for (std::int32_t index = 0; index < std::ssize(options->Captions()); ++index) {
+            add(control.Name() + '(' + std::to_string(index) + ')', ValueText(options->Index() == index), "");
+        }
+    } else if (!ActAs<ListBox, CheckBox, RowList, TextBox, NumberField, ProgressBar, Swatch, Label, Button, Frame>(
+                   control, [&](auto& told) { add(told.Name(), ValueOf(told), RestOf(told)); })) {
+        add(control.Name(), "\"\"", "");
+    }
+    return lines;
+}
+
+void PrintPage(Stage& stage, const Arguments& words)
+{
+    const std::string& wanted = words[3];
+    bool isFound = wanted.empty();
+    for (const std::unique_ptr<Control>& control : stage.FormOf(words[2]).Controls()) {
+        for (const std::string& line : ControlLines(*control)) {
+            if (wanted.empty() || control->Name() == wanted || line.starts_with("control " + wanted + ' ')) {
+                isFound = true;
+                stage.out.Say(std::string_view(line));
+            }
+        }
+    }
+    MustBe(isFound, "there is no " + wanted);
 }
 
 constexpr StepRow rows[] = {
     {"set FORM.CONTROL VALUE", Set},
     {"type FORM.CONTROL TEXT", Type},
     {"push FORM.CONTROL", Push},
+    {"print page FORM [CONTROL]", PrintPage},
 };
 
 } // namespace

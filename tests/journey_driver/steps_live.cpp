@@ -163,8 +163,7 @@ std::set<std::int16_t> Rights(const Arguments& words)
 void PrepareLogin(Stage& stage, const Arguments& words)
 {
     stage.login.isLoggedOn = words[1] == "on";
-    stage.loginRights = Rights(words);
-    stage.login.rightsHeld = stage.loginRights;
+    stage.login.rightsHeld = stage.loginRights = Rights(words);
 }
 
 void LogOn(Stage& stage, const Arguments& words)

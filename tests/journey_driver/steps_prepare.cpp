@@ -14,11 +14,6 @@ template <auto Member> void SetSetting(Stage& stage, const Arguments& words)
     member = words.As<std::remove_reference_t<decltype(member)>>(2);
 }
 
-void TakeFile(Stage& stage, const Arguments& words)
-{
-    stage.files.Put(words[1], stage.HostBytes(words[3]));
-}
-
 void MakeFile(Stage& stage, const Arguments& words)
 {
     std::string digits;
@@ -34,17 +29,6 @@ void MakeFile(Stage& stage, const Arguments& words)
         bytes.push_back(static_cast<std::uint8_t>(To<Color>("0x" + byte).value));
     }
     stage.files.Put(words[1], bytes);
-}
-
-void DeleteFile(Stage& stage, const Arguments& words)
-{
-    stage.files.Get(words[1]);
-    stage.files.Erase(words[1]);
-}
-
-void MakeReadOnly(Stage& stage, const Arguments& words)
-{
-    stage.files.SetReadOnly(words[1]);
 }
 
 template <auto Port> void PlanFailure(Stage& stage, const Arguments& words)
@@ -93,10 +77,15 @@ constexpr StepRow rows[] = {
     {"setting ViewsDirectory PATH", SetSetting<&FakeSettings::viewsDirectory>},
     {"setting ToolbarDirectory PATH", SetSetting<&FakeSettings::toolbarDirectory>},
     {"setting HelpFile PATH", SetSetting<&FakeSettings::helpFile>},
-    {"file PATH from PATH2", TakeFile},
+    {"file PATH from PATH2",
+     [](Stage& stage, const Arguments& words) { stage.files.Put(words[1], stage.HostBytes(words[3])); }},
     {"file PATH hex [BYTES...]", MakeFile},
-    {"delete PATH", DeleteFile},
-    {"readonly PATH", MakeReadOnly},
+    {"delete PATH",
+     [](Stage& stage, const Arguments& words) {
+         stage.files.Get(words[1]);
+         stage.files.Erase(words[1]);
+     }},
+    {"readonly PATH", [](Stage& stage, const Arguments& words) { stage.files.SetReadOnly(words[1]); }},
     {"fail files.exists|files.open|files.read|files.write|files.copy|files.move|files.delete N [NUMBER]",
      PlanFailure<&Stage::files>},
     {"fail dialog.open|dialog.save|dialog.color|dialog.font N [NUMBER]", PlanFailure<&Stage::dialog>},

@@ -5,8 +5,6 @@
 #include "elements/mtr_linear.h"
 #include "format/container.h"
 #include "forms/bars.h"
-#include "forms/form.h"
-#include "tests/journey_driver/control_text.h"
 #include "tests/journey_driver/lone_view.h"
 #include "tests/journey_driver/steps.h"
 
@@ -80,21 +78,6 @@ void PrintHandles(Stage& stage, const Arguments&)
     for (const GrabHandle& handle : stage.CanvasInUse().Handles()) {
         stage.out.Say("handle", index++, "left", handle.left, "top", handle.top, "visible", handle.visible);
     }
-}
-
-void PrintPage(Stage& stage, const Arguments& words)
-{
-    const std::string& wanted = words[3];
-    bool isFound = wanted.empty();
-    for (const std::unique_ptr<Control>& control : stage.FormOf(words[2]).Controls()) {
-        for (const std::string& line : ControlLines(*control)) {
-            if (wanted.empty() || control->Name() == wanted || line.starts_with("control " + wanted + ' ')) {
-                isFound = true;
-                stage.out.Say(Bare(line));
-            }
-        }
-    }
-    MustBeFound(isFound, wanted);
 }
 
 void PrintTools(Stage& stage, const Arguments&)
@@ -196,7 +179,6 @@ constexpr StepRow rows[] = {
     {"print widget NAME [PROPERTY]", PrintWidget},
     {"print order", PrintOrder},
     {"print handles", PrintHandles},
-    {"print page FORM [CONTROL]", PrintPage},
     {"print tools", PrintTools},
     {"print view", PrintView},
     {"print file PATH", PrintFile},

@@ -19,18 +19,6 @@ std::string TailOf(const Arguments& words)
     return tail;
 }
 
-// What came until then doesn't count.
-void Quietly(Stage& stage, const Arguments& words)
-{
-    FindStep(words.From(1)).act(stage, Arguments(words.From(1)));
-    stage.out.Take();
-}
-
-void Start(Stage& stage, const Arguments& words)
-{
-    stage.Start(TailOf(words));
-}
-
 void Wait(Stage& stage, const Arguments& words)
 {
     if (words.As<int>(1) < 0) {
@@ -39,15 +27,13 @@ void Wait(Stage& stage, const Arguments& words)
     stage.timers.Advance(words.As<int>(1));
 }
 
-// Somebody who may edit is logged on, and the editor stands; what it says until then doesn't count.
+// Somebody who may edit is logged on, and the main form comes.
 void StartEditor(Stage& stage, const Arguments& words)
 {
     stage.login.isLoggedOn = true;
-    stage.loginRights = {rights::editViews};
-    stage.login.rightsHeld = stage.loginRights;
+    stage.login.rightsHeld = stage.loginRights = {rights::editViews};
     stage.Start(TailOf(words));
     stage.timers.Advance(100);
-    stage.out.Take();
 }
 
 void ClickTool(Stage& stage, const Arguments& words)
@@ -57,23 +43,6 @@ void ClickTool(Stage& stage, const Arguments& words)
     for (int count = words.Has(2) ? words.As<int>(2) : 1; count > 0; --count) {
         bars.Click(words[1]);
     }
-}
-
-void Open(Stage& stage, const Arguments& words)
-{
-    stage.dialog.WillOpen(words[1]);
-    stage.Main().abViewEdit().Click("miOpen");
-}
-
-void SaveAs(Stage& stage, const Arguments& words)
-{
-    stage.dialog.WillSave(words[2]);
-    stage.Main().abViewEdit().Click("miSaveAs");
-}
-
-void ShowTab(Stage& stage, const Arguments& words)
-{
-    stage.Main().abViewEdit().BandOf("bndObjProps").SetCurrentChild(words[1]);
 }
 
 void Close(Stage& stage, const Arguments& words)
@@ -155,7 +124,8 @@ void Press(Stage& stage, const Arguments& words)
     }
 }
 
-void DropAt(Stage& stage, const Arguments& words, std::size_t at)
+// At the place that the words from that one on tell.
+void Drop(Stage& stage, const Arguments& words, std::size_t at = 1)
 {
     const Place place = FindPlace(stage, words, at);
     if (place.toolboxButton) {
@@ -163,17 +133,6 @@ void DropAt(Stage& stage, const Arguments& words, std::size_t at)
     } else {
         stage.Main().Drop(place.target, words.As<float>(at + 1), words.As<float>(at + 2));
     }
-}
-
-void Drop(Stage& stage, const Arguments& words)
-{
-    DropAt(stage, words, 1);
-}
-
-void Drag(Stage& stage, const Arguments& words)
-{
-    Press(stage, words);
-    DropAt(stage, words, 4);
 }
 
 void Release(Stage& stage, const Arguments& words)
@@ -184,11 +143,6 @@ void Release(Stage& stage, const Arguments& words)
     }
 }
 
-void Click(Stage& stage, const Arguments&)
-{
-    stage.Main().ssScroll_Click();
-}
-
 void Size(Stage& stage, const Arguments& words)
 {
     const CanvasTarget handle =
@@ -197,16 +151,6 @@ void Size(Stage& stage, const Arguments& words)
     main.Press(handle, MouseButton::Left, Canvas::handleSize / 2, Canvas::handleSize / 2);
     main.SizeBy(words.As<float>(2), words.As<float>(3));
     main.EndSizing();
-}
-
-void ResizeToolbox(Stage& stage, const Arguments& words)
-{
-    stage.Main().Toolbox().Form_Resize(words.As<float>(1));
-}
-
-void Scroll(Stage& stage, const Arguments& words)
-{
-    stage.CanvasInUse().ScrollTo(words.As<int>(1), words.As<int>(2));
 }
 
 // The bars have the keyboard unless the journey says who has. Of the instruments the buttons alone hear keys.
@@ -227,23 +171,45 @@ void Key(Stage& stage, const Arguments& words)
 }
 
 constexpr StepRow rows[] = {
-    {"quietly STEP...", Quietly},
-    {"start [TAIL...]", Start},
+    // What came until then doesn't count.
+    {"quietly STEP...",
+     [](Stage& stage, const Arguments& words) {
+         FindStep(words.From(1)).act(stage, Arguments(words.From(1)));
+         stage.out.Take();
+     }},
+    {"start [TAIL...]", [](Stage& stage, const Arguments& words) { stage.Start(TailOf(words)); }},
     {"editor [TAIL...]", StartEditor},
     {"wait MS", Wait},
     {"tool NAME [N]", ClickTool},
-    {"open PATH", Open},
-    {"save as PATH", SaveAs},
-    {"tab NAME", ShowTab},
+    {"open PATH",
+     [](Stage& stage, const Arguments& words) {
+         stage.dialog.WillOpen(words[1]);
+         stage.Main().abViewEdit().Click("miOpen");
+     }},
+    {"save as PATH",
+     [](Stage& stage, const Arguments& words) {
+         stage.dialog.WillSave(words[2]);
+         stage.Main().abViewEdit().Click("miSaveAs");
+     }},
+    {"tab NAME",
+     [](Stage& stage, const Arguments& words) {
+         stage.Main().abViewEdit().BandOf("bndObjProps").SetCurrentChild(words[1]);
+     }},
     {"close [user|system|taskmanager|bar]", Close},
     {"press WHERE X Y [left|right|middle]", Press},
-    {"drop WHERE X Y", Drop},
-    {"drag WHERE X Y WHERE X Y", Drag},
+    {"drop WHERE X Y", [](Stage& stage, const Arguments& words) { Drop(stage, words); }},
+    {"drag WHERE X Y WHERE X Y",
+     [](Stage& stage, const Arguments& words) {
+         Press(stage, words);
+         Drop(stage, words, 4);
+     }},
     {"release WHERE X Y [left|right|middle]", Release},
-    {"click canvas", Click},
+    {"click canvas", [](Stage& stage, const Arguments&) { stage.Main().ssScroll_Click(); }},
     {"size N DX DY", Size},
-    {"toolbox WIDTH", ResizeToolbox}, // twips, inside
-    {"scroll X Y", Scroll},
+    {"toolbox WIDTH", // twips, inside
+     [](Stage& stage, const Arguments& words) { stage.Main().Toolbox().Form_Resize(words.As<float>(1)); }},
+    {"scroll X Y",
+     [](Stage& stage, const Arguments& words) { stage.CanvasInUse().ScrollTo(words.As<int>(1), words.As<int>(2)); }},
     {"key CODE [WHERE]", Key},
 };
 
