@@ -97,7 +97,7 @@ Place FindPlace(Stage& stage, const Arguments& words, std::size_t at = 1)
         if (const auto index = ReadNumbered(word, "handle:", Canvas::handleCount)) {
             return {HandleTarget(stage, *index)};
         }
-        if (const auto index = ReadNumbered(word, "toolbox:", frmViewToolbox::buttonCount)) {
+        if (const auto index = ReadNumbered(word, "toolbox:", kindCount)) {
             return {{}, index};
         }
     }
@@ -120,7 +120,7 @@ void Press(Stage& stage, const Arguments& words)
     if (place.toolboxButton) {
         stage.Main().Toolbox().cmdTool_MouseDown(*place.toolboxButton, button);
     } else {
-        stage.Main().Press(place.target, button, words.As<float>(2), words.As<float>(3));
+        stage.Main().Mouse().Press(place.target, button, words.As<float>(2), words.As<float>(3));
     }
 }
 
@@ -129,9 +129,9 @@ void Drop(Stage& stage, const Arguments& words, std::size_t at = 1)
 {
     const Place place = FindPlace(stage, words, at);
     if (place.toolboxButton) {
-        stage.Main().CancelDrag();
+        stage.Main().Mouse().CancelDrag();
     } else {
-        stage.Main().Drop(place.target, words.As<float>(at + 1), words.As<float>(at + 2));
+        stage.Main().Mouse().Drop(place.target, words.As<float>(at + 1), words.As<float>(at + 2));
     }
 }
 
@@ -139,7 +139,7 @@ void Release(Stage& stage, const Arguments& words)
 {
     const Place place = FindPlace(stage, words);
     if (!place.toolboxButton) {
-        stage.Main().Release(place.target, ButtonOf(words[4]), words.As<float>(2), words.As<float>(3));
+        stage.Main().Mouse().Release(place.target, ButtonOf(words[4]));
     }
 }
 
@@ -147,10 +147,10 @@ void Size(Stage& stage, const Arguments& words)
 {
     const CanvasTarget handle =
         HandleTarget(stage, *ReadNumbered("handle:" + words[1], "handle:", Canvas::handleCount));
-    frmMain& main = stage.Main();
-    main.Press(handle, MouseButton::Left, Canvas::handleSize / 2, Canvas::handleSize / 2);
-    main.SizeBy(words.As<float>(2), words.As<float>(3));
-    main.EndSizing();
+    CanvasMouse& mouse = stage.Main().Mouse();
+    mouse.Press(handle, MouseButton::Left, Canvas::handleSize / 2, Canvas::handleSize / 2);
+    mouse.SizeBy(words.As<float>(2), words.As<float>(3));
+    mouse.Release(handle, MouseButton::Left);
 }
 
 // The bars have the keyboard unless the journey says who has. Of the instruments the buttons alone hear keys.
@@ -204,7 +204,7 @@ constexpr StepRow rows[] = {
          Drop(stage, words, 4);
      }},
     {"release WHERE X Y [left|right|middle]", Release},
-    {"click canvas", [](Stage& stage, const Arguments&) { stage.Main().ssScroll_Click(); }},
+    {"click canvas", [](Stage& stage, const Arguments&) { stage.Main().ReleaseControl(); }},
     {"size N DX DY", Size},
     {"toolbox WIDTH", // twips, inside
      [](Stage& stage, const Arguments& words) { stage.Main().Toolbox().Form_Resize(words.As<float>(1)); }},

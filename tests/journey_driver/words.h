@@ -138,24 +138,21 @@ public:
     explicit FieldPrinter(NamedValue tell) : m_tell(std::move(tell)) {}
 
 private:
-    void Field(std::string_view name, bool& value) override { Tell(name, value); }
-    void Field(std::string_view name, WideFlag& value) override { Tell(name, value); }
-    void Field(std::string_view name, std::uint8_t& value) override { Tell(name, value); }
-    void Field(std::string_view name, std::int16_t& value) override { Tell(name, value); }
-    void Field(std::string_view name, std::int32_t& value) override { Tell(name, value); }
-    void Field(std::string_view name, float& value) override { Tell(name, value); }
-    void Field(std::string_view name, Color& value) override { Tell(name, value); }
-    void Field(std::string_view name, Font& value) override { TellFont(m_part + std::string(name), value, m_tell); }
-    void Field(std::string_view name, std::string& value) override { Tell(name, value); }
-    void ByteField(std::string_view name, std::int32_t& value) override { Tell(name, value); }
-    void NameField(std::string_view name, std::string& value) override { Tell(name, value); }
+    void Field(std::string_view name, FieldRef field) override
+    {
+        const std::string full = m_part + std::string(name);
+        std::visit(
+            [&](auto value) {
+                if constexpr (std::is_same_v<decltype(value), Font*>) {
+                    TellFont(full, *value, m_tell);
+                } else {
+                    m_tell(full, ValueText(*value));
+                }
+            },
+            field);
+    }
     void Begin(std::string_view part) override { m_part = std::string(part) + '.'; }
     void End() override { m_part.clear(); }
-
-    template <class T> void Tell(std::string_view name, const T& value)
-    {
-        m_tell(m_part + std::string(name), ValueText(value));
-    }
 
     NamedValue m_tell;
     std::string m_part;
