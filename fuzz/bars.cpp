@@ -25,7 +25,7 @@ constexpr BandRow bandRows[] = {
     {"prpGeneral", "General", "tlGeneral", BandKind::Child, "bndProps"},
     {"bndStatus", "Status", "", BandKind::StatusBar},
 };
-constexpr BarTables tables(toolRows, bandRows);
+constexpr BarTables<ToolRow> tables(toolRows, bandRows);
 
 void TryLayout(std::string_view text)
 {
