@@ -1,7 +1,7 @@
 #include "qt/drawing/mixing.h"
 #include "qt/painters/bevel.h"
 #include "qt/painters/gauge_painting.h"
-#include "qt/painters/polygons.h"
+#include "qt/painters/smooth_fills.h"
 #include "qt/ports/qt_text.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/arc_layout.h"
@@ -33,12 +33,21 @@ struct Dial {
     }
 };
 
-void FillRing(QPainter& painter, const Dial& dial, const RingPart& part, const QColor& color)
+QRectF Box(const Extent& extent, const QPointF& origin)
 {
-    FillPolygon(painter, RingPolygon(dial.arc, part), dial.origin, color);
+    return {origin + QPointF(extent.left, extent.top), origin + QPointF(extent.right, extent.bottom)};
 }
 
-void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+void FillRing(SmoothFills& fills, const Dial& dial, const RingPart& part, const QColor& color)
+{
+    const std::vector<Point> polygon = RingPolygon(dial.arc, part);
+    if (!polygon.empty()) {
+        fills.Trace(polygon, dial.origin);
+        fills.Fill(color);
+    }
+}
+
+void PaintSections(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
 {
     const ArcLayout& arc = dial.arc;
     const std::vector<SectionRun> runs = SectionRuns(gauge);
@@ -48,7 +57,7 @@ void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gaug
                       arc.radius,   i == 0 ? 0 : half, i + 1 == runs.size() ? 0 : half};
         const QColor color = ToQt(Resolve(runs[i].color));
         const bool isMuted = runs[i].color == colors::buttonFace; // it has to show on its own grey
-        FillRing(painter, dial, part, isMuted ? Darker(color, 0.38) : color);
+        FillRing(fills, dial, part, isMuted ? Darker(color, 0.38) : color);
         if (isMuted) {
             part = {part.from,
                     part.to,
@@ -56,21 +65,33 @@ void PaintSections(QPainter& painter, const Dial& dial, const AngularGauge& gaug
                     part.outer - dial.line,
                     part.offFrom + dial.line,
                     part.offTo + dial.line};
-            FillRing(painter, dial, part, color);
+            FillRing(fills, dial, part, color);
         }
     }
 }
 
-void PaintArcs(QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+void PaintArcs(SmoothFills& fills, const Dial& dial, const AngularGauge& gauge)
 {
     const QColor color = WithAlpha(ToQt(Resolve(gauge.TickLabelColorValue())), 0.7);
     const ArcLayout& arc = dial.arc;
     if (gauge.ShowOuterArcRadius()) {
-        FillRing(painter, dial, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}, color);
+        FillRing(fills, dial, {0, 1, arc.radius, arc.radius + dial.line, 0, 0}, color);
     }
     if (gauge.ShowInnerArcRadius()) {
-        FillRing(painter, dial, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}, color);
+        FillRing(fills, dial, {0, 1, arc.inner - dial.line, arc.inner, 0, 0}, color);
     }
+}
+
+void PaintRings(const WidgetSpace& space, QPainter& painter, const Dial& dial, const AngularGauge& gauge)
+{
+    const std::vector<Point> all = RingPolygon(dial.arc, {0, 1, 0, dial.arc.radius + 2 * dial.line, 0, 0});
+    if (all.empty()) {
+        return;
+    }
+    SmoothFills fills(painter, space.Pictures().fillRows, Box(BoundsOf(all), dial.origin), dial.inside);
+    PaintSections(fills, dial, gauge);
+    PaintArcs(fills, dial, gauge);
+    fills.Draw();
 }
 
 qreal DigitHeight(const LaidNumbers& numbers)
@@ -109,30 +130,42 @@ void PaintNumbers(QPainter& painter, const DeviceSpace& space, const ArcLayout& 
     draw(numbers.end, places.end);
 }
 
-void PaintPointer(QPainter& painter, const Dial& dial, const AngularGauge& gauge, bool isLight)
+QPoint FallOf(const PointerRelief::Shadow& shadow)
+{
+    return QPointF(shadow.x, shadow.y).toPoint();
+}
+
+QPoint FarthestFall(const PointerRelief& relief)
+{
+    const QPoint first = FallOf(relief.shadows.front());
+    const QPoint last = FallOf(relief.shadows.back());
+    return {std::max(first.x(), last.x()), std::max(first.y(), last.y())};
+}
+
+void PaintPointer(const WidgetSpace& space, QPainter& painter, const Dial& dial, const AngularGauge& gauge,
+                  bool isLight)
 {
     constexpr std::int16_t shadedSize = 6; // from here it is seen as a body
     const QColor color = ToQt(Resolve(gauge.PointerColor()));
     const Outline outline = PointerOutline(gauge, dial.arc);
     const PointerRelief relief = ReliefOf(dial.arc);
-    const Extent bounds = PointerBounds(outline, dial.arc);
-    const QRectF box(dial.origin + QPointF(bounds.left, bounds.top),
-                     dial.origin + QPointF(bounds.right, bounds.bottom));
-    painter.save();
-    if (!dial.inside.contains(box)) {
-        painter.setClipRect(dial.inside, Qt::IntersectClip);
-    }
-    FillPolygon(painter, outline.Grown(relief.halo).Points(), dial.origin, isLight ? BlackAt(0.55) : WhiteAt(0.55));
+    const QRectF box = Box(PointerBounds(outline, dial.arc), dial.origin);
+    painter.save(); // of a large one
+    SmoothFills fills(painter, space.Pictures().fillRows, box, dial.inside, FarthestFall(relief));
+    fills.Trace(outline.Grown(relief.halo).Points(), dial.origin);
+    fills.Fill(isLight ? BlackAt(0.55) : WhiteAt(0.55));
+    fills.Trace(outline.Points(), dial.origin);
     for (const auto& shadow : relief.shadows) {
         if (shadow.opacity > 0) {
-            const QPointF fall = QPointF(shadow.x, shadow.y).toPoint();
-            FillPolygon(painter, outline.Points(), dial.origin + fall, BlackAt(shadow.opacity));
+            fills.Fill(BlackAt(shadow.opacity), FallOf(shadow));
         }
     }
-    FillPolygon(painter, outline.Points(), dial.origin, color);
+    fills.Fill(color);
     if (gauge.PointerSize() >= shadedSize) {
-        FillPolygon(painter, LitHalf(gauge, dial.arc).Points(), dial.origin, WhiteAt(isLight ? 0.34 : 0.18));
+        fills.Trace(LitHalf(gauge, dial.arc).Points(), dial.origin);
+        fills.Fill(WhiteAt(isLight ? 0.34 : 0.18));
     }
+    fills.Draw();
     painter.restore();
 }
 
@@ -190,7 +223,7 @@ void KeepHub(DialFace& face, const AngularGauge& gauge, qreal line)
 
 } // namespace
 
-DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const DeviceSpace& space)
+DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const WidgetSpace& space)
 {
     PaintGround(painter, space, gauge);
     const QRectF inside = InsideEdge(space, EdgeOf(gauge));
@@ -199,8 +232,7 @@ DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const Device
     face.arc = ArcOf(gauge, space.Area().width(), space.Area().height(), space.Scale());
     face.isPointerLight = IsLight(ToQt(Resolve(gauge.PointerColor())));
     const Dial dial{face.arc, space.Area().topLeft(), inside, space.Line(1)};
-    PaintSections(painter, dial, gauge);
-    PaintArcs(painter, dial, gauge);
+    PaintRings(space, painter, dial, gauge);
     PaintNumbers(painter, space, face.arc, gauge);
     KeepHub(face, gauge, space.Line(1));
     return face;
@@ -210,7 +242,7 @@ void PaintAngularGauge(QPainter& painter, const AngularGauge& gauge, const Widge
 {
     const DialFace face = PaintFace(painter, gauge, space, space.Pictures().dials, DrawDialFace);
     const Dial dial{face.arc, space.Area().topLeft(), InsideEdge(space, EdgeOf(gauge)), space.Line(1)};
-    PaintPointer(painter, dial, gauge, face.isPointerLight);
+    PaintPointer(space, painter, dial, gauge, face.isPointerLight);
     if (face.hub.isNull()) {
         if (const QRectF disc = HubDisc(dial, gauge); !disc.isEmpty()) {
             painter.setClipRect(dial.inside, Qt::IntersectClip);

@@ -22,7 +22,7 @@ void PaintGround(QPainter& painter, const DeviceSpace& space, const ScaleGauge& 
 // on no canvas.
 template <class Face, class Gauge>
 Face PaintFace(QPainter& painter, const Gauge& gauge, const WidgetSpace& space, Kept<Face>& kept,
-               Face (*draw)(QPainter&, const Gauge&, const DeviceSpace&))
+               Face (*draw)(QPainter&, const Gauge&, const WidgetSpace&))
 {
     constexpr qint64 mostPixels = qint64{2} << 20;
     const QRect place = space.Area().toRect();

@@ -11,15 +11,19 @@
 #include <QPainter>
 
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <vector>
 
 namespace quor {
 
+template <class Fact>
+concept NumberOrName = std::is_arithmetic_v<Fact> || std::is_enum_v<Fact>;
+
 // All that decides how a picture looks, as bytes.
-template <class... Fact> auto KeyOf(const Fact&... facts)
+template <NumberOrName... Fact> auto KeyOf(const Fact&... facts)
 {
-    static_assert(((std::is_arithmetic_v<Fact> || std::is_enum_v<Fact>) && ...));
     std::array<char, (sizeof(Fact) + ...)> key;
     char* end = key.data();
     ((std::memcpy(end, &facts, sizeof(Fact)), end += sizeof(Fact)), ...);
@@ -80,6 +84,18 @@ inline qsizetype BytesOf(const BandFace& face)
     return BytesOf(face.picture) + BytesOf(face.pointer);
 }
 
+// What a polygon that is being filled covers, row by row; its memory serves the next one.
+struct FillRows {
+    // Of a row: the pixels that the polygon may cover a part of.
+    struct Touched {
+        int first;
+        int end;
+    };
+    std::vector<int> cover;           // more than of the left neighbour; all 0 but while edges are added
+    std::vector<std::uint8_t> shares; // of each pixel within what is touched
+    std::vector<Touched> touched;
+};
+
 // Those of one canvas.
 struct KeptPictures {
     static constexpr qsizetype mostBytes = qsizetype{32} << 20; // a screen of the largest kind
@@ -87,6 +103,7 @@ struct KeptPictures {
     Kept<QImage> shapes{mostBytes}; // by `Shape`
     Kept<DialFace> dials{mostBytes};
     Kept<BandFace> bands{mostBytes};
+    FillRows fillRows;
 };
 
 // What a picture of one of the shapes is of: a widget as it looks, or a part that any widget may have.

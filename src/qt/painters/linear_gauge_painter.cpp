@@ -168,7 +168,7 @@ void KeepPointer(BandFace& face, const DeviceSpace& space, const LinearGauge& ga
     });
 }
 
-BandFace DrawBandFace(QPainter& painter, const LinearGauge& gauge, const DeviceSpace& space)
+BandFace DrawBandFace(QPainter& painter, const LinearGauge& gauge, const WidgetSpace& space)
 {
     PaintGround(painter, space, gauge);
     painter.setClipRect(InsideEdge(space, EdgeOf(gauge)), Qt::IntersectClip);

@@ -18,10 +18,15 @@ QPolygonF ReachablePart(std::span<const Point> polygon, const QPointF& shift)
 
 void FillPolygon(QPainter& painter, std::span<const Point> polygon, const QPointF& shift, const QColor& color)
 {
+    FillReachable(painter, ReachablePart(polygon, shift), color);
+}
+
+void FillReachable(QPainter& painter, const QPolygonF& polygon, const QColor& color)
+{
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    painter.drawPolygon(ReachablePart(polygon, shift), Qt::WindingFill);
+    painter.drawPolygon(polygon, Qt::WindingFill);
 }
 
 } // namespace quor

@@ -18,4 +18,7 @@ QPolygonF ReachablePart(std::span<const Point> polygon, const QPointF& shift);
 
 void FillPolygon(QPainter& painter, std::span<const Point> polygon, const QPointF& shift, const QColor& color);
 
+// One within what the toolkit can reach.
+void FillReachable(QPainter& painter, const QPolygonF& polygon, const QColor& color);
+
 } // namespace quor

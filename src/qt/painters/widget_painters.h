@@ -45,7 +45,7 @@ void PaintSwitchLed(QPainter& painter, const SwitchLed& button, const WidgetSpac
 void PaintTextLabel(QPainter& painter, const TextLabel& label, const WidgetSpace& space);
 
 // The part of an angular gauge that stands still, afresh.
-DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const DeviceSpace& space);
+DialFace DrawDialFace(QPainter& painter, const AngularGauge& gauge, const WidgetSpace& space);
 
 // Whether a label has neither a text nor a ground nor a border.
 bool IsBlank(const TextLabel& label);
