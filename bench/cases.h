@@ -19,6 +19,7 @@ extern const Family loading;
 extern const Family saving;
 extern const Family editing;
 extern const Family binding;
+extern const Family values;
 extern const Family panel;
 extern const Family frames;
 extern const Family painting;

@@ -1,5 +1,5 @@
-// quor-view-bench [WORD]: measures the families of cases (load, save, edit, live, start, panel, frames, paint), or the
-// one that is named, and prints the table. Ends with 1 if a case falls short.
+// quor-view-bench [WORD]: measures the families of cases (load, save, edit, live, values, start, panel, frames, paint),
+// or the one that is named, and prints the table. Ends with 1 if a case falls short.
 
 #include "bench/cases.h"
 
@@ -36,7 +36,8 @@ int main(int argc, char** argv)
 
     Results results;
     std::vector<const Family*> chosen;
-    for (const Family* family : {&loading, &saving, &editing, &binding, &starting, &panel, &frames, &painting}) {
+    for (const Family* family :
+         {&loading, &saving, &editing, &binding, &values, &starting, &panel, &frames, &painting}) {
         if (word.empty() || word == family->name) {
             family->prepare(results);
             chosen.push_back(family);
@@ -45,7 +46,8 @@ int main(int argc, char** argv)
     if (chosen.empty()) {
         std::fprintf(
             stderr,
-            "There is no family of this name; there are load, save, edit, live, start, panel, frames and paint.\n");
+            "There is no family of this name; there are load, save, edit, live, values, start, panel, frames and "
+            "paint.\n");
         return 2;
     }
     if (chosen.front() != &starting) { // which has measured itself

@@ -134,7 +134,8 @@ void PaintFace(benchmark::State& state)
     const auto& gauge = static_cast<const AngularGauge&>(canvas.FindArray("ctlMeterAngle")->Pattern());
     QImage sheet = Sheet({200, 200});
     QPainter painter(&sheet);
-    const DeviceSpace space(painter, dialArea);
+    KeptPictures kept;
+    const WidgetSpace space(painter, dialArea, kept);
     for (auto _ : state) {
         painter.setClipping(false);
         DrawDialFace(painter, gauge, space);
