@@ -11,12 +11,4 @@ void Unsubscribe(EventNode* node) noexcept
     }
 }
 
-void EndRun(EventNode* node) noexcept
-{
-    --node->runs;
-    if (node->runs == 0 && !node->isSubscribed) {
-        delete node;
-    }
-}
-
 } // namespace quor::detail

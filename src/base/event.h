@@ -23,7 +23,14 @@ struct EventNode : RingNode {
 };
 
 void Unsubscribe(EventNode* node) noexcept;
-void EndRun(EventNode* node) noexcept;
+
+inline void EndRun(EventNode* node) noexcept
+{
+    --node->runs;
+    if (node->runs == 0 && !node->isSubscribed) {
+        delete node;
+    }
+}
 
 } // namespace detail
 

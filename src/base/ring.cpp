@@ -9,29 +9,6 @@ void RingNode::Leave() noexcept
     }
 }
 
-RingWalk::RingWalk(Ring& ring) noexcept
-    : m_ring(&ring), m_upcoming(ring.m_head.m_next), m_limit(ring.m_linked), m_outer(ring.m_walks)
-{
-    ring.m_walks = this;
-}
-
-RingWalk::~RingWalk()
-{
-    if (m_ring != nullptr) {
-        m_ring->m_walks = m_outer;
-    }
-}
-
-RingNode* RingWalk::Next() noexcept
-{
-    if (m_ring == nullptr || m_upcoming == &m_ring->m_head || m_upcoming->m_number >= m_limit) {
-        return nullptr;
-    }
-    RingNode* node = m_upcoming;
-    m_upcoming = node->m_next;
-    return node;
-}
-
 Ring::~Ring()
 {
     while (!IsEmpty()) {

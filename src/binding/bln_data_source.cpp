@@ -144,9 +144,6 @@ void clsBlnDataSource::Refresh()
 
 void clsBlnDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
 {
-    if (!IsOf(event.NetName, event.UnitNum)) {
-        return;
-    }
     if (WatchesLimits()) {
         TakeLimits(event);
     }
@@ -250,9 +247,6 @@ bool clsBlnDataSource::IsOutside() const noexcept
 
 void clsBlnDataSource::m_Srv_Values(const ValuesEvent& event)
 {
-    if (!IsOf(event.NetName, event.UnitNum)) {
-        return;
-    }
     const auto bit = [&](std::int16_t mask) { return BitOf(mask, Channel()); };
     if (WatchesLimits()) {
         const bool mute = bit(event.MeterMutes);

@@ -149,9 +149,6 @@ void clsCmdDataSource::Refresh()
 
 void clsCmdDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
 {
-    if (event.NetName != Site() || event.UnitNum != Unit()) {
-        return;
-    }
     if (CmdDataType() < actions::commandA || CmdDataType() > actions::stopMacro) {
         return;
     }

@@ -69,9 +69,6 @@ void clsMtrDataSource::RefreshData()
 
 void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
 {
-    if (event.NetName != Site() || event.UnitNum != Unit()) {
-        return;
-    }
     const std::int32_t index = Channel() - 1;
     const double count = event.CalibConst.FromLower(index);
     const bool isSigned = event.MtrTypes.FromLower(index) == bothWays;
@@ -82,9 +79,6 @@ void clsMtrDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
 
 void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)
 {
-    if (event.NetName != Site() || event.UnitNum != Unit()) {
-        return;
-    }
     HasData = true;
     const bool mute = BitOf(event.MeterMutes, Channel());
     RaiseUpdate(event.MeterValues.FromLower(Channel() - 1), mute);

@@ -27,7 +27,8 @@ struct ConfigDataEvent;
 struct FlagReportEvent;
 struct ValuesEvent;
 
-// The handlers of a source. Each compares the event with its own binding; a failure ends the handler silently.
+// The handlers of a source; a failure ends the handler silently. Values and configurations come to those alone that
+// follow their unit; every other event is compared with the source's own binding.
 class ServerListener : private RingNode {
 public:
     virtual void m_Srv_ConfigData(const ConfigDataEvent& /*event*/) {}

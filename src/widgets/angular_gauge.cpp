@@ -12,15 +12,12 @@ void AngularGauge::VisitProperties(PropertyVisitor& visitor) const
               TickMinorLength, TickMinorAlignment, TickMargin, PanelFaceStyle, CurrentMax, CurrentMin);
 }
 
-Area AngularGauge::PartOf(const void* property) const
+Area AngularGauge::PlacePointer() const
 {
-    if (property != &Position) {
-        return Bounds();
-    }
     const double width = Width() / twipsPerPixelX;
     const double height = Height() / twipsPerPixelY;
     const ArcLayout arc = ArcOf(*this, width, height, 1);
-    return PixelsWithin(PointerBounds(PointerOutline(*this, arc), arc));
+    return PixelsWithin(PointerBounds(*this, arc));
 }
 
 } // namespace quor

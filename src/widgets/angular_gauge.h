@@ -50,7 +50,7 @@ public:
     void VisitProperties(PropertyVisitor& visitor) const override;
 
 protected:
-    Area PartOf(const void* property) const override;
+    Area PlacePointer() const override;
 };
 
 } // namespace quor

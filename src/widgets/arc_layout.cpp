@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace quor {
@@ -181,9 +182,20 @@ PointerRelief ReliefOf(const ArcLayout& arc) noexcept
     return {unit, {{{1.2 * unit, 1.6 * unit, 0.14}, {2 * unit, 2.6 * unit, 0.09}}}};
 }
 
-Extent PointerBounds(const Outline& outline, const ArcLayout& arc) noexcept
+Extent PointerBounds(const AngularGauge& gauge, const ArcLayout& arc) noexcept
 {
-    const Extent body = outline.Bounds();
+    const PointerFrame frame = FrameOf(gauge, arc);
+    const HalfPointer half = HalfOf(gauge, arc);
+    constexpr double far = std::numeric_limits<double>::infinity();
+    Extent body{far, far, -far, -far};
+    for (std::size_t i = 0; i < half.count; ++i) { // both corners of a pair at once
+        const auto& corner = half.corners[i];
+        const Point middle = frame.At(corner.along, 0);
+        const double aside = std::abs(corner.across * frame.sine);
+        const double upward = std::abs(corner.across * frame.cosine);
+        body = {std::min(body.left, middle.x - aside), std::min(body.top, middle.y - upward),
+                std::max(body.right, middle.x + aside), std::max(body.bottom, middle.y + upward)};
+    }
     const PointerRelief relief = ReliefOf(arc);
     const double halo = 2 * relief.halo; // at the corners
     const auto& shadow = relief.shadows.back();

@@ -59,8 +59,8 @@ struct PointerRelief {
 };
 PointerRelief ReliefOf(const ArcLayout& arc) noexcept;
 
-// All that a pointer of that outline paints.
-Extent PointerBounds(const Outline& outline, const ArcLayout& arc) noexcept;
+// All that the pointer paints.
+Extent PointerBounds(const AngularGauge& gauge, const ArcLayout& arc) noexcept;
 
 // A number: the left end of its first digit and the top of its digits.
 struct HungNumber {

@@ -20,11 +20,8 @@ void LinearGauge::Stored(const void* property)
     }
 }
 
-Area LinearGauge::PartOf(const void* property) const
+Area LinearGauge::PlacePointer() const
 {
-    if (property != &Position) {
-        return Bounds();
-    }
     const double width = Width() / twipsPerPixelX;
     const double height = Height() / twipsPerPixelY;
     const bool isVertical = Orientation() == orientations::vertical;

@@ -29,7 +29,7 @@ public:
 protected:
     // Turned, it swaps its width and height.
     void Stored(const void* property) override;
-    Area PartOf(const void* property) const override;
+    Area PlacePointer() const override;
 };
 
 } // namespace quor

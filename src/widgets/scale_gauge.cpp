@@ -17,6 +17,17 @@ void ScaleGauge::VisitProperties(PropertyVisitor& visitor) const
               Transparent, BackGroundColor, BorderStyle);
 }
 
+Area ScaleGauge::PointerPart() const
+{
+    if (m_last.look != Look() || m_last.position != Position() || m_last.bounds != Bounds()) {
+        m_last.part = PlacePointer();
+        m_last.look = Look();
+        m_last.position = Position();
+        m_last.bounds = Bounds();
+    }
+    return m_last.part;
+}
+
 Area ScaleGauge::PixelsWithin(const Extent& pixels) const
 {
     const auto twips = [](double pixel, float all) {

@@ -56,9 +56,29 @@ protected:
     {
         return property != &Position && Widget::ChangesLook(property);
     }
+    Area PartOf(const void* property) const final { return property == &Position ? PointerPart() : Bounds(); }
+
+    // What the pointer takes at its present position.
+    virtual Area PlacePointer() const = 0;
 
     // What the gauge has to paint of these pixels from its upper left corner, as a place on the canvas.
     Area PixelsWithin(const Extent& pixels) const;
+
+private:
+    // The pointer's last place, from where the next value moves it; another gauge finds its own.
+    struct LastPointer {
+        LastPointer() = default;
+        LastPointer(const LastPointer& /*other*/) noexcept {}
+
+        std::uint64_t look = 0;
+        double position = 0;
+        Area bounds;
+        Area part;
+    };
+
+    Area PointerPart() const;
+
+    mutable LastPointer m_last;
 };
 
 } // namespace quor

@@ -58,12 +58,16 @@ void Widget::InvalidateShown() const
 
 void Widget::InvalidateChanged(const Area& before, const Area& after) const
 {
-    const bool isOne = before == Area{} || after == Area{} || Overlap(before, after);
-    if (!isOne) {
+    const bool isGone = after == Area{};
+    if (before == after || before == Area{} || isGone) {
+        if (const Area& shows = isGone ? before : after; shows != Area{}) {
+            m_canvas->Invalidate(shows);
+        }
+    } else if (Overlap(before, after)) {
+        m_canvas->Invalidate(United(before, after));
+    } else {
         m_canvas->Invalidate(before);
         m_canvas->Invalidate(after);
-    } else if (before != Area{} || after != Area{}) {
-        m_canvas->Invalidate(before == Area{} ? after : after == Area{} ? before : United(before, after));
     }
 }
 

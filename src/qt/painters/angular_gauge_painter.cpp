@@ -149,7 +149,7 @@ void PaintPointer(const WidgetSpace& space, QPainter& painter, const Dial& dial,
     const QColor color = ToQt(Resolve(gauge.PointerColor()));
     const Outline outline = PointerOutline(gauge, dial.arc);
     const PointerRelief relief = ReliefOf(dial.arc);
-    const QRectF box = Box(PointerBounds(outline, dial.arc), dial.origin);
+    const QRectF box = Box(PointerBounds(gauge, dial.arc), dial.origin);
     painter.save(); // of a large one
     SmoothFills fills(painter, space.Pictures().fillRows, box, dial.inside, FarthestFall(relief));
     fills.Trace(outline.Grown(relief.halo).Points(), dial.origin);

@@ -36,7 +36,7 @@ private:
     QPainter& m_painter;
     FillRows& m_rows;
     QRect m_shown;
-    QRect m_place; // with what can be moved to where it shows
+    QRect m_place;    // with what can be moved to where it shows
     QImage m_picture; // null: the painter fills, for what is large
     int m_stride = 0;
     QPolygonF m_polygon; // if the painter fills
