@@ -37,38 +37,6 @@ template <class Owner, class... Settings> bool SetOneOf(Owner& owner, const Wish
     return (SetIfMeant(owner, wish, settings) || ...);
 }
 
-// The wish for a part of the element, such as `BlnDataSource.Site`; without a name if it is for something else.
-Wish ForPart(const Wish& wish, std::string_view part)
-{
-    const bool isMeant = wish.name.starts_with(part) && wish.name.substr(part.size()).starts_with('.');
-    return {isMeant ? wish.name.substr(part.size() + 1) : std::string_view(), wish.text};
-}
-
-bool SetCommon(Element& element, const Wish& wish)
-{
-    using Action = clsCmdDataSource;
-    return SetOneOf(element, wish, &Element::ObjWidth, &Element::ObjHeight, &Element::ObjTop, &Element::ObjLeft,
-                    &Element::ObjName) ||
-           SetOneOf(element.ClickAction, ForPart(wish, Action::name), &Action::CmdDataType, &Action::Unit,
-                    &Action::Channel, &Action::CtrlClick, &Action::Site);
-}
-
-bool SetStatus(Element& element, const Wish& wish)
-{
-    using Source = clsBlnDataSource;
-    auto* status = dynamic_cast<StatusElement*>(&element);
-    return status != nullptr && SetOneOf(status->BlnDataSource, ForPart(wish, Source::name), &Source::BlnDataType,
-                                         &Source::Unit, &Source::Channel, &Source::Site);
-}
-
-bool SetMeterSource(Element& element, const Wish& wish)
-{
-    using Source = clsMtrDataSource;
-    clsMtrDataSource* source = element.MeterSource();
-    return source != nullptr && SetOneOf(*source, ForPart(wish, Source::name), &Source::Unit, &Source::Channel,
-                                         &Source::DecimalPlaces, &Source::Site);
-}
-
 // Sets it where the element is an E, and has it.
 template <class E, class... Settings> bool SetOf(Element& element, const Wish& wish, Settings... settings)
 {
@@ -76,46 +44,59 @@ template <class E, class... Settings> bool SetOf(Element& element, const Wish& w
     return meant != nullptr && SetOneOf(*meant, wish, settings...);
 }
 
-bool SetLamp(Element& element, const Wish& wish)
+// The same of a source, if the element has it: `BlnDataSource.Site`.
+template <class Source, class... Settings> bool SetOfPart(Source* source, const Wish& wish, Settings... settings)
 {
-    using Round = clsLEDRound;
-    using E = clsLEDRect;
-    return SetOf<Round>(element, wish, &Round::ColorActive, &Round::ColorInactive, &Round::AutoInactive,
-                        &Round::Reflection, &Round::BevelStyle) ||
-           SetOf<E>(element, wish, &E::ColorActive, &E::ColorInactive, &E::AutoInactive, &E::Reflection, &E::BevelStyle,
-                    &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionOnColor, &E::CaptionOffColor,
-                    &E::CaptionWordWrap, &E::CaptionAlignment);
+    const std::string_view part = Source::name;
+    const bool isMeant = wish.name.starts_with(part) && wish.name.substr(part.size()).starts_with('.');
+    return source != nullptr && isMeant &&
+           SetOneOf(*source, Wish{wish.name.substr(part.size() + 1), wish.text}, settings...);
 }
 
-bool SetLabel(Element& element, const Wish& wish)
+bool SetElement(Element& element, const Wish& wish)
+{
+    using A = clsCmdDataSource;
+    using B = clsBlnDataSource;
+    using M = clsMtrDataSource;
+    return SetOf<Element>(element, wish, &Element::ObjWidth, &Element::ObjHeight, &Element::ObjTop, &Element::ObjLeft,
+                          &Element::ObjName) ||
+           SetOfPart(&element.ClickAction, wish, &A::CmdDataType, &A::Unit, &A::Channel, &A::CtrlClick, &A::Site) ||
+           SetOfPart(element.StatusSource(), wish, &B::BlnDataType, &B::Unit, &B::Channel, &B::Site) ||
+           SetOfPart(element.MeterSource(), wish, &M::Unit, &M::Channel, &M::DecimalPlaces, &M::Site);
+}
+
+bool SetStatus(Element& element, const Wish& wish)
+{
+    using R = clsLEDRound;
+    using F = clsLEDRect;
+    using L = clsStatusLabel;
+    using P = clsBoolPic;
+    using C = clsCmdLED;
+    return SetOf<R>(element, wish, &R::ColorActive, &R::ColorInactive, &R::AutoInactive, &R::Reflection,
+                    &R::BevelStyle) ||
+           SetOf<F>(element, wish, &F::ColorActive, &F::ColorInactive, &F::AutoInactive, &F::Reflection, &F::BevelStyle,
+                    &F::AutoCaption, &F::CaptionOn, &F::CaptionOff, &F::CaptionOnColor, &F::CaptionOffColor,
+                    &F::CaptionWordWrap, &F::CaptionAlignment) ||
+           SetOf<L>(element, wish, &L::AutoCaption, &L::CaptionOn, &L::CaptionOff, &L::CaptionColor,
+                    &L::CaptionWordWrap, &L::CaptionAlignment, &L::BGColor, &L::BGTransparent, &L::Border,
+                    &L::Border3D) ||
+           SetOf<P>(element, wish, &P::AutoCaption, &P::CaptionOn, &P::CaptionOff, &P::CaptionColor,
+                    &P::CaptionWordWrap, &P::CaptionAlignment, &P::ImageAlignment, &P::ImageUseMask, &P::ImageMaskColor,
+                    &P::BevelStyle, &P::BGColor, &P::ImageOn, &P::ImageOff) ||
+           SetOf<C>(element, wish, &C::LEDColor, &C::LEDAlignment, &C::AutoCaption, &C::Caption, &C::CaptionColor);
+}
+
+bool SetPlain(Element& element, const Wish& wish)
 {
     using L = clsLabel;
-    using E = clsStatusLabel;
+    using P = clsPicture;
+    using C = clsCommand;
     return SetOf<L>(element, wish, &L::Caption, &L::CaptionColor, &L::CaptionWordWrap, &L::CaptionAlignment,
                     &L::BGColor, &L::BGTransparent, &L::Border, &L::Border3D) ||
-           SetOf<E>(element, wish, &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionColor,
-                    &E::CaptionWordWrap, &E::CaptionAlignment, &E::BGColor, &E::BGTransparent, &E::Border,
-                    &E::Border3D);
-}
-
-bool SetPicture(Element& element, const Wish& wish)
-{
-    using P = clsPicture;
-    using E = clsBoolPic;
-    return SetOf<P>(element, wish, &P::BevelStyle, &P::PictureFillMode, &P::PictureMaskColor, &P::PictureUseMask,
+           SetOf<P>(element, wish, &P::BevelStyle, &P::PictureFillMode, &P::PictureMaskColor, &P::PictureUseMask,
                     &P::BGColor, &P::PictureFile) ||
-           SetOf<E>(element, wish, &E::AutoCaption, &E::CaptionOn, &E::CaptionOff, &E::CaptionColor,
-                    &E::CaptionWordWrap, &E::CaptionAlignment, &E::ImageAlignment, &E::ImageUseMask, &E::ImageMaskColor,
-                    &E::BevelStyle, &E::BGColor, &E::ImageOn, &E::ImageOff);
-}
-
-bool SetButton(Element& element, const Wish& wish)
-{
-    using C = clsCommand;
-    using E = clsCmdLED;
-    return SetOf<C>(element, wish, &C::AutoCaption, &C::Caption, &C::CaptionColor, &C::CaptionWordWrap,
-                    &C::CaptionAlignment, &C::ImageAlignment, &C::ImageUseMask, &C::ImageMaskColor, &C::ImageFile) ||
-           SetOf<E>(element, wish, &E::LEDColor, &E::LEDAlignment, &E::AutoCaption, &E::Caption, &E::CaptionColor);
+           SetOf<C>(element, wish, &C::AutoCaption, &C::Caption, &C::CaptionColor, &C::CaptionWordWrap,
+                    &C::CaptionAlignment, &C::ImageAlignment, &C::ImageUseMask, &C::ImageMaskColor, &C::ImageFile);
 }
 
 bool SetMeter(Element& element, const Wish& wish)
@@ -123,33 +104,26 @@ bool SetMeter(Element& element, const Wish& wish)
     using T = clsMeterText;
     using A = clsMtrAngle;
     using L = clsMtrLinear;
+    using S = ScaleMeter;
     return SetOf<T>(element, wish, &T::BGColor, &T::BorderStyle, &T::FontColor, &T::FontAlignment) ||
            SetOf<A>(element, wish, &A::ShowInnerArc, &A::ShowOuterArc, &A::MtrRange, &A::MtrRadius, &A::MtrStart,
                     &A::MtrHubSize, &A::MtrHubColor, &A::MtrHubVisible, &A::MtrOffsetX, &A::MtrOffsetY,
                     &A::PointerStyle, &A::PointerLength, &A::LabelMargin) ||
-           SetOf<L>(element, wish, &L::MeterOrientation, &L::PointerOffset, &L::TickLabelMargin, &L::TickLocation);
-}
-
-bool SetScaleMeter(Element& element, const Wish& wish)
-{
-    using E = ScaleMeter;
-    return SetOf<E>(element, wish, &E::AutoPositions, &E::PosMax, &E::PosMin, &E::BorderStyle, &E::ReverseScale,
-                    &E::BGTransparent, &E::BGColor, &E::PointerColor, &E::TickVals, &E::BandWidth, &E::PointerSize,
-                    &E::SectionColor1, &E::SectionColor2, &E::SectionColor3, &E::SectionColor4, &E::SectionColor5,
-                    &E::SectionEnd1, &E::SectionEnd2, &E::SectionEnd3, &E::SectionEnd4, &E::TickLabelColor);
+           SetOf<L>(element, wish, &L::MeterOrientation, &L::PointerOffset, &L::TickLabelMargin, &L::TickLocation) ||
+           SetOf<S>(element, wish, &S::AutoPositions, &S::PosMax, &S::PosMin, &S::BorderStyle, &S::ReverseScale,
+                    &S::BGTransparent, &S::BGColor, &S::PointerColor, &S::TickVals, &S::BandWidth, &S::PointerSize,
+                    &S::SectionColor1, &S::SectionColor2, &S::SectionColor3, &S::SectionColor4, &S::SectionColor5,
+                    &S::SectionEnd1, &S::SectionEnd2, &S::SectionEnd3, &S::SectionEnd4, &S::TickLabelColor);
 }
 
 void Let(Stage& stage, const Arguments& words)
 {
     Element& element = stage.ElementOf(words[1]);
     const Wish wish{words[2], words[3]};
-    for (const auto set :
-         {SetCommon, SetStatus, SetMeterSource, SetLamp, SetLabel, SetPicture, SetButton, SetMeter, SetScaleMeter}) {
-        if (set(element, wish)) {
-            return;
-        }
+    if (!SetElement(element, wish) && !SetStatus(element, wish) && !SetPlain(element, wish) &&
+        !SetMeter(element, wish)) {
+        throw JourneyError("no such setting: " + words[2]);
     }
-    throw JourneyError("no such setting: " + words[2]);
 }
 
 constexpr StepRow rows[] = {
