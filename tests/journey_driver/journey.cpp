@@ -1,7 +1,9 @@
 #include "tests/journey_driver/journey.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <utility>
 
 namespace quor {
 
@@ -53,22 +55,18 @@ std::vector<Word> ReadWords(const std::string& text)
 
 void ReadExpected(std::vector<Expected>& block, std::string_view line)
 {
-    using Kind = Expected::Kind;
-    line.remove_prefix(1);
-    Kind kind = Kind::InOrder;
-    if (!line.empty() && line.front() != ' ') {
-        constexpr std::string_view marks = ">?!";
-        const std::size_t mark = marks.find(line.front());
-        if (mark == 0) {
-            block.push_back({Kind::InOrder, "*"});
-        }
-        kind = mark == 0 ? Kind::InOrder : mark == 1 ? Kind::Among : Kind::Never;
-        line.remove_prefix(1);
-        if (mark == std::string_view::npos || (!line.empty() && line.front() != ' ')) {
-            throw JourneyError("no blank behind the mark of an answer");
-        }
+    using enum Expected::Kind;
+    constexpr std::pair<std::string_view, Expected::Kind> marks[] = {
+        {">", InOrder}, {">>", InOrder}, {">?", Among}, {">!", Never}};
+    const std::string_view mark = line.substr(0, line.find(' '));
+    const auto* kind = std::ranges::find(marks, mark, &std::pair<std::string_view, Expected::Kind>::first);
+    if (kind == std::end(marks)) {
+        throw JourneyError("no blank behind the mark of an answer");
     }
-    block.push_back({kind, std::string(line.substr(line.empty() ? 0 : 1))});
+    if (mark == ">>") {
+        block.push_back({InOrder, "*"});
+    }
+    block.push_back({kind->second, std::string(line.substr(std::min(mark.size() + 1, line.size())))});
 }
 
 void ReadLine(Journey& journey, const std::string& line, int number)

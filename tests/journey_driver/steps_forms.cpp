@@ -1,9 +1,12 @@
 // Steps on the controls of forms, as the user's mouse and keys would, and what the controls show.
 
+#include "base/overloaded.h"
 #include "forms/fields.h"
 #include "forms/form.h"
 #include "forms/panes.h"
 #include "tests/journey_driver/steps.h"
+
+#include <functional>
 
 namespace quor {
 
@@ -50,38 +53,29 @@ void MustBe(bool condition, const std::string& words)
     }
 }
 
-template <class C> void SetTo(C& control, std::int32_t option, const std::string& value)
-{
-    if constexpr (std::is_same_v<C, CheckBox>) {
-        MustBe(value == "0" || value == "1", "a box is 0 or 1");
-        if (control.Value() != (value == "1")) {
-            control.Toggle();
-        }
-    } else if constexpr (std::is_same_v<C, OptionArray>) {
-        MustBe(option >= 0 && option < std::ssize(control.Captions()) && value == "true",
-               "an option that is there is set to true");
-        control.Choose(option);
-    } else if constexpr (requires { control.Choose(0); }) {
-        const auto row = To<std::int32_t>(value);
-        std::ptrdiff_t count = 0;
-        if constexpr (std::is_same_v<C, ListBox>) {
-            count = std::ssize(control.Items());
-        } else {
-            count = std::ssize(control.Rows());
-        }
-        MustBe(row >= 0 && row < count, "the list has no row " + value);
-        control.Choose(row);
-    } else {
-        control.Type(value);
-    }
-}
-
 void Set(Stage& stage, const Arguments& words)
 {
     const Target target = FindTarget(stage, words[1]);
-    const bool isSet = ActAs<ListBox, RowList, CheckBox, OptionArray, TextBox, NumberField>(
-        target.control, [&](auto& control) { SetTo(control, target.option, words[2]); });
-    MustBe(isSet, "nothing to set: " + words[1]);
+    const std::string& value = words[2];
+    const auto choose = [](auto& list, const auto& rows, std::int32_t row) {
+        MustBe(row >= 0 && row < std::ssize(rows), "the list has no row " + std::to_string(row));
+        list.Choose(row);
+    };
+    const auto act = Overloaded{[&](ListBox& list) { choose(list, list.Items(), To<std::int32_t>(value)); },
+                                [&](RowList& list) { choose(list, list.Rows(), To<std::int32_t>(value)); },
+                                [&](OptionArray& options) {
+                                    MustBe(value == "true", "an option is set to true");
+                                    choose(options, options.Captions(), target.option);
+                                },
+                                [&](CheckBox& box) {
+                                    MustBe(value == "0" || value == "1", "a box is 0 or 1");
+                                    if (box.Value() != (value == "1")) {
+                                        box.Toggle();
+                                    }
+                                },
+                                [&](auto& field) { field.Type(value); }};
+    MustBe(ActAs<ListBox, RowList, OptionArray, CheckBox, TextBox, NumberField>(target.control, act),
+           "nothing to set: " + words[1]);
 }
 
 // What is typed replaces what was there; a number field lets a character that it refuses fall under the table.
@@ -110,62 +104,46 @@ void Push(Stage& stage, const Arguments& words)
     MustBe(isPushed, "nothing to push: " + words[1]);
 }
 
-template <class C> std::string ValueOf(const C& control)
+std::string ItemsText(const auto& rows, auto textOf)
 {
-    if constexpr (std::is_same_v<C, CheckBox>) {
-        return control.Value() ? "1" : "0";
-    } else if constexpr (std::is_same_v<C, Swatch>) {
-        return Line(control.BackColor(), control.Caption());
-    } else if constexpr (std::is_same_v<C, ListBox>) {
-        return ValueText(control.ListIndex());
-    } else if constexpr (requires { control.Rows(); }) {
-        return ValueText(control.Index());
-    } else if constexpr (requires { control.Text(); }) {
-        return ValueText(control.Text());
-    } else if constexpr (requires { control.Value(); }) {
-        return ValueText(control.Value());
-    } else {
-        return ValueText(control.Caption());
+    std::string text = " items";
+    for (const auto& row : rows) {
+        text += ' ' + Quoted(std::invoke(textOf, row));
     }
-}
-
-// What stands behind the rest of the line.
-template <class C> std::string RestOf(const C& control)
-{
-    std::string rest;
-    if constexpr (std::is_same_v<C, ListBox>) {
-        rest = " items";
-        for (const std::string& item : control.Items()) {
-            rest += ' ' + Quoted(item);
-        }
-    } else if constexpr (std::is_same_v<C, RowList>) {
-        rest = " items";
-        for (const RowList::Row& row : control.Rows()) {
-            rest += ' ' + Quoted(row.text);
-        }
-    } else if constexpr (std::is_same_v<C, TextBox>) {
-        rest = " back " + ValueText(control.BackColor());
-    }
-    return rest;
+    return text;
 }
 
 // An array of options has a line for each.
 std::vector<std::string> ControlLines(Control& control)
 {
     std::vector<std::string> lines;
-    const auto add = [&](const std::string& name, const std::string& value, const std::string& rest) {
+    const auto add = [&](const std::string& value, const std::string& rest = {}, const std::string& index = {}) {
         using Bare = std::string_view;
-        lines.push_back(Line("control", Bare(name), "value", Bare(value), "enabled", control.Enabled(), "visible",
-                             control.Visible()) +
+        lines.push_back(Line("control", Bare(control.Name() + index), "value", Bare(value), "enabled",
+                             control.Enabled(), "visible", control.Visible()) +
                         rest);
     };
-    if (const auto* options = dynamic_cast<const OptionArray*>(&control)) {
-        for (std::int32_t index = 0; index < std::ssize(options->Captions()); ++index) {
-            add(control.Name() + '(' + std::to_string(index) + ')', ValueText(options->Index() == index), "");
-        }
-    } else if (!ActAs<ListBox, CheckBox, RowList, TextBox, NumberField, ProgressBar, Swatch, Label, Button, Frame>(
-                   control, [&](auto& told) { add(told.Name(), ValueOf(told), RestOf(told)); })) {
-        add(control.Name(), "\"\"", "");
+    const auto tell = Overloaded{
+        [&](const OptionArray& options) {
+            for (std::int32_t index = 0; index < std::ssize(options.Captions()); ++index) {
+                add(ValueText(options.Index() == index), {}, '(' + std::to_string(index) + ')');
+            }
+        },
+        [&](const ListBox& list) { add(ValueText(list.ListIndex()), ItemsText(list.Items(), std::identity())); },
+        [&](const RowList& list) { add(ValueText(list.Index()), ItemsText(list.Rows(), &RowList::Row::text)); },
+        [&](const CheckBox& box) { add(box.Value() ? "1" : "0"); },
+        [&](const TextBox& box) { add(ValueText(box.Text()), " back " + ValueText(box.BackColor())); },
+        [&](const Swatch& swatch) { add(Line(swatch.BackColor(), swatch.Caption())); },
+        [&](const auto& other) {
+            if constexpr (requires { other.Value(); }) {
+                add(ValueText(other.Value()));
+            } else {
+                add(ValueText(other.Caption()));
+            }
+        }};
+    if (!ActAs<OptionArray, ListBox, CheckBox, RowList, TextBox, NumberField, ProgressBar, Swatch, Label, Button,
+               Frame>(control, tell)) {
+        add("\"\"");
     }
     return lines;
 }

@@ -15,27 +15,14 @@ namespace {
 
 using nlohmann::json;
 
-json ParseArray(const std::string& text)
-{
-    json value = json::parse(text, nullptr, false);
-    if (!value.is_array()) {
-        throw JourneyError("no array: " + text);
-    }
-    return value;
-}
-
 template <class T> T FromJson(const json& value)
 {
-    if constexpr (std::is_same_v<T, std::string>) {
-        if (value.is_boolean()) {
-            return value.get<bool>() ? "True" : "False";
-        }
-        return value.is_string() ? value.get<std::string>() : value.dump();
-    } else {
-        if (!value.is_number()) {
-            throw JourneyError("no number: " + value.dump());
-        }
+    if constexpr (!std::is_same_v<T, std::string>) {
         return static_cast<T>(value.get<double>());
+    } else if (value.is_boolean()) {
+        return value.get<bool>() ? "True" : "False";
+    } else {
+        return value.is_string() ? value.get<std::string>() : value.dump();
     }
 }
 
@@ -48,31 +35,22 @@ template <class T> void Take(const std::string& word, T& value)
 // 16 channels, the last of them the sign; without a sign as well.
 void Take(const std::string& word, std::int16_t& mask)
 {
-    const auto value = To<std::int32_t>(word);
-    if (value < -0x8000 || value > 0xFFFF) {
-        throw JourneyError("no mask of 16 bits: " + word);
-    }
-    mask = static_cast<std::int16_t>(value);
+    mask = static_cast<std::int16_t>(To<std::int32_t>(word));
 }
 
 template <class T> void Take(const std::string& word, ServerArray<T>& array)
 {
     std::vector<T> values;
-    for (const json& value : ParseArray(word)) {
-        values.push_back(FromJson<T>(value));
-    }
+    std::ranges::transform(json::parse(word).get<json::array_t>(), std::back_inserter(values), FromJson<T>);
     array = ServerArray<T>(std::move(values));
 }
 
 template <class T> void Take(const std::string& word, ServerTable<T>& table)
 {
-    const json rows = ParseArray(word);
-    std::size_t columns = 0;
-    for (const json& row : rows) {
-        columns = std::max(columns, ParseArray(row.dump()).size());
-    }
+    const auto rows = json::parse(word).get<std::vector<json::array_t>>();
+    const std::size_t columns = rows.empty() ? 0 : std::ranges::max(rows, {}, std::ranges::size).size();
     std::vector<T> values;
-    for (const json& row : rows) {
+    for (const json::array_t& row : rows) {
         std::ranges::transform(row, std::back_inserter(values), FromJson<T>);
         values.resize(values.size() + columns - row.size());
     }

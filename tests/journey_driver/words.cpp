@@ -16,21 +16,11 @@ std::string_view NextPart(std::string_view& text, char end)
 
 bool FitsSlot(std::string_view slot, const Word& word)
 {
-    constexpr std::string_view integers = " N MS CODE NUMBER RIGHT ";
-    constexpr std::string_view numbers = " X Y DX DY SIZE TIME ";
-    const std::string name = ' ' + std::string(slot) + ' ';
-    std::int32_t integer = 0;
-    double number = 0;
-    if (std::ranges::none_of(slot, [](char letter) { return letter >= 'a' && letter <= 'z'; })) {
-        return (integers.find(name) == integers.npos || Reads(word.text, integer)) &&
-               (numbers.find(name) == numbers.npos || Reads(word.text, number));
+    bool fits = std::ranges::none_of(slot, [](char letter) { return letter >= 'a' && letter <= 'z'; });
+    while (!fits && !slot.empty()) {
+        fits = NextPart(slot, '|') == word.text;
     }
-    while (!slot.empty()) {
-        if (NextPart(slot, '|') == word.text) {
-            return true;
-        }
-    }
-    return false;
+    return fits;
 }
 
 } // namespace

@@ -73,7 +73,7 @@ private:
 };
 
 // Whether the words fit a usage as people read it: `press WHERE X Y [left|right|middle]`. Words in capitals are names
-// of arguments, of which some are numbers; others stand for themselves. What may be left out is in brackets, `...`
+// of arguments, others stand for themselves. What may be left out is in brackets, `...`
 // repeats the word.
 bool FitsUsage(std::string_view usage, std::span<const Word> words);
 
