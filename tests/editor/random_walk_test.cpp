@@ -62,62 +62,47 @@ struct AnyEdit : EditorFixture {
     void Edit()
     {
         Element* element = Any();
-        switch (element == nullptr ? 0 : Draw(0, 13)) {
-        case 0:
+        const int what = element == nullptr ? 0 : Draw(0, 13);
+        if (what == 0) {
             main.InsertElement(AnyKind());
-            break;
-        case 1:
+        } else if (what == 1) {
             Drag(*element);
-            break;
-        case 2:
-            Select(*element);
-            Size();
-            break;
-        case 3:
-            Select(*element);
-            main.KeyDown(46);
-            timers.Advance(10);
-            break;
-        case 4:
+        } else if (what == 2) {
             main.ReleaseControl();
-            break;
-        case 5:
-            Select(*element);
-            main.CopyControl();
-            main.PasteControl();
-            break;
-        case 6:
-            Select(*element);
-            main.ReorderControl(Draw(0, 1) == 1);
-            break;
-        case 7:
+        } else if (what == 3) {
             main.ssScroll().ScrollTo(Draw(0, 5000), Draw(0, 5000));
-            break;
-        case 8:
-            Select(*element);
-            main.AlignToGrid();
-            main.SizeToGrid();
-            break;
-        case 9:
+        } else if (what == 4) {
             main.Grid().ToggleSnap();
-            break;
-        case 10:
-            Select(*element);
-            On<NumberField>("frmCVGeneral", "txtX").Type(std::to_string(Draw(0, 300)));
-            break;
-        case 11:
-            Select(*element);
-            Restyle(*element);
-            break;
-        case 12:
+        } else if (what == 5) {
             main.Mouse().BeginToolDrag(AnyKind());
             main.Mouse().Drop(At(300, 300), 5, 5);
-            break;
-        default:
-            if (Draw(0, 40) == 0) {
-                main.ClearView();
-            }
-            break;
+        } else if (what < 13) {
+            Select(*element);
+            EditSelected(*element, what);
+        } else if (Draw(0, 40) == 0) {
+            main.ClearView();
+        }
+    }
+
+    void EditSelected(const Element& element, int what)
+    {
+        if (what == 6) {
+            Size();
+        } else if (what == 7) {
+            main.KeyDown(46);
+            timers.Advance(10);
+        } else if (what == 8) {
+            main.CopyControl();
+            main.PasteControl();
+        } else if (what == 9) {
+            main.ReorderControl(Draw(0, 1) == 1);
+        } else if (what == 10) {
+            main.AlignToGrid();
+            main.SizeToGrid();
+        } else if (what == 11) {
+            On<NumberField>("frmCVGeneral", "txtX").Type(std::to_string(Draw(0, 300)));
+        } else {
+            Restyle(element);
         }
     }
 

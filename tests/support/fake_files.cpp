@@ -16,26 +16,23 @@ public:
 
     std::int64_t Size() override
     {
-        MustBeOpen();
+        MustBe(m_isOpen);
         return std::ssize(*m_bytes);
     }
 
     std::size_t Read(std::int64_t position, std::span<std::uint8_t> bytes) override
     {
         Call("read", position, bytes.size());
-        const std::size_t size = m_bytes->size();
-        const std::size_t start = std::min(static_cast<std::size_t>(position), size);
-        const std::size_t count = std::min(bytes.size(), size - start);
-        std::copy_n(m_bytes->begin() + static_cast<std::ptrdiff_t>(start), count, bytes.begin());
-        return count;
+        const std::size_t start = std::min(static_cast<std::size_t>(position), m_bytes->size());
+        const auto there = std::span(*m_bytes).subspan(start, std::min(bytes.size(), m_bytes->size() - start));
+        std::ranges::copy(there, bytes.begin());
+        return there.size();
     }
 
     void Write(std::int64_t position, std::span<const std::uint8_t> bytes) override
     {
         Call("write", position, bytes.size());
-        if (m_mode == OpenMode::Read) {
-            throw Failure(failures::pathFileAccess);
-        }
+        MustBe(m_mode != OpenMode::Read);
         const std::size_t start = m_mode == OpenMode::Append ? m_bytes->size() : static_cast<std::size_t>(position);
         m_bytes->resize(std::max(m_bytes->size(), start + bytes.size()));
         std::copy(bytes.begin(), bytes.end(), m_bytes->begin() + static_cast<std::ptrdiff_t>(start));
@@ -44,20 +41,17 @@ public:
     void Close() override { m_isOpen = false; }
 
 private:
-    void MustBeOpen() const
+    static void MustBe(bool condition)
     {
-        if (!m_isOpen) {
+        if (!condition) {
             throw Failure(failures::pathFileAccess);
         }
     }
 
     void Call(std::string_view operation, std::int64_t position, std::size_t length)
     {
-        MustBeOpen();
+        MustBe(m_isOpen && position >= 0);
         m_files.Call(operation, Quoted(m_path) + ' ' + std::to_string(position) + ' ' + std::to_string(length));
-        if (position < 0) {
-            throw Failure(failures::pathFileAccess);
-        }
     }
 
     FakeFiles& m_files;
@@ -76,9 +70,7 @@ void FakeFiles::Erase(const std::string& path)
 std::vector<std::string> FakeFiles::Paths() const
 {
     std::vector<std::string> paths;
-    for (const auto& [path, bytes] : m_files) {
-        paths.push_back(path);
-    }
+    std::ranges::transform(m_files, std::back_inserter(paths), [](const auto& file) { return file.first; });
     return paths;
 }
 

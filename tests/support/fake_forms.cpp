@@ -59,7 +59,7 @@ void FakeForms::RunEvents()
 {
     if (!m_lastRun || m_timers.Now() - *m_lastRun >= pauseBetweenRuns) {
         m_lastRun = m_timers.Now();
-        m_timers.RunDue();
+        m_timers.Advance(0);
     }
 }
 

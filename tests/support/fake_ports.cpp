@@ -40,45 +40,17 @@ BoxAnswer FakeBoxes::Show(const std::string& text, const std::string& title, Box
     return answer;
 }
 
-void FakeDialog::WillOpen(const std::string& path)
-{
-    m_steps.push_back({DialogKind::Open, [path](CommonDialog& dialog) { dialog.FileName = path; }});
-}
-
-void FakeDialog::WillSave(const std::string& path)
-{
-    m_steps.push_back({DialogKind::Save, [path](CommonDialog& dialog) { dialog.FileName = path; }});
-}
-
-void FakeDialog::WillPickColor(quor::Color color)
-{
-    m_steps.push_back({DialogKind::Color, [color](CommonDialog& dialog) { dialog.Color = color; }});
-}
-
-void FakeDialog::WillPickFont(std::function<void(CommonDialog&)> choice)
-{
-    m_steps.push_back({DialogKind::Font, std::move(choice)});
-}
-
-void FakeDialog::WillCancel()
-{
-    m_steps.emplace_back();
-}
-
 void FakeDialog::Run(DialogKind kind)
 {
     constexpr std::string_view calls[] = {"open", "save", "color", "font"};
     planned.Count(calls[static_cast<std::size_t>(kind)]);
     Shown.Raise(kind);
-    Step step;
-    if (!m_steps.empty()) {
-        step = std::move(m_steps.front());
-        m_steps.pop_front();
-    }
-    if (step.act && step.kind != kind) {
-        throw std::logic_error("the script expects a dialog of another kind");
-    }
+    const Step step = m_steps.empty() ? Step() : m_steps.front();
+    m_steps.erase(m_steps.begin(), m_steps.begin() + (m_steps.empty() ? 0 : 1));
     if (step.act) {
+        if (step.kind != kind) {
+            throw std::logic_error("the script expects a dialog of another kind");
+        }
         step.act(*this);
     } else if (kind == DialogKind::Open || kind == DialogKind::Save) {
         FileName.clear();

@@ -49,11 +49,14 @@ public:
     Event<DialogKind> Shown; // before the user does anything
 
     // What the user will do in the next dialogs, in their order; without, cancel. A dialog of another kind fails.
-    void WillOpen(const std::string& path);
-    void WillSave(const std::string& path);
-    void WillPickColor(quor::Color color);
-    void WillPickFont(std::function<void(CommonDialog&)> choice); // sets the six attributes
-    void WillCancel();
+    void WillOpen(const std::string& path) { Will(DialogKind::Open, &CommonDialog::FileName, path); }
+    void WillSave(const std::string& path) { Will(DialogKind::Save, &CommonDialog::FileName, path); }
+    void WillPickColor(quor::Color color) { Will(DialogKind::Color, &CommonDialog::Color, color); }
+    void WillPickFont(std::function<void(CommonDialog&)> choice) // sets the six attributes
+    {
+        m_steps.push_back({DialogKind::Font, std::move(choice)});
+    }
+    void WillCancel() { m_steps.emplace_back(); }
 
     void ShowOpen() override { Run(DialogKind::Open); }
     void ShowSave() override { Run(DialogKind::Save); }
@@ -65,6 +68,10 @@ private:
         DialogKind kind = DialogKind::Open;
         std::function<void(CommonDialog&)> act; // none: cancel, in a dialog of any kind
     };
+    template <class T> void Will(DialogKind kind, T CommonDialog::*field, const T& value)
+    {
+        m_steps.push_back({kind, [=](CommonDialog& dialog) { dialog.*field = value; }});
+    }
     void Run(DialogKind kind);
 
     std::deque<Step> m_steps;

@@ -6,17 +6,6 @@
 
 namespace quor {
 
-FakeUnit::FakeUnit(FakeServer& server, std::string site, std::uint8_t number)
-    : m_server(server), m_site(std::move(site)), m_number(number)
-{
-}
-
-TeskCommand& FakeUnit::Item(std::uint8_t index)
-{
-    m_command = index;
-    return *this;
-}
-
 void FakeUnit::Call(const std::string& operation)
 {
     m_server.Call("Sites.Item(" + Quoted(m_site) + ").Units.Item(" + std::to_string(m_number) + ")." + operation);
@@ -24,12 +13,8 @@ void FakeUnit::Call(const std::string& operation)
 
 TeskUnit& FakeSite::Item(std::uint8_t unitNum)
 {
-    for (FakeUnit& unit : m_units) {
-        if (unit.UnitNum() == unitNum) {
-            return unit;
-        }
-    }
-    throw Failure(failures::outOfRange);
+    const auto found = std::ranges::find(m_units, unitNum, &FakeUnit::UnitNum);
+    return found == m_units.end() ? throw Failure(failures::outOfRange) : *found;
 }
 
 bool FakeSite::AnyOf(const std::function<bool(TeskUnit&)>& isSo)
@@ -49,10 +34,10 @@ void FakeServer::Clear()
     m_sites.clear();
 }
 
-void FakeServer::Call(std::string operation)
+void FakeServer::Call(const std::string& operation)
 {
-    calls.push_back(std::move(operation));
-    Called.Raise(calls.back());
+    calls.push_back(operation);
+    Called.Raise(operation);
 }
 
 void FakeServer::GetSites(TeskSiteList& list)
@@ -64,12 +49,8 @@ void FakeServer::GetSites(TeskSiteList& list)
 
 TeskSite& FakeServer::Item(const std::string& netName)
 {
-    for (FakeSite& site : m_sites) {
-        if (site.netName == netName) {
-            return site;
-        }
-    }
-    throw Failure(failures::invalidCall);
+    const auto found = std::ranges::find(m_sites, netName, &FakeSite::netName);
+    return found == m_sites.end() ? throw Failure(failures::invalidCall) : *found;
 }
 
 bool FakeServer::AnyOf(const std::function<bool(TeskSite&)>& isSo)

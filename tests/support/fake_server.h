@@ -19,7 +19,10 @@ class FakeUnit final : public TeskUnit,
                        private TeskUnitConfig,
                        private TeskMacroConfig {
 public:
-    FakeUnit(FakeServer& server, std::string site, std::uint8_t number);
+    FakeUnit(FakeServer& server, std::string site, std::uint8_t number)
+        : m_server(server), m_site(std::move(site)), m_number(number)
+    {
+    }
 
     std::string name;
     bool eventsPending = false;
@@ -46,7 +49,11 @@ public:
     void RunMacro(std::uint8_t macro) override { Call("RunMacro(" + std::to_string(macro) + ")"); }
 
 private:
-    TeskCommand& Item(std::uint8_t index) override;
+    TeskCommand& Item(std::uint8_t index) override
+    {
+        m_command = index;
+        return *this;
+    }
     void IssueA() override { Call("Commands.Item(" + std::to_string(m_command) + ").IssueA"); }
     void IssueB() override { Call("Commands.Item(" + std::to_string(m_command) + ").IssueB"); }
     const TeskMacroConfig& MacroConfig() const override { return *this; }
@@ -95,7 +102,7 @@ public:
     // Also in the catalogue.
     FakeSite& Add(const std::string& name);
     void Clear();
-    void Call(std::string operation);
+    void Call(const std::string& operation);
 
     TeskSites& Sites() override
     {

@@ -1,16 +1,17 @@
 #include "tests/support/fake_timers.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 namespace quor {
 
-class FakeTimer final : public Timer {
+class FakeTimers::Each final : public Timer {
 public:
-    explicit FakeTimer(FakeTimers& owner) : m_owner(owner) { owner.m_timers.push_back(this); }
-    ~FakeTimer() override { std::erase(m_owner.m_timers, this); }
-    FakeTimer(const FakeTimer&) = delete;
-    FakeTimer& operator=(const FakeTimer&) = delete;
+    explicit Each(FakeTimers& owner) : m_owner(owner) { owner.m_timers.push_back(this); }
+    ~Each() override { std::erase(m_owner.m_timers, this); }
+    Each(const Each&) = delete;
+    Each& operator=(const Each&) = delete;
 
     void SetInterval(int milliseconds) override
     {
@@ -23,15 +24,13 @@ public:
 
     void SetEnabled(bool enabled) override
     {
-        if (enabled && !m_enabled) {
-            m_due = m_owner.m_now + m_interval;
-        }
+        m_due = enabled && !m_enabled ? m_owner.m_now + m_interval : m_due;
         m_enabled = enabled;
     }
 
     bool Enabled() const override { return m_enabled; }
 
-    std::int64_t Due() const { return m_due; }
+    std::int64_t Due() const { return m_enabled ? m_due : std::numeric_limits<std::int64_t>::max(); }
 
     // Its handlers may end it.
     void Fire()
@@ -49,36 +48,21 @@ private:
 
 std::unique_ptr<Timer> FakeTimers::Make()
 {
-    return std::make_unique<FakeTimer>(*this);
+    return std::make_unique<Each>(*this);
 }
 
 void FakeTimers::Advance(int milliseconds)
 {
     const std::int64_t end = m_now + milliseconds;
-    FireUntil(end);
-    m_now = std::max(m_now, end);
-}
-
-void FakeTimers::RunDue()
-{
-    FireUntil(m_now);
-}
-
-void FakeTimers::FireUntil(std::int64_t end)
-{
     for (;;) {
-        FakeTimer* next = nullptr;
-        for (FakeTimer* timer : m_timers) {
-            if (timer->Enabled() && timer->Due() <= end && (next == nullptr || timer->Due() < next->Due())) {
-                next = timer;
-            }
+        const auto next = std::ranges::min_element(m_timers, {}, &Each::Due); // of equals the first
+        if (next == m_timers.end() || (*next)->Due() > end) {
+            break;
         }
-        if (next == nullptr) {
-            return;
-        }
-        m_now = std::max(m_now, next->Due());
-        next->Fire();
+        m_now = std::max(m_now, (*next)->Due());
+        (*next)->Fire();
     }
+    m_now = std::max(m_now, end);
 }
 
 } // namespace quor

@@ -8,26 +8,20 @@
 
 namespace quor {
 
-class FakeTimer;
-
 class FakeTimers final : public Timers {
 public:
     std::unique_ptr<Timer> Make() override;
 
-    // Time moves on; due timers fire in the order of their time, then of their making.
+    // Time moves on, or stands; due timers fire in the order of their time, then of their making.
     void Advance(int milliseconds);
-
-    // Fires what is due by now, once.
-    void RunDue();
 
     // Milliseconds since the beginning.
     std::int64_t Now() const { return m_now; }
 
 private:
-    friend class FakeTimer;
-    void FireUntil(std::int64_t end);
+    class Each;
 
-    std::vector<FakeTimer*> m_timers; // in order of making
+    std::vector<Each*> m_timers; // in order of making
     std::int64_t m_now = 0;
 };
 
