@@ -14,28 +14,19 @@ constexpr std::string_view blanks = " \t";
 // The word at which the line stands. A text in quotes and an array are JSON, and may have blanks in them.
 Word ReadWord(std::istringstream& line)
 {
-    const std::streamoff start = line.tellg();
     const bool isQuoted = line.peek() == '"';
     if (isQuoted || line.peek() == '[') {
         try {
             nlohmann::json json;
             line >> json;
-            const auto length = static_cast<std::size_t>(line.tellg() - start);
-            return {isQuoted ? json.get<std::string>() : line.str().substr(static_cast<std::size_t>(start), length),
-                    isQuoted};
-        } catch (const nlohmann::json::parse_error& error) {
-            if (isQuoted) {
-                throw JourneyError(error.what());
-            }
-            line.clear();
-            line.seekg(start);
+            return {isQuoted ? json.get<std::string>() : json.dump(), isQuoted};
+        } catch (const nlohmann::json::exception& error) {
+            throw JourneyError(error.what());
         }
     }
     Word word;
     line >> word.text;
-    if (word.text.find('"') != std::string::npos) {
-        throw JourneyError("a quote within a word");
-    }
+    MustBe(word.text.find('"') == std::string::npos, "a quote within a word");
     return word;
 }
 
@@ -45,10 +36,7 @@ std::vector<Word> ReadWords(const std::string& text)
     std::vector<Word> words;
     while (!(line >> std::ws).eof()) {
         words.push_back(ReadWord(line));
-        if (!line.eof() && line.peek() != std::istringstream::traits_type::eof() &&
-            blanks.find(static_cast<char>(line.peek())) == std::string_view::npos) {
-            throw JourneyError("no blank behind a word");
-        }
+        MustBe(line.eof() || std::isspace(line.peek()) != 0 || line.peek() == EOF, "no blank behind a word");
     }
     return words;
 }
@@ -60,9 +48,7 @@ void ReadExpected(std::vector<Expected>& block, std::string_view line)
         {">", InOrder}, {">>", InOrder}, {">?", Among}, {">!", Never}};
     const std::string_view mark = line.substr(0, line.find(' '));
     const auto* kind = std::ranges::find(marks, mark, &std::pair<std::string_view, Expected::Kind>::first);
-    if (kind == std::end(marks)) {
-        throw JourneyError("no blank behind the mark of an answer");
-    }
+    MustBe(kind != std::end(marks), "no blank behind the mark of an answer");
     if (mark == ">>") {
         block.push_back({InOrder, "*"});
     }

@@ -16,6 +16,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+inline void MustBe(bool condition, const std::string& why)
+{
+    if (!condition) {
+        throw JourneyError(why);
+    }
+}
+
 struct Word {
     std::string text;
     bool isQuoted = false;
@@ -35,7 +42,7 @@ Journey ReadJourney(std::string_view text);
 
 // Plays it from its first step to its last: the differences as text, empty if there are none. A journey that is not
 // compared prints its lines as they come. Paths of the journey's own files are relative to the folder of its path.
-// Fails with JourneyError, too; a journey with a step that isn't one isn't begun.
+// Fails with JourneyError, too.
 std::string Play(const Journey& journey, const std::string& path, bool compares);
 
 } // namespace quor

@@ -42,10 +42,7 @@ Status PlayFile(const std::string& path, bool prints)
 int main(int argumentCount, char** argumentTexts)
 {
     std::vector<std::string> paths(argumentTexts + 1, argumentTexts + argumentCount);
-    const bool prints = !paths.empty() && paths.front() == "--print";
-    if (prints) {
-        paths.erase(paths.begin());
-    }
+    const bool prints = std::erase(paths, "--print") > 0;
     if (paths.empty()) {
         std::cerr << "usage: quor-view-journey [--print] FILE...\n";
         return cannotBeRead;

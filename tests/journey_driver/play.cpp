@@ -43,11 +43,6 @@ template <class Act> void OfEntry(const Entry& entry, Act act)
 
 std::string Play(const Journey& journey, const std::string& path, bool compares)
 {
-    for (const Entry& entry : journey) {
-        if (!entry.words.empty()) {
-            OfEntry(entry, [&] { FindStep(entry.words); });
-        }
-    }
     std::string differences;
     Output output;
     output.prints = !compares;
@@ -55,8 +50,9 @@ std::string Play(const Journey& journey, const std::string& path, bool compares)
     for (const Entry& entry : journey) {
         if (!entry.words.empty()) {
             OfEntry(entry, [&] {
+                const StepRow& step = FindStep(entry.words);
                 stage.BeforeStep(entry.words);
-                FindStep(entry.words).act(stage, Arguments(entry.words));
+                step.act(stage, Arguments(entry.words));
                 stage.AfterStep();
             });
         } else if (const std::string difference = Difference(entry.answers, output.Take());

@@ -72,9 +72,7 @@ bool Stage::HasHostFile(const std::string& path) const
 FakeFiles::Bytes Stage::HostBytes(const std::string& path) const
 {
     std::ifstream file(std::filesystem::path(m_folder) / path, std::ios::binary);
-    if (!HasHostFile(path) || !file) {
-        throw JourneyError("can't be opened: " + path);
-    }
+    MustBe(HasHostFile(path) && file, "can't be opened: " + path);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
@@ -140,9 +138,7 @@ void Stage::AfterStep()
 
 void Stage::Start(const std::string& tail)
 {
-    if (m_application != nullptr || m_liveView != nullptr) {
-        throw JourneyError("the program runs already");
-    }
+    MustBe(m_application == nullptr && !IsLive(), "the program runs already");
     live.DesignMode = false;
     live.Catalog = nullptr;
     m_endIsTold = false;
@@ -158,9 +154,7 @@ void Stage::Start(const std::string& tail)
 
 void Stage::OpenLive(const std::string& path)
 {
-    if (m_application != nullptr) {
-        throw JourneyError("the editor runs already");
-    }
+    MustBe(m_application == nullptr, "the editor runs already");
     live.DesignMode = false;
     m_liveView = std::make_unique<LoneView>(PortsOfView(m_reporter));
     m_liveView->Load(path);
@@ -168,59 +162,34 @@ void Stage::OpenLive(const std::string& path)
 
 void Stage::Raise(const std::function<void()>& raise)
 {
-    if (!IsLive()) { // no source hears it, and what it may load is told as it happens
-        IgnoreFailure(raise);
-        return;
-    }
-    std::vector<std::pair<Place, std::string>> lines;
-    auto* outer = std::exchange(m_raised, &lines);
-    const Place outerPlace = std::exchange(m_place, {});
+    std::multimap<std::size_t, std::string> lines;
+    m_raised = IsLive() ? &lines : nullptr; // else no source hears it, and what it may load is told as it happens
     IgnoreFailure(raise);
-    m_raised = outer;
-    m_place = outerPlace;
-    std::ranges::stable_sort(lines, {}, &std::pair<Place, std::string>::first);
-    for (const auto& [place, line] : lines) {
+    m_raised = nullptr;
+    for (const auto& [position, line] : lines) {
         out.Say(std::string_view(line));
     }
 }
 
-// The position of an element that one of the two recognises; none while it is being made or when it is gone.
-template <class IsIt> const Element* Stage::Find(std::size_t& position, IsIt isIt) const
-{
-    const bool hasView = m_liveView != nullptr || (m_application != nullptr && m_application->MainForm() != nullptr);
-    position = 0;
-    if (hasView) {
-        for (const Element* element : View().CtlOrder()) {
-            if (isIt(*element)) {
-                return element;
-            }
-            ++position;
-        }
-    }
-    return nullptr;
-}
-
-void Stage::Tell(const std::string& name, std::string line) const
+void Stage::Tell(const std::string& name, const std::string& line) const
 {
     if (m_raised == nullptr) {
         out.Say(std::string_view(line));
-        return;
+    } else {
+        const auto& order = View().CtlOrder();
+        const auto found = std::ranges::find_if(order, [&](const Element* each) { return each->ObjName() == name; });
+        m_raised->emplace(std::ranges::distance(order.begin(), found), line);
     }
-    std::size_t position = 0;
-    Find(position, [&](const Element& element) { return element.ObjName() == name; });
-    m_raised->emplace_back(m_place.first == position ? m_place : Place{position, 1}, std::move(line));
 }
 
 void Stage::Tell(const ServerListener& source, const std::string& line) const
 {
-    const auto isOf = [&](const Element& element) {
-        auto& owner = const_cast<Element&>(element);
-        return &source == &element.ClickAction || &source == owner.StatusSource() || &source == owner.MeterSource();
-    };
-    std::size_t position = 0;
-    if (const Element* element = Find(position, isOf)) {
-        m_place = {position, &source == &element->ClickAction ? 0 : 1};
-        if (traced.contains("sources")) {
+    if (!traced.contains("sources") || !HasView()) {
+        return;
+    }
+    for (Element* element : View().CtlOrder()) { // which hasn't one that is being made
+        if (&source == &element->ClickAction || &source == element->StatusSource() ||
+            &source == element->MeterSource()) {
             Tell(element->ObjName(), Line(element->ObjName(), std::string_view(line)));
         }
     }
@@ -291,13 +260,15 @@ void Stage::Reports(const ErrorReport& report) const
             report.description, "ref", report.ref);
 }
 
+bool Stage::HasView() const
+{
+    return IsLive() || (m_application != nullptr && m_application->MainForm() != nullptr);
+}
+
 frmMain& Stage::Main() const
 {
-    frmMain* main = m_application == nullptr ? nullptr : m_application->MainForm();
-    if (main == nullptr) {
-        throw JourneyError("the main form isn't there");
-    }
-    return *main;
+    MustBe(HasView() && !IsLive(), "the main form isn't there");
+    return *m_application->MainForm();
 }
 
 clsCustView& Stage::View() const
@@ -326,9 +297,7 @@ Form& Stage::FormOf(std::string_view name) const
     if (form == nullptr && m_application != nullptr) {
         form = Main().Panel().FindPage(name);
     }
-    if (form == nullptr) {
-        throw JourneyError("no such form: " + std::string(name));
-    }
+    MustBe(form != nullptr, "no such form: " + std::string(name));
     return *form;
 }
 

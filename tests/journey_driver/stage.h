@@ -11,6 +11,7 @@
 #include "tests/support/fake_server.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -75,6 +76,8 @@ public:
 
     bool IsLive() const noexcept { return m_liveView != nullptr; }
 
+    bool HasView() const;
+
     // Each fails with JourneyError where there is none.
     frmMain& Main() const;
     clsCustView& View() const;
@@ -89,9 +92,6 @@ public:
     std::vector<std::string> FilePaths() const; // without the log
 
 private:
-    // Where a line about an element belongs among those of one event: its click action comes first.
-    using Place = std::pair<std::size_t, int>;
-
     // A line if that is traced.
     template <class... T> void SayIf(std::string_view what, const T&... values) const
     {
@@ -101,7 +101,7 @@ private:
     }
 
     // A line about an element, by its widget's tag or its source.
-    void Tell(const std::string& element, std::string line) const;
+    void Tell(const std::string& name, const std::string& line) const;
     void Tell(const ServerListener& source, const std::string& line) const;
 
     void Writes(const Widget& widget, const WrittenProperty& property) const override;
@@ -142,7 +142,6 @@ private:
     void Reports(const ErrorReport& report) const override;
     void Steps(std::int32_t value) const override { SayIf("screen", "progress step", value); }
 
-    template <class IsIt> const Element* Find(std::size_t& position, IsIt isIt) const;
     void ListenToPorts();
     void OnForm(Form& form);
     void CloseReports();
@@ -151,10 +150,9 @@ private:
     ErrorReporter m_reporter;
     std::unique_ptr<Application> m_application;
     std::unique_ptr<LoneView> m_liveView;
-    std::vector<std::pair<Place, std::string>>* m_raised = nullptr; // of the event under way
-    mutable Place m_place;                                          // of the source that is heard
-    mutable std::string m_selected;                                 // the name of the selected element
-    mutable std::optional<std::string> m_status;                    // the text that was last told in this step
+    std::multimap<std::size_t, std::string>* m_raised = nullptr; // lines of the event under way, by their element
+    mutable std::string m_selected;                              // the name of the selected element
+    mutable std::optional<std::string> m_status;                 // the text that was last told in this step
     bool m_endIsTold = true;
     std::vector<Subscription> m_portSubscriptions;
     std::vector<Subscription> m_programSubscriptions;

@@ -40,17 +40,8 @@ Target FindTarget(Stage& stage, const std::string& text)
     }
     const std::size_t bracket = name.find('(');
     const auto* options = form.Controls().Find(name.substr(0, bracket));
-    if (bracket == std::string::npos || !name.ends_with(')') || options == nullptr) {
-        throw JourneyError("no such control: " + text);
-    }
+    MustBe(options != nullptr && name.ends_with(')'), "no such control: " + text);
     return {**options, To<std::int32_t>(name.substr(bracket + 1, name.size() - bracket - 2))};
-}
-
-void MustBe(bool condition, const std::string& words)
-{
-    if (!condition) {
-        throw JourneyError(words);
-    }
 }
 
 void Set(Stage& stage, const Arguments& words)

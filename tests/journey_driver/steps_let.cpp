@@ -120,10 +120,8 @@ void Let(Stage& stage, const Arguments& words)
 {
     Element& element = stage.ElementOf(words[1]);
     const Wish wish{words[2], words[3]};
-    if (!SetElement(element, wish) && !SetStatus(element, wish) && !SetPlain(element, wish) &&
-        !SetMeter(element, wish)) {
-        throw JourneyError("no such setting: " + words[2]);
-    }
+    MustBe(SetElement(element, wish) || SetStatus(element, wish) || SetPlain(element, wish) || SetMeter(element, wish),
+           "no such setting: " + words[2]);
 }
 
 constexpr StepRow rows[] = {

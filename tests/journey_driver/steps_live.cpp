@@ -157,9 +157,7 @@ void LogOn(Stage& stage, const Arguments& words)
 // the server fails to do stays between it and the element.
 void Run(Stage& stage, const Arguments& words)
 {
-    if (!stage.IsLive()) {
-        throw JourneyError("no view runs live");
-    }
+    MustBe(stage.IsLive(), "no view runs live");
     auto& element = stage.ElementOf(words[1]);
     if (element.MyControl()->Enabled()) {
         element.ClickControl();

@@ -23,9 +23,7 @@ void MakeFile(Stage& stage, const Arguments& words)
     FakeFiles::Bytes bytes;
     for (std::size_t at = 0; at < digits.size(); at += 2) {
         const std::string byte = digits.substr(at, 2);
-        if (byte.size() < 2) {
-            throw JourneyError("half a byte");
-        }
+        MustBe(byte.size() == 2, "half a byte");
         bytes.push_back(static_cast<std::uint8_t>(To<Color>("0x" + byte).value));
     }
     stage.files.Put(words[1], bytes);
@@ -34,9 +32,7 @@ void MakeFile(Stage& stage, const Arguments& words)
 template <auto Port> void PlanFailure(Stage& stage, const Arguments& words)
 {
     const int n = words.As<int>(2);
-    if (n < 1) {
-        throw JourneyError("the very next call is 1");
-    }
+    MustBe(n > 0, "the very next call is 1");
     const std::string operation = words[1].substr(words[1].find('.') + 1);
     (stage.*Port).planned.Plan(operation, n, words.Has(3) ? words.As<int>(3) : failures::internal);
 }

@@ -16,13 +16,6 @@ namespace {
 
 using Bare = std::string_view;
 
-void MustBeFound(bool isFound, const std::string& what)
-{
-    if (!isFound) {
-        throw JourneyError("there is no " + what);
-    }
-}
-
 // Prints `NAME VALUE` of what a printer visits: all, or those of that name or with it in front of a dot.
 template <class Printer, class Visit> void PrintNamed(Stage& stage, const std::string& wanted, Visit visit)
 {
@@ -34,7 +27,7 @@ template <class Printer, class Visit> void PrintNamed(Stage& stage, const std::s
         }
     });
     visit(printer);
-    MustBeFound(isFound, wanted);
+    MustBe(isFound, "there is no " + wanted);
 }
 
 void PrintElements(Stage& stage, const Arguments&)

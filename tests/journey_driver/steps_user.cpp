@@ -21,9 +21,7 @@ std::string TailOf(const Arguments& words)
 
 void Wait(Stage& stage, const Arguments& words)
 {
-    if (words.As<int>(1) < 0) {
-        throw JourneyError("time moves on, not back");
-    }
+    MustBe(words.As<int>(1) >= 0, "time moves on, not back");
     stage.timers.Advance(words.As<int>(1));
 }
 
@@ -64,9 +62,7 @@ std::optional<std::size_t> ReadNumbered(std::string_view word, std::string_view 
         return std::nullopt;
     }
     const auto number = To<std::size_t>(word.substr(what.size()));
-    if (number >= count) {
-        throw JourneyError("there is no " + std::string(word));
-    }
+    MustBe(number < count, "there is no " + std::string(word));
     return number;
 }
 

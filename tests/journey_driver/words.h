@@ -18,36 +18,28 @@
 
 namespace quor {
 
-// False where the text is something else.
-template <class T> bool Reads(std::string_view text, T& value)
-{
-    const char* const end = text.data() + text.size();
-    if constexpr (std::is_same_v<T, std::string>) {
-        value = text;
-        return true;
-    } else if constexpr (std::is_same_v<T, bool>) {
-        value = text == "true";
-        return value || text == "false";
-    } else if constexpr (std::is_same_v<T, WideFlag>) {
-        return Reads(text, value.value);
-    } else if constexpr (std::is_same_v<T, Color>) {
-        std::uint32_t number = 0;
-        const bool isRead = text.starts_with("0x") && std::from_chars(text.data() + 2, end, number, 16).ptr == end;
-        value.value = static_cast<std::int32_t>(number);
-        return isRead;
-    } else {
-        const auto [stop, error] = std::from_chars(text.data(), end, value);
-        return error == std::errc() && stop == end;
-    }
-}
-
 // Fails with JourneyError where the text is something else.
 template <class T> T To(std::string_view text)
 {
+    const char* const end = text.data() + text.size();
     T value{};
-    if (!Reads(text, value)) {
-        throw JourneyError("no such value: " + std::string(text));
+    bool isRead = true;
+    if constexpr (std::is_same_v<T, std::string>) {
+        value = text;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        value = text == "true";
+        isRead = value || text == "false";
+    } else if constexpr (std::is_same_v<T, WideFlag>) {
+        value.value = To<bool>(text);
+    } else if constexpr (std::is_same_v<T, Color>) {
+        std::uint32_t number = 0;
+        isRead = text.starts_with("0x") && std::from_chars(text.data() + 2, end, number, 16).ptr == end;
+        value.value = static_cast<std::int32_t>(number);
+    } else {
+        const auto [stop, error] = std::from_chars(text.data(), end, value);
+        isRead = error == std::errc() && stop == end;
     }
+    MustBe(isRead, "no such value: " + std::string(text));
     return value;
 }
 
