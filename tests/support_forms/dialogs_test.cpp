@@ -29,11 +29,17 @@ TEST_F(Dialogs, AboutShowsWhatThePlatformKnows)
 }
 
 struct FailingLoop final : Forms {
+    int runs = 0;
+
     void Show(Form&) override {}
     void ShowModal(std::unique_ptr<Form>) override {}
     void Hide(Form&) override {}
     void UnloadAll() override {}
-    void RunEvents() override { throw Failure(failures::internal); }
+    void RunEvents() override
+    {
+        ++runs;
+        throw Failure(failures::internal);
+    }
 };
 
 TEST(TheProgress, KeepsToItsRangeAndBeginsAnewAtEachLoad)
@@ -53,6 +59,7 @@ TEST(TheProgress, KeepsToItsRangeAndBeginsAnewAtEachLoad)
     form.IncrProgBar();
     form.IncrProgBar();
     EXPECT_EQ(form.pbrConfig.Value(), 10);
+    EXPECT_EQ(loop.runs, 2);
     form.CloseMe();
     form.CloseMe();
     EXPECT_EQ(ends, 1);

@@ -21,6 +21,7 @@ TEST(AJourney, NamesTheLineThatCannotBeDone)
                              "fail files.open 0", "tool miFly", "start", "set frmNone.txtX 1", "file a hex 123"}) {
         EXPECT_EQ(ErrorOf(begin + line).substr(0, 3), "4: ") << line;
     }
+    EXPECT_EQ(ErrorOf("editor\nkey 46\nwait 10\nwait 0\nprint page frmError").substr(0, 3), "5: ") << "it was read";
 }
 
 TEST(AJourney, GoesOnBehindADifference)
