@@ -24,26 +24,6 @@ struct TheMainForm : EditorFixture {
         EXPECT_EQ(main.View().BGColor(), colors::buttonFace) << "a save writes what is shown";
         EXPECT_EQ(main.View().BGPicture(), "");
     }
-
-    // Two lamps over a picture on green, which are opened, and then a file in which both have one name.
-    void PutBrokenView(const std::string& path)
-    {
-        files.Put("back.bmp", {1});
-        Insert<clsLEDRound>();
-        Insert<clsLEDRound>();
-        main.View().Set(&clsCustView::BGPicture, std::string("back.bmp"));
-        main.View().Set(&clsCustView::BGColor, green);
-        ASSERT_TRUE(main.SaveView(path));
-        main.NewView();
-        main.OpenView(path);
-        ASSERT_EQ(main.ssScroll().BackColor(), green);
-        FakeFiles::Bytes bytes = files.Get(path);
-        const std::size_t lastLetter = bytes.size() - 6;
-        ASSERT_EQ(bytes[lastLetter], '2');
-        bytes[lastLetter] = '1';
-        --bytes[bytes.size() - 4]; // the checksum
-        files.Put(path, bytes);
-    }
 };
 
 TEST_F(TheMainForm, EndsOnceWhenTheSessionEndsDuringItsQuestion)
@@ -86,23 +66,32 @@ TEST_F(TheMainForm, SurvivesTheEndOfTheSessionInTheMiddleOfALoad)
     EXPECT_EQ(ends, 1);
 }
 
-TEST_F(TheMainForm, ShowsNothingOfAViewThatFailsToLoad)
+// Two lamps over a picture on green: beside a file that is none, and in a file where both have one name.
+TEST_F(TheMainForm, ShowsNothingOfTheOldViewNorOfOneThatFailsToLoad)
 {
-    PutBrokenView("a.qvw");
-    ASSERT_NE(main.ssScroll().Picture(), nullptr);
-    reporter.Announce(Ref("clsCustView.LoadFile"));
-    main.OpenView("a.qvw");
-    EXPECT_EQ(reporter.reports.back().number, failures::keyInUse);
-    ExpectTheGroundOfANewView();
-    EXPECT_EQ(HitTest(main.ssScroll(), {}, 200, 200).widget, nullptr);
-}
-
-TEST_F(TheMainForm, ShowsNothingOfTheOldViewBesideAFileThatIsNone)
-{
-    PutBrokenView("a.qvw");
+    files.Put("back.bmp", {1});
+    Insert<clsLEDRound>();
+    Insert<clsLEDRound>();
+    main.View().Set(&clsCustView::BGPicture, std::string("back.bmp"));
+    main.View().Set(&clsCustView::BGColor, green);
+    ASSERT_TRUE(main.SaveView("a.qvw"));
     files.PutText("b.qvw", "no view");
     main.OpenView("b.qvw");
     ExpectTheGroundOfANewView();
+
+    FakeFiles::Bytes bytes = files.Get("a.qvw");
+    const std::size_t lastLetter = bytes.size() - 6;
+    ASSERT_EQ(bytes[lastLetter], '2');
+    bytes[lastLetter] = '1';
+    --bytes[bytes.size() - 4]; // the checksum
+    files.Put("a.qvw", bytes);
+    boxes.answers = {BoxAnswer::No};
+    reporter.Announce(Ref("clsCustView.LoadFile"));
+    main.OpenView("a.qvw");
+    ASSERT_FALSE(reporter.reports.empty());
+    EXPECT_EQ(reporter.reports.back().number, failures::keyInUse);
+    ExpectTheGroundOfANewView();
+    EXPECT_EQ(HitTest(main.ssScroll(), {}, 200, 200).widget, nullptr);
 }
 
 TEST_F(TheMainForm, SizesAtThePlaceInTheViewWhenTheCanvasScrollsMeanwhile)
