@@ -132,9 +132,7 @@ void HoldServer(Stage& stage, const Arguments& words)
 std::set<std::int16_t> Rights(const Arguments& words)
 {
     std::set<std::int16_t> rights;
-    for (const Word& word : words.From(2)) {
-        rights.insert(To<std::int16_t>(word.text));
-    }
+    std::ranges::for_each(words.From(2), [&](const Word& word) { rights.insert(To<std::int16_t>(word.text)); });
     return rights;
 }
 

@@ -46,12 +46,11 @@ void ClickTool(Stage& stage, const Arguments& words)
 void Close(Stage& stage, const Arguments& words)
 {
     const std::string& how = words[1];
+    using enum CloseReason;
     if (how == "bar") {
         stage.Main().CloseThroughBar();
-    } else if (how == "system") {
-        stage.Main().Close(CloseReason::System);
     } else {
-        stage.Main().Close(how == "taskmanager" ? CloseReason::TaskManager : CloseReason::User);
+        stage.Main().Close(how == "system" ? System : how == "taskmanager" ? TaskManager : User);
     }
 }
 
@@ -103,10 +102,8 @@ Place FindPlace(Stage& stage, const Arguments& words, std::size_t at = 1)
 
 MouseButton ButtonOf(const std::string& word)
 {
-    if (word == "right") {
-        return MouseButton::Right;
-    }
-    return word == "middle" ? MouseButton::Middle : MouseButton::Left;
+    using enum MouseButton;
+    return word == "right" ? Right : word == "middle" ? Middle : Left;
 }
 
 void Press(Stage& stage, const Arguments& words)
