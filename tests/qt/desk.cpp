@@ -1,20 +1,14 @@
 #include "tests/qt/desk.h"
 
 #include "document/view_document.h"
-#include "tests/test.h"
+#include "tests/qt/test.h"
 #include "widgets/widget.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QDir>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <QToolBar>
 
 namespace quor {
@@ -66,7 +60,7 @@ EditorDesk::Home::~Home()
     QDir::setCurrent(before);
 }
 
-EditorDesk::EditorDesk(const std::string& tail) : m_home(m_folder.path()), m_program(tail)
+EditorDesk::EditorDesk() : m_home(m_folder.path()), m_program("")
 {
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { MeetNext(); });
@@ -214,13 +208,12 @@ QStringList EditorDesk::Elements()
 {
     QStringList elements;
     for (const Widget* widget = Main().ssScroll().Back(); widget != nullptr; widget = widget->Above()) {
-        const QRectF place(widget->Left(), widget->Top(), widget->Width(), widget->Height());
         elements.append(QStringLiteral("%1 %2,%3 %4x%5")
                             .arg(QString::fromStdString(widget->Tag()))
-                            .arg(place.left() / 15)
-                            .arg(place.top() / 15)
-                            .arg(place.width() / 15)
-                            .arg(place.height() / 15));
+                            .arg(widget->Left() / 15)
+                            .arg(widget->Top() / 15)
+                            .arg(widget->Width() / 15)
+                            .arg(widget->Height() / 15));
     }
     return elements;
 }

@@ -11,7 +11,6 @@
 
 #include <functional>
 #include <ostream>
-#include <string>
 
 class QAction;
 class QWidget;
@@ -21,7 +20,7 @@ namespace quor {
 class EditorDesk {
 public:
     // In a folder of its own, which is the current one. The window is shown.
-    explicit EditorDesk(const std::string& tail = {});
+    EditorDesk();
     ~EditorDesk();
 
     frmMain& Main() { return *m_program.MainForm(); }

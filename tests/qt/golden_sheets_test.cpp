@@ -3,26 +3,14 @@
 
 #include "tests/qt/picture_of.h"
 
-#include "document/kinds.h"
 #include "qt/canvas/canvas_painting.h"
 #include "qt/canvas/marks.h"
 #include "qt/ports/qt_pictures.h"
+#include "qt/theme/desk_style.h"
+#include "qt/theme/theme.h"
 #include "tests/qt/test.h"
-#include "widgets/analog_display.h"
-#include "widgets/angular_gauge.h"
-#include "widgets/canvas.h"
-#include "widgets/linear_gauge.h"
-#include "widgets/panel.h"
-#include "widgets/push_button.h"
-#include "widgets/rect_led.h"
-#include "widgets/round_led.h"
-#include "widgets/switch_led.h"
-#include "widgets/text_label.h"
-#include "widgets/widget_array.h"
 
-#include <QDir>
-#include <QRegion>
-#include <QTemporaryDir>
+#include <QPixmapCache>
 
 namespace {
 
@@ -30,11 +18,10 @@ constexpr QSize sheetSize(430, 284);
 constexpr Color blue{0x00D06030};
 
 // Instruments in rows, from left to right.
-class Sheet {
+class Sheet : public Instruments {
 public:
     Sheet()
     {
-        AddWidgetArrays(canvas);
         AddLamps();
         AddFaces();
         AddBands();
@@ -42,16 +29,12 @@ public:
         AddMarks();
     }
 
-    Canvas canvas;
     const Widget* moved = nullptr;
 
 private:
     Widget& Add(const char* array, const QSize& size, const std::vector<Write>& changes = {})
     {
-        Widget& widget = canvas.FindArray(array)->Load(++m_count);
-        for (const Write& change : changes) {
-            change(widget);
-        }
+        Widget& widget = Instruments::Add(array, changes);
         const auto twips = [](int pixels) { return static_cast<float>(pixels) * twipsPerPixelX; };
         widget.Move(twips(m_next.x()), twips(m_next.y()), twips(size.width()), twips(size.height()));
         widget.Set(&Widget::Visible, true);
@@ -202,12 +185,12 @@ private:
 
     QtPictures m_pictures;
     QPoint m_next{5, 5};
-    std::int32_t m_count = 0;
 };
 
 // In fewer colours, so that the file is small.
 QImage Coarser(QImage image)
 {
+    image.setDevicePixelRatio(1);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             image.setPixel(x, y, image.pixel(x, y) & 0xFFF8F8F8);
@@ -225,7 +208,148 @@ QImage Drawn(const Sheet& sheet, qreal scale)
     DrawOutline(painter, QRectF(404, 235, 21, 17), true);
     DrawOutline(painter, QRectF(403, 256, 21, 17), false);
     painter.end();
-    image.setDevicePixelRatio(1);
+    return Coarser(image);
+}
+
+// The theme's controls in each of their states.
+class ControlSheet {
+public:
+    static constexpr QSize size{240, 488};
+
+    explicit ControlSheet(QPainter& painter) : m_painter(painter), m_style(*QApplication::style())
+    {
+        painter.fillRect(QRect(QPoint(0, 0), size), ColorsInUse().panel);
+        AddButtonsAndFields();
+        AddBars();
+        AddMenus();
+        AddIcons();
+    }
+
+private:
+    using S = QStyle;
+    static constexpr S::State on = S::State_Enabled;
+    static constexpr S::State hover = on | S::State_MouseOver;
+    static constexpr S::State held = hover | S::State_Sunken;
+
+    // One beside the other: as it is, under the pointer, held, and what else is told, on and off.
+    template <class Option, class Draw> void Row(Option option, const QSize& each, S::State further, Draw draw)
+    {
+        int x = 4;
+        for (const S::State state :
+             {on, hover, held, on | further, hover | further, S::State(S::State_None), further}) {
+            option.rect = QRect(QPoint(x, m_top), each);
+            option.state = state;
+            option.palette = QApplication::palette();
+            draw(option);
+            x += each.width() + 4;
+        }
+        m_top += each.height() + 4;
+    }
+    template <class Option>
+    void Control(S::ControlElement element, const QSize& each, S::State further, Option option = {})
+    {
+        Row(option, each, further, [&](const Option& shown) { m_style.drawControl(element, &shown, &m_painter); });
+    }
+    template <class Option>
+    void Primitive(S::PrimitiveElement element, const QSize& each, S::State further, Option option = {})
+    {
+        Row(option, each, further, [&](const Option& shown) { m_style.drawPrimitive(element, &shown, &m_painter); });
+    }
+
+    void AddButtonsAndFields()
+    {
+        QStyleOptionButton button;
+        Control(S::CE_PushButtonBevel, {28, 22}, S::State_HasFocus, button);
+        button.features = QStyleOptionButton::DefaultButton;
+        Control(S::CE_PushButtonBevel, {28, 22}, S::State_HasFocus, button);
+        Primitive<QStyleOptionButton>(S::PE_IndicatorCheckBox, {16, 16}, S::State_On);
+        Primitive<QStyleOptionButton>(S::PE_IndicatorRadioButton, {16, 16}, S::State_On);
+        Primitive<QStyleOption>(S::PE_PanelButtonTool, {28, 20}, S::State_On);
+        Control<QStyleOptionTab>(S::CE_TabBarTab, {28, 22}, S::State_Selected);
+        QStyleOptionFrame field;
+        field.lineWidth = 1;
+        Primitive(S::PE_PanelLineEdit, {28, 20}, S::State_ReadOnly, field);
+        Row(QStyleOptionComboBox(), {28, 20}, S::State_HasFocus,
+            [&](const QStyleOptionComboBox& box) { m_style.drawComplexControl(S::CC_ComboBox, &box, &m_painter); });
+        Primitive<QStyleOptionViewItem>(S::PE_PanelItemViewItem, {28, 12}, S::State_Selected);
+        Control<QStyleOption>(S::CE_FocusFrame, {28, 20}, S::State_HasFocus);
+        Primitive<QStyleOption>(S::PE_FrameMenu, {28, 20}, S::State_None);
+        Primitive<QStyleOption>(S::PE_IndicatorToolBarSeparator, {9, 24}, S::State_None);
+    }
+
+    void AddBars()
+    {
+        QStyleOptionSlider bar;
+        bar.maximum = 100;
+        bar.pageStep = 40;
+        bar.activeSubControls = S::SC_ScrollBarSlider;
+        const auto draw = [&](QStyleOptionSlider shown) {
+            shown.sliderPosition = shown.rect.left() % 101;
+            m_style.drawComplexControl(S::CC_ScrollBar, &shown, &m_painter);
+        };
+        bar.orientation = Qt::Vertical;
+        Row(bar, {12, 60}, S::State_HasFocus, draw);
+        m_top -= 64;
+        QStyleOptionProgressBar progress;
+        progress.maximum = 100;
+        for (const int share : {0, 3, 60, 100, 140}) {
+            progress.rect = QRect(124, m_top, 110, 12);
+            progress.progress = share;
+            m_style.drawControl(S::CE_ProgressBar, &progress, &m_painter);
+            m_top += 10;
+        }
+        bar.orientation = Qt::Horizontal;
+        bar.rect = QRect(124, m_top, 110, 12);
+        bar.state = S::State_Enabled | S::State_Horizontal;
+        draw(bar);
+        m_top += 14;
+    }
+
+    void AddMenus()
+    {
+        Control<QStyleOptionMenuItem>(S::CE_MenuBarItem, {28, 14}, S::State_Selected);
+        QStyleOptionMenuItem item;
+        item.checkType = QStyleOptionMenuItem::NonExclusive;
+        for (const auto type :
+             {QStyleOptionMenuItem::Normal, QStyleOptionMenuItem::SubMenu, QStyleOptionMenuItem::Separator}) {
+            item.menuItemType = type;
+            item.icon = IconOf(type == QStyleOptionMenuItem::Normal ? "miSave" : "");
+            item.checked = !item.checked;
+            Control(S::CE_MenuItem, {29, 28}, S::State_Selected, item);
+        }
+    }
+
+    void AddIcons()
+    {
+        int number = 0;
+        for (const char* name : {"error", "question", "information", "miOpen", "miMtrAngle", "miSnapToGrid"}) {
+            for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+                IconOf(name).paint(&m_painter, QRect(4 + 19 * number++, m_top, 18, 18), Qt::AlignCenter, mode);
+            }
+        }
+    }
+
+    QPainter& m_painter;
+    S& m_style;
+    int m_top = 4;
+};
+
+// In light colours and in dark ones.
+QImage DrawnControls(qreal scale)
+{
+    constexpr QSize size = ControlSheet::size;
+    QImage image((QSizeF(2 * size.width(), size.height()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    QPainter painter(&image);
+    for (const ThemeColors& colors : {LightColors(), DarkColors()}) {
+        QPixmapCache::clear();
+        QApplication::setStyle(new DeskStyle(std::make_shared<const ThemeColors>(colors)));
+        QApplication::setPalette(PaletteOf(colors));
+        ControlSheet sheet(painter);
+        painter.translate(size.width(), 0);
+    }
+    painter.end();
+    Theme().Apply(*qApp);
     return Coarser(image);
 }
 
@@ -245,12 +369,13 @@ void ExpectAsKept(const QImage& image, const QString& name)
     ADD_FAILURE() << kept.toStdString() << " isn't what is drawn now: " << path.toStdString();
 }
 
-TEST(GoldenSheets, InstrumentsAndMarksLookAsTheyDid)
+TEST(GoldenSheets, InstrumentsMarksAndControlsLookAsTheyDid)
 {
     const Sheet sheet;
-    ExpectAsKept(Drawn(sheet, 1), QStringLiteral("instruments_1"));
-    ExpectAsKept(Drawn(sheet, 1.5), QStringLiteral("instruments_1.5"));
-    ExpectAsKept(Drawn(sheet, 2), QStringLiteral("instruments_2"));
+    for (const qreal scale : {1.0, 1.5, 2.0}) {
+        ExpectAsKept(Drawn(sheet, scale), QStringLiteral("instruments_%1").arg(scale));
+        ExpectAsKept(DrawnControls(scale), QStringLiteral("controls_%1").arg(scale));
+    }
 }
 
 } // namespace

@@ -7,12 +7,7 @@
 #include "qt/window/main_window.h"
 #include "tests/qt/test.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QStandardPaths>
-#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -33,9 +28,7 @@ struct TheLogonAtTheWindow : testing::Test {
     void Write(const char* name, const std::string& text) const
     {
         QDir().mkpath(folder);
-        QFile file(folder + '/' + name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.data(), static_cast<qint64>(text.size()));
+        WriteFile(folder + '/' + name, QByteArray::fromStdString(text));
     }
 
     // The program from its start until `isOver`; `meet` sees every few milliseconds the dialog that stands.

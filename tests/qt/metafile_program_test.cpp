@@ -7,9 +7,7 @@
 #include "qt/ports/metafile_drawing.h"
 #include "tests/qt/test.h"
 
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -134,11 +132,8 @@ TEST(MetafileDrawing, GivesUpProgramsThatDoNotDraw)
 {
     const QTemporaryDir directory;
     const QString stopped = directory.filePath("stopped");
-    QFile script(stopped);
-    script.open(QIODevice::WriteOnly);
-    script.write("#!/bin/sh\nkill -STOP $$\n");
-    script.close();
-    script.setPermissions(QFile::ExeOwner | QFile::ReadOwner);
+    WriteFile(stopped, "#!/bin/sh\nkill -STOP $$\n");
+    QFile::setPermissions(stopped, QFile::ExeOwner | QFile::ReadOwner);
     // It can't be started, draws nothing, fails, draws without end, never ends.
     for (const QString& program : {QStringLiteral("/none"), QStringLiteral("/bin/true"), QStringLiteral("/bin/false"),
                                    QStringLiteral("/usr/bin/yes"), stopped}) {

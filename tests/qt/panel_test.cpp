@@ -5,21 +5,54 @@
 #include "tests/qt/panel_fixture.h"
 #include "tests/qt/test.h"
 
-#include <QAbstractButton>
-#include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
-// All that can be clicked, written to or read on a page, by its name.
-std::vector<QWidget*> PartsOf(QWidget& page)
+// What the part looks like, and what of it is on the screen.
+QImage PictureOf(QWidget& part)
 {
-    std::vector<QWidget*> parts;
-    for (QWidget* part : page.findChildren<QWidget*>()) {
-        if (!part->objectName().isEmpty() && !part->objectName().startsWith("qt_")) {
-            parts.push_back(part);
+    return part.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QImage OnScreen(const QWidget& part)
+{
+    const QWidget& window = *part.window();
+    const QRect place(part.mapTo(&window, QPoint()), part.size());
+    const QPixmap shown = window.screen()->grabWindow(window.winId());
+    return shown.copy(place).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+TEST(PanelTabsOf320Pixels, FlowWithoutClippingInAnyFont)
+{
+    const QStringList captions = {"General", "Meter (Angular)", "Positions and Colors", "Meter Data", "Action"};
+    for (const char* family : {"Inter", "DejaVu Sans"}) {
+        QFont font(family);
+        font.setPixelSize(12);
+        PanelTabs tabs([](int) {});
+        tabs.setFont(font);
+        tabs.resize(320, 10);
+        tabs.Show(captions, 1);
+        QRect before(-1, 2, 0, 26);
+        int rows = 1;
+        for (const QString& caption : captions) {
+            const QRect place = tabs.findChild<QAbstractButton*>(caption)->geometry();
+            EXPECT_GE(place.width(), QFontMetrics(font).horizontalAdvance(caption) + 8);
+            EXPECT_LE(place.right(), 311);
+            if (place.y() == before.y()) {
+                EXPECT_GT(place.x(), before.right());
+            } else {
+                EXPECT_GT(place.y(), before.bottom());
+                EXPECT_GT(before.right() + 3 + place.width(), 312); // there was no room for it
+                ++rows;
+            }
+            before = place;
         }
+        EXPECT_EQ(rows, 2) << family;
+        EXPECT_GT(tabs.height(), before.bottom());
     }
-    return parts;
 }
 
 TEST_F(ThePanel, ShowsTheTabsOfTheSelectionAndKeepsEachPage)
@@ -67,41 +100,7 @@ TEST_F(ThePanel, FollowsTheColourThatIsWorkedOut)
     expectUse(true);
 }
 
-TEST_F(ThePanel, WritesANumberAsItIsTypedAndRefusesWhatIsNone)
-{
-    const auto& led = Insert<clsLEDRound>();
-    General();
-    QLineEdit& x = Take("txtX");
-    QTest::keyClicks(&x, "12");
-    EXPECT_EQ(led.ObjLeft(), 12 * 15);
-    EXPECT_EQ(led.MyControl()->Left(), 12 * 15);
-    QTest::keyClicks(&x, "e x,");
-    EXPECT_EQ(Text(x.text()), "12");
-    x.setCursorPosition(1);
-    QTest::keyClick(&x, Qt::Key_5);
-    EXPECT_EQ(Text(x.text()), "152");
-    EXPECT_EQ(x.cursorPosition(), 2);
-    EXPECT_EQ(led.ObjLeft(), 152 * 15);
-    QTest::keyClicks(&x, "99999");
-    EXPECT_EQ(Text(x.text()), "15992"); // one more is beyond what there can be
-    QLineEdit& width = Take("txtWidth");
-    QTest::keyClicks(&width, "-2.5");
-    EXPECT_EQ(led.ObjWidth(), 2.5F * 15);
-    QTest::keyClick(&width, Qt::Key_Backspace);
-    QTest::keyClick(&width, Qt::Key_Backspace);
-    QTest::keyClick(&width, Qt::Key_Backspace);
-    EXPECT_EQ(led.ObjWidth(), 2 * 15);
-    Take("txtX");
-    EXPECT_EQ(Text(width.text()), "2"); // nothing is no number, so the last one is back
-    QTest::keyClicks(&Take("txtY"), "12.34");
-    const float top = led.ObjTop();
-    main.ReleaseControl();
-    Select(led);
-    EXPECT_EQ(Text(General().findChild<QLineEdit*>("txtY")->text()), "12.34"); // not with all that a twip adds
-    EXPECT_EQ(led.ObjTop(), top);
-}
-
-TEST_F(ThePanel, WritesTextAtEveryKeyAndKeepsTheCaret)
+TEST_F(ThePanel, WritesAtEveryKeyAndKeepsTheCaret)
 {
     QLineEdit& name = Take("txtViewName");
     QTest::keyClicks(&name, "Plnt");
@@ -115,6 +114,28 @@ TEST_F(ThePanel, WritesTextAtEveryKeyAndKeepsTheCaret)
     model.Text("Plants");
     EXPECT_EQ(name.selectedText(), "an");
     EXPECT_EQ(name.cursorPosition(), 2);
+
+    const auto& led = Insert<clsLEDRound>();
+    General();
+    QLineEdit& x = Take("txtX");
+    QTest::keyClicks(&x, "12");
+    EXPECT_EQ(led.MyControl()->Left(), 12 * 15);
+    x.setCursorPosition(1);
+    QTest::keyClicks(&x, "5,");
+    EXPECT_EQ(Text(x.text()), "152");
+    EXPECT_EQ(x.cursorPosition(), 2);
+    QLineEdit& width = Take("txtWidth");
+    QTest::keyClicks(&width, "2.5");
+    for (int count = 0; count < 3; ++count) {
+        QTest::keyClick(&width, Qt::Key_Backspace);
+    }
+    QTest::keyClicks(&Take("txtY"), "12.34");
+    EXPECT_EQ(Text(width.text()), "2"); // nothing is no number, so the last one is back
+    const float top = led.ObjTop();
+    main.ReleaseControl();
+    Select(led);
+    EXPECT_EQ(Text(General().findChild<QLineEdit*>("txtY")->text()), "12.34"); // not with all that a twip adds
+    EXPECT_EQ(led.ObjTop(), top);
 }
 
 TEST_F(ThePanel, OpensTheColourDialogWithTheColourOfTheSwatch)
@@ -162,10 +183,6 @@ TEST_F(ThePanel, LeadsTheKeyboardFromTopToBottomThroughAllThatHasAName)
     EXPECT_EQ(walk(lamp, Find("cboBevelStyle")),
               "cboBevelStyle=Bevel Style:; clrOn=On Color:; cmdBrwsOnColor=On Color:; chkReflection=Show Reflection; "
               "chkAutoOffColor=Automatically determine Off Color; ");
-    for (const QWidget* part : PartsOf(lamp)) {
-        const bool isLabel = qobject_cast<const QLabel*>(part) != nullptr;
-        EXPECT_TRUE(isLabel || !part->accessibleName().isEmpty()) << Text(part->objectName());
-    }
 }
 
 TEST_F(ThePanel, ChangesTabsByTheArrows)
@@ -220,6 +237,75 @@ TEST_F(ThePanel, KeepsTheEditKeysToTextAndTheCanvasItsOwn)
     EXPECT_TRUE(main.abViewEdit().Tool("miPaste").Enabled());
     QTest::keyClick(&window->Canvas(), Qt::Key_Delete);
     EXPECT_FALSE(exists());
+}
+
+TEST_F(ThePanel, IsNotLaidOutAnewForAnotherElementOfTheKind)
+{
+    struct Watch : QObject {
+        int moves = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            moves += event->type() == QEvent::Move || event->type() == QEvent::Resize ? 1 : 0;
+            return false;
+        }
+    } watch;
+    const auto& first = Insert<clsLEDRound>();
+    auto& second = Insert<clsLEDRound>();
+    second.Set(&Element::ObjLeft, 4500);
+    General();
+    for (QWidget* part : Panel().findChildren<QWidget*>()) {
+        part->installEventFilter(&watch);
+    }
+    Select(first);
+    Settle();
+    EXPECT_EQ(Find<QLineEdit>("txtX").text(), QString::number(first.ObjLeft() / 15));
+    Select(second);
+    Settle();
+    EXPECT_EQ(Find<QLineEdit>("txtX").text(), "300");
+    EXPECT_EQ(watch.moves, 0);
+}
+
+TEST_F(ThePanel, ScrollsWhereItIsLowAndNothingShifts)
+{
+    QWidget& view = Find("frmCVViewProps");
+    window->resize(1000, 330);
+    Settle();
+    auto& area = *qobject_cast<QScrollArea*>(view.parentWidget()->parentWidget());
+    EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(view.width(), 320);
+    EXPECT_EQ(Find("cmdBrwsBGFile").geometry().right(), 307); // as without the bar
+    auto& last = Find("optViewBGImageStyle(0)");
+    EXPECT_FALSE(area.viewport()->rect().contains(QRect(last.mapTo(area.viewport(), QPoint()), last.size())));
+    QTest::keyClick(&Take("txtBGImage"), Qt::Key_Tab);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), &last);
+    EXPECT_TRUE(area.viewport()->rect().contains(QRect(last.mapTo(area.viewport(), QPoint()), last.size())));
+}
+
+TEST_F(ThePanel, IsWidenedByItsEdgeAndFillsItsWidth)
+{
+    QWidget& view = Find("frmCVViewProps");
+    const int height = view.heightForWidth(320);
+    const auto drag = [&](int pixels) {
+        auto& edge = Find("bndObjProps.edge");
+        QTest::mousePress(&edge, Qt::LeftButton, {}, QPoint(1, 300));
+        QTest::mouseMove(&edge, QPoint(1 - pixels, 300));
+        QTest::mouseRelease(&edge, Qt::LeftButton, {}, QPoint(1, 300));
+        Settle();
+    };
+    drag(200);
+    const int width = Panel().width();
+    EXPECT_NEAR(width, 520, 2);
+    EXPECT_EQ(Find("txtViewName").width(), width - 128);
+    EXPECT_EQ(view.heightForWidth(width), height - 3 * 26); // the options stand side by side
+    EXPECT_TRUE(QTest::qWaitFor([&] { return OnScreen(Panel()) == PictureOf(Panel()); })); // all of it was repainted
+    EXPECT_EQ(main.abViewEdit().BandOf("bndObjProps").Extent(), width) << "the layout keeps it";
+    drag(-500);
+    EXPECT_EQ(Panel().width(), 320);
+    main.abViewEdit().BandOf("bndObjProps").SetExtent(400);
+    EXPECT_EQ(Panel().width(), 400);
+    QTest::mouseDClick(&Find("bndObjProps.edge"), Qt::LeftButton, {}, QPoint(1, 300));
+    EXPECT_EQ(Panel().width(), 320);
 }
 
 } // namespace

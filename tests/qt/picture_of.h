@@ -1,18 +1,56 @@
 #pragma once
-// Pictures of instruments, for tests that measure them.
+// Instruments and pictures of them, for tests that measure these.
 
+#include "document/kinds.h"
 #include "qt/painters/kept_pictures.h"
 #include "qt/painters/painters.h"
-#include "widgets/widget.h"
+#include "widgets/analog_display.h"
+#include "widgets/angular_gauge.h"
+#include "widgets/canvas.h"
+#include "widgets/face_layout.h"
+#include "widgets/linear_gauge.h"
+#include "widgets/panel.h"
+#include "widgets/push_button.h"
+#include "widgets/rect_led.h"
+#include "widgets/round_led.h"
+#include "widgets/switch_led.h"
+#include "widgets/text_label.h"
+#include "widgets/widget_array.h"
 
 #include <QImage>
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
+#include <vector>
 
 namespace quor {
+
+// A setting that is written.
+using Write = std::function<void(Widget&)>;
+template <class W, FixedString Name, class T> Write With(Property<Name, T> W::*property, std::type_identity_t<T> value)
+{
+    return [=](Widget& widget) { widget.Set(property, value); };
+}
+
+// A canvas with room for instruments of all kinds.
+struct Instruments {
+    Instruments() { AddWidgetArrays(canvas); }
+
+    Widget& Add(std::string_view array, const std::vector<Write>& settings = {})
+    {
+        Widget& widget = canvas.FindArray(array)->Load(++m_count);
+        std::for_each(settings.begin(), settings.end(), [&](const Write& write) { write(widget); });
+        return widget;
+    }
+
+    Canvas canvas;
+
+private:
+    std::int32_t m_count = 0;
+};
 
 // On a ground of that colour, by a painter that is scaled: the toolkit ignores a device pixel ratio below 1.
 inline QImage PictureOf(const Widget& widget, const QRectF& area, const QSize& size, qreal scale = 1,
@@ -25,6 +63,32 @@ inline QImage PictureOf(const Widget& widget, const QRectF& area, const QSize& s
     KeptPictures none;
     PaintWidget(painter, widget, area, kept == nullptr ? none : *kept);
     return image;
+}
+
+inline QImage PictureOf(const Widget& widget, const QSize& size, qreal scale = 1, QRgb ground = 0xFFFFFFFF)
+{
+    return PictureOf(widget, QRect(QPoint(0, 0), size), size, scale, ground);
+}
+
+// The box around the pixels of one sort.
+template <class IsInk> QRect BoxOf(const QImage& image, IsInk isInk)
+{
+    QRect box;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (isInk(image.pixel(x, y))) {
+                box |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+template <class Measure> double SumOf(const QImage& image, Measure measure)
+{
+    double sum = 0;
+    BoxOf(image, [&](QRgb pixel) { return sum += measure(pixel), false; });
+    return sum;
 }
 
 // How many pixels of two pictures of a size differ by more than that in a channel.
@@ -42,25 +106,16 @@ inline int OtherPixels(const QImage& one, const QImage& two, int most)
     return others;
 }
 
-// A setting that is written.
-using Write = std::function<void(Widget&)>;
-template <class W, FixedString Name, class T> Write With(Property<Name, T> W::*property, std::type_identity_t<T> value)
+// The mean difference of their greys, of 255.
+inline double MeanDifference(const QImage& one, const QImage& other)
 {
-    return [=](Widget& widget) { widget.Set(property, value); };
-}
-
-// The box around the pixels of one sort.
-template <class IsInk> QRect BoxOf(const QImage& image, IsInk isInk)
-{
-    QRect box;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (isInk(image.pixel(x, y))) {
-                box |= QRect(x, y, 1, 1);
-            }
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            sum += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y)));
         }
     }
-    return box;
+    return sum / one.width() / one.height();
 }
 
 } // namespace quor

@@ -1,16 +1,15 @@
-// Picture files of every kind, whole and broken.
+// Picture files of every kind, whole and broken, and what they may take of memory and time.
 
 #include "base/failure.h"
 #include "metafile/metafile_header.h"
 #include "qt/ports/qt_pictures.h"
 #include "tests/qt/test.h"
 
-#include <QDir>
-#include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
+#include <sys/stat.h>
 
 namespace {
+
+using namespace std::chrono_literals;
 
 const QString samples = QStringLiteral(QUOR_TEST_DATA "/pictures/");
 
@@ -20,26 +19,16 @@ QByteArray Contents(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// The failure's number, or 0.
 std::int32_t Load(const QString& path)
 {
-    try {
-        QtPictures().LoadPicture(path.toStdString());
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
+    return FailureOf([&] { QtPictures().LoadPicture(path.toStdString()); });
 }
 
 std::int32_t LoadBytes(const QByteArray& bytes)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath("picture");
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-    file.close();
-    return Load(path);
+    WriteFile(directory.filePath("picture"), bytes);
+    return Load(directory.filePath("picture"));
 }
 
 TEST(Metafiles, OfBothKindsAreDrawnInTheirColorsAndSize)
@@ -60,10 +49,8 @@ TEST(Metafiles, OfBothKindsAreDrawnInTheirColorsAndSize)
             EXPECT_EQ(pixel, each.color) << name << ' ' << each.place.x() << ", " << each.place.y();
         }
         int word = 0; // in black, under the sign
-        for (int y = 490; y < 600; ++y) {
-            for (int x = 200; x < 400; ++x) {
-                word += image.pixel(x, y) == 0xFF000000 ? 1 : 0;
-            }
+        for (int pixel = 0; pixel < 110 * 200; ++pixel) {
+            word += image.pixel(200 + pixel % 200, 490 + pixel / 200) == 0xFF000000 ? 1 : 0;
         }
         EXPECT_GT(word, 300) << name;
     }
@@ -161,11 +148,9 @@ TEST(Metafiles, ThatArePlaceableShowEachKindOfRecord)
     const QTemporaryDir directory;
     QtPictures pictures;
     for (const auto& each : cases) {
-        QFile file(directory.filePath(each.what));
-        file.open(QIODevice::WriteOnly);
-        file.write(Placeable(start + each.records));
-        file.close();
-        const PictureRef picture = pictures.LoadPicture(file.fileName().toStdString());
+        const QString path = directory.filePath(each.what);
+        WriteFile(path, Placeable(start + each.records));
+        const PictureRef picture = pictures.LoadPicture(path.toStdString());
         const QImage image = ImageFor(*picture, {800, 800}, std::nullopt);
         EXPECT_EQ(image.pixel(8 * each.place + QPoint(4, 4)), each.color) << each.what;
         EXPECT_EQ(image.pixel(8 * each.empty + QPoint(4, 4)), 0U) << each.what;
@@ -191,6 +176,109 @@ TEST(QtPictures, ReadTheFormatsOfViewsAndNoOther)
     ASSERT_TRUE(image.save(other, "xpm"));
     EXPECT_EQ(Load(other), failures::invalidPicture);
     EXPECT_EQ(LoadBytes("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"), failures::invalidPicture);
+}
+
+class PictureLimitsTest : public testing::Test {
+protected:
+    std::string Bitmap(const char* name, int side)
+    {
+        const QString path = directory.filePath(name);
+        QImage(side, side, QImage::Format_RGB32).save(path, "bmp");
+        return path.toStdString();
+    }
+
+    // Of another length for each number.
+    std::string Metafile(const char* name, int number)
+    {
+        QFile sample(QUOR_TEST_DATA "/pictures/door.emf");
+        EXPECT_TRUE(sample.open(QIODevice::ReadOnly));
+        WriteFile(directory.filePath(name), sample.readAll() + QByteArray(number, '\0'));
+        return directory.filePath(name).toStdString();
+    }
+
+    QtPictures Pictures(qint64 pixels = 100'000'000)
+    {
+        return QtPictures(
+            {pixels, 5s, 10s}, [this](const QByteArray&, const QSize& size, std::chrono::milliseconds most) {
+                given.push_back(most);
+                QImage image(size, QImage::Format_ARGB32_Premultiplied);
+                return DrawnMetafile{isDrawn ? image : QImage(), std::min<std::chrono::milliseconds>(taken, most)};
+            });
+    }
+
+    // The words of its failure, or none.
+    static std::string Told(QtPictures& pictures, const std::string& path)
+    {
+        try {
+            pictures.LoadPicture(path);
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Number(), failures::invalidPicture);
+            return failure.Description();
+        }
+        return "";
+    }
+
+    QTemporaryDir directory;
+    std::vector<std::chrono::milliseconds> given; // to each drawing
+    bool isDrawn = true;
+    std::chrono::milliseconds taken = 4s;
+};
+
+TEST_F(PictureLimitsTest, PicturesBeyondThePixelsOfAViewAreToldAndAFileCountsOnce)
+{
+    QtPictures pictures = Pictures(1'000);
+    const std::string path = Bitmap("a", 20);
+    const PictureRef first = pictures.LoadPicture(path);
+    const PictureRef again = pictures.LoadPicture(path);
+    PictureRef second = pictures.LoadPicture(Bitmap("b", 24));
+    const std::string third = Bitmap("c", 20);
+    EXPECT_EQ(Told(pictures, third), "The pictures of this view take too much memory.");
+    second = nullptr;
+    EXPECT_EQ(Told(pictures, third), "");
+    EXPECT_EQ(pictures.LoadPicture(Bitmap("a", 21))->PixelWidth(), 21) << "another file at the same path";
+    EXPECT_EQ(first->PixelWidth(), 20);
+}
+
+TEST_F(PictureLimitsTest, WhatCannotBeDrawnIsTriedOnceAView)
+{
+    QtPictures pictures = Pictures();
+    isDrawn = false;
+    taken = 1s;
+    const std::string path = Metafile("a", 0);
+    for (int count = 0; count < 3; ++count) {
+        EXPECT_EQ(Told(pictures, path), "Invalid picture");
+    }
+    EXPECT_EQ(given.size(), 1U);
+    isDrawn = true;
+    EXPECT_EQ(Told(pictures, Metafile("a", 4)), "") << "a file that has changed";
+    pictures.BeginView();
+    EXPECT_EQ(Told(pictures, Metafile("a", 0)), "");
+    EXPECT_EQ(given.size(), 3U);
+}
+
+TEST_F(PictureLimitsTest, AViewWaitsForAllItsMetafilesOnlySoLong)
+{
+    QtPictures pictures = Pictures();
+    const std::string first = Metafile("a", 0);
+    for (const std::string& path : {first, Metafile("b", 0), Metafile("c", 0), first}) {
+        EXPECT_EQ(Told(pictures, path), "") << "the last one is kept";
+    }
+    const std::string fourth = Metafile("d", 0);
+    EXPECT_EQ(Told(pictures, fourth), "The metafiles of this view take too long to draw.");
+    EXPECT_EQ(Told(pictures, Metafile("a", 4)), "") << "one that is written again and again stays shown";
+    pictures.BeginView();
+    EXPECT_EQ(Told(pictures, fourth), "");
+    EXPECT_EQ(given, (std::vector<std::chrono::milliseconds>{5s, 5s, 2s, 5s, 5s}));
+}
+
+TEST_F(PictureLimitsTest, NoFileIsWaitedFor)
+{
+    QtPictures pictures;
+    const std::string pipe = directory.filePath("pipe").toStdString();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const std::string& path : {pipe, std::string("/dev/zero"), std::string("/proc/kmsg")}) {
+        EXPECT_THROW(pictures.LoadPicture(path), Failure) << path;
+    }
 }
 
 } // namespace

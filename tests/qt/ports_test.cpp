@@ -7,28 +7,7 @@
 #include "qt/ports/qt_timers.h"
 #include "tests/qt/test.h"
 
-#include <QFile>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-
 namespace {
-
-std::int32_t NumberOf(const std::function<void()>& body)
-{
-    try {
-        body();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
-
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 TEST(QtSettings, BeginWithAShownGridOfTenPixelsAndKeepWhatIsSet)
 {
@@ -56,22 +35,22 @@ TEST(QtSettings, ANumberThatIsNoneOrOutOfRangeIsTheFirstValue)
     const QTemporaryDir directory;
     const QString path = directory.filePath("view-editor.ini");
     for (const char* number : {"many", "-3", "0", "32768", "100000", "99999999999"}) {
-        Write(path, QByteArray("[grid]\nsize=") + number + "\n");
+        WriteFile(path, QByteArray("[grid]\nsize=") + number + "\n");
         EXPECT_EQ(QtSettings(path).GridSize(), 10) << number;
     }
-    Write(path, "[grid]\nsize=32767\n");
+    WriteFile(path, "[grid]\nsize=32767\n");
     EXPECT_EQ(QtSettings(path).GridSize(), 32767);
 }
 
 TEST(QtSettings, FailWhereTheyCannotBeKeptAndStayAsTheyWere)
 {
     const QTemporaryDir directory;
-    Write(directory.filePath("file"), "");
+    WriteFile(directory.filePath("file"), "");
     QtSettings settings(directory.filePath("file/quor/view-editor.ini"));
     for (int round = 0; round < 2; ++round) {
-        EXPECT_EQ(NumberOf([&] { settings.SetGridSize(25); }), failures::pathFileAccess);
-        EXPECT_EQ(NumberOf([&] { settings.SetShowGrid(false); }), failures::pathFileAccess);
-        EXPECT_EQ(NumberOf([&] { settings.SetSnapToGrid(false); }), failures::pathFileAccess);
+        EXPECT_EQ(FailureOf([&] { settings.SetGridSize(25); }), failures::pathFileAccess);
+        EXPECT_EQ(FailureOf([&] { settings.SetShowGrid(false); }), failures::pathFileAccess);
+        EXPECT_EQ(FailureOf([&] { settings.SetSnapToGrid(false); }), failures::pathFileAccess);
         EXPECT_EQ(settings.GridSize(), 10);
         EXPECT_TRUE(settings.ShowGrid() && settings.SnapToGrid());
     }
@@ -85,12 +64,12 @@ TEST(QtSettings, TellOfADamagedFileAndReplaceIt)
     const QTemporaryDir directory;
     const QString path = directory.filePath("view-editor.ini");
     EXPECT_EQ(QtSettings(path).Trouble(), "");
-    Write(path, "[grid]\nsize=25\nnonsense\n");
+    WriteFile(path, "[grid]\nsize=25\nnonsense\n");
     {
         QtSettings settings(path);
         EXPECT_NE(settings.Trouble().find("is damaged"), std::string::npos);
         EXPECT_EQ(settings.GridSize(), 25);
-        EXPECT_EQ(NumberOf([&] { settings.SetShowGrid(false); }), 0);
+        EXPECT_EQ(FailureOf([&] { settings.SetShowGrid(false); }), 0);
     }
     QtSettings settings(path);
     EXPECT_EQ(settings.Trouble(), "");
@@ -101,26 +80,26 @@ TEST(QtSettings, TellOfADamagedFileAndReplaceIt)
 TEST(QtPictures, TellWhatIsWrongWithAFile)
 {
     const QTemporaryDir directory;
-    QtPictures pictures;
-    const auto load = [&](const char* name) {
-        return NumberOf([&] { pictures.LoadPicture(directory.filePath(name).toStdString()); });
-    };
     QImage(30, 20, QImage::Format_RGB32).save(directory.filePath("good.png"));
     QFile::copy(directory.filePath("good.png"), directory.filePath("wrong_suffix.jpg"));
-    Write(directory.filePath("text.png"), "no picture");
+    WriteFile(directory.filePath("text.png"), "no picture");
     // A bitmap's header that claims 30000 x 30000 pixels.
-    QByteArray huge("BM", 2);
-    huge.append(QByteArray::fromHex("3600000000000000360000002800000030750000307500000100180000000000"));
-    huge.append(QByteArray(64, '\0'));
-    Write(directory.filePath("huge.bmp"), huge);
-
-    EXPECT_EQ(load("good.png"), 0);
-    EXPECT_EQ(load("wrong_suffix.jpg"), 0);
-    EXPECT_EQ(load("none.png"), failures::fileNotFound);
-    EXPECT_EQ(load("none/none.png"), failures::pathNotFound);
-    EXPECT_EQ(load("text.png"), failures::invalidPicture);
-    EXPECT_EQ(load("huge.bmp"), failures::invalidPicture);
-    EXPECT_EQ(pictures.LoadPicture(directory.filePath("good.png").toStdString())->PixelWidth(), 30);
+    WriteFile(directory.filePath("huge.bmp"),
+              "BM" + QByteArray::fromHex("3600000000000000360000002800000030750000307500000100180000000000") +
+                  QByteArray(64, '\0'));
+    const struct {
+        const char* name;
+        std::int32_t failure;
+    } cases[] = {{"good.png", 0},
+                 {"wrong_suffix.jpg", 0},
+                 {"none.png", failures::fileNotFound},
+                 {"none/none.png", failures::pathNotFound},
+                 {"text.png", failures::invalidPicture},
+                 {"huge.bmp", failures::invalidPicture}};
+    for (const auto& each : cases) {
+        const std::string path = directory.filePath(each.name).toStdString();
+        EXPECT_EQ(FailureOf([&] { QtPictures().LoadPicture(path); }), each.failure) << each.name;
+    }
 }
 
 TEST(QtScreen, TakesBackItsOwnPointerAndNoOther)
@@ -170,7 +149,7 @@ TEST(QtCommonDialog, WritesFiltersAsTheToolkitDoes)
 TEST(QtHelp, FailsWithoutItsFile)
 {
     QtHelp help;
-    EXPECT_EQ(NumberOf([&] { help.ShowContents("/none/index.html"); }), failures::fileNotFound);
+    EXPECT_EQ(FailureOf([&] { help.ShowContents("/none/index.html"); }), failures::fileNotFound);
 }
 
 } // namespace

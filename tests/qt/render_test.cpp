@@ -3,14 +3,11 @@
 #include "apps/tool/view_renderer.h"
 #include "apps/tool/view_tool.h"
 #include "posix/disk_files.h"
+#include "tests/qt/picture_of.h"
 #include "tests/qt/test.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QImage>
 #include <QProcess>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -41,14 +38,8 @@ protected:
 TEST_F(Render, StatusElementsShowTheStateAndTheScaleIsTheSize)
 {
     const auto greens = [](const QImage& image) {
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QRgb pixel = image.pixel(x, y);
-                count += qGreen(pixel) > 200 && qRed(pixel) < 100 && qBlue(pixel) < 100 ? 1 : 0;
-            }
-        }
-        return count;
+        return SumOf(image,
+                     [](QRgb pixel) { return qGreen(pixel) > 200 && qRed(pixel) < 100 && qBlue(pixel) < 100 ? 1 : 0; });
     };
     const QImage off = Rendered("round_led.qvw", {"--state", "off"});
     const QImage on = Rendered("round_led.qvw", {"--state", "on"});
@@ -79,14 +70,8 @@ TEST_F(Render, AScaleBelowOneShrinksTheWholeView)
     const QImage whole = Rendered("transmitter_site.qvw", {});
     const QImage half = Rendered("transmitter_site.qvw", {"--scale", "0.5"});
     const QImage expected = whole.scaled(half.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    double difference = 0;
-    for (int y = 0; y < half.height(); ++y) {
-        for (int x = 0; x < half.width(); ++x) {
-            difference += std::abs(qGray(half.pixel(x, y)) - qGray(expected.pixel(x, y)));
-        }
-    }
     EXPECT_NEAR(half.width(), whole.width() / 2, 1);
-    EXPECT_LT(difference / half.width() / half.height(), 8);
+    EXPECT_LT(MeanDifference(half, expected), 8);
 }
 
 TEST_F(Render, TellsWhichPicturesAreMissing)

@@ -1,49 +1,43 @@
-// What a user does at the real window, by mouse and keys.
+// What a user does at the real window, by mouse and keys, and how it ends.
 
 #include "tests/qt/desk.h"
 
+#include "apps/editor/session_end.h"
+#include "editor/property_panel.h"
 #include "forms/bars.h"
-#include "qt/window/canvas_view.h"
+#include "forms/fields.h"
+#include "forms/form.h"
+#include "pages/page.h"
 #include "tests/qt/test.h"
 
-#include <QAbstractButton>
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QTextBrowser>
+
+#include <csignal>
 
 namespace {
 
-TEST(Window, ThreeLampsAreDrawnSavedAndOpenedAgain)
+TEST(Window, LampsAreDrawnSavedAndOpenedAgain)
 {
     EditorDesk desk;
     desk.DragTool(3, {101, 98});
     desk.DragTool(3, {203, 98});
     desk.DragTool(3, {304, 202});
-    EXPECT_EQ(desk.Elements(), (QStringList{"LED (Round) 1 100,100 17x17", "LED (Round) 2 200,100 17x17",
-                                            "LED (Round) 3 300,200 17x17"}));
-
     desk.Drag({305, 205}, {388, 321}); // with the snap: 300 + 83 is nearer to 380
-    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 380,320 17x17");
+    EXPECT_EQ(desk.Elements(), (QStringList{"LED (Round) 1 100,100 17x17", "LED (Round) 2 200,100 17x17",
+                                            "LED (Round) 3 380,320 17x17"}));
     desk.DragHandle(7, {24, 36}); // to 41 x 53
     EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 380,320 40x50");
     desk.DragHandle(0, {-31, -29});
-    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 350,290 70x80");
-
-    desk.Choose("miSnapToGrid");
-    desk.Drag({205, 105}, {218, 112});
-    EXPECT_EQ(desk.Elements().at(1), "LED (Round) 2 213,107 17x17");
-    desk.DragHandle(4, {6, 0});
-    EXPECT_EQ(desk.Elements().at(1), "LED (Round) 2 213,107 23x17");
-    desk.Choose("miSnapToGrid");
-
+    desk.DragHandle(4, {10, 0});
+    EXPECT_EQ(desk.Elements().last(), "LED (Round) 3 350,290 80x80");
+    const Page& data = *desk.Main().Panel().FindPage("frmCVBlnDataSource");
+    data.Item<ListBox>("cboDataType").ListIndex(1);
+    const std::vector<std::string>& sites = data.Item<ListBox>("cboSite").Items();
+    EXPECT_EQ(std::count(sites.begin(), sites.end(), "North Ridge"), 1) << "of the program's own server";
     desk.Click({105, 105});
     desk.Key(Qt::Key_Delete);
-    const QStringList drawn = {"LED (Round) 2 213,107 23x17", "LED (Round) 3 350,290 70x80"};
+    const QStringList drawn = {"LED (Round) 2 200,100 17x17", "LED (Round) 3 350,290 80x80"};
     EXPECT_EQ(desk.Elements(), drawn);
 
     desk.MeetAndType(desk.PathOf("panel"));
@@ -52,7 +46,6 @@ TEST(Window, ThreeLampsAreDrawnSavedAndOpenedAgain)
     ASSERT_TRUE(QFile::exists(desk.PathOf("panel.qvw"))) << "the suffix comes by itself";
     desk.Key(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(desk.Elements(), QStringList()) << "a saved view goes without a question";
-
     desk.MeetAndType(desk.PathOf("panel.qvw"));
     desk.Key(Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(desk.Met().size(), 1);
@@ -109,23 +102,6 @@ TEST(Window, EscapeGivesUpADragAndASizing)
     EXPECT_EQ(desk.Elements(), drawn);
 }
 
-TEST(Window, TheRightButtonOpensThePopupOfWhatItIsOver)
-{
-    EditorDesk desk;
-    desk.DragTool(3, {100, 100});
-    desk.Click({400, 300});
-    desk.Click({105, 105}, Qt::RightButton);
-    auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_NE(popup, nullptr);
-    EXPECT_EQ(popup->objectName(), "bndToolPopup");
-    EXPECT_NE(desk.Main().SelectedWidget(), nullptr);
-    const QList<QAction*> actions = popup->actions();
-    EXPECT_EQ(actions.at(2)->toolTip(), "Pate");
-    EXPECT_TRUE(actions.at(0)->isEnabled());
-    desk.Key(Qt::Key_Escape);
-    popup->close();
-}
-
 TEST(Window, TheScrollBarsMoveTheViewAndFollowIt)
 {
     EditorDesk desk;
@@ -165,9 +141,26 @@ TEST(Window, ThePanelsComeAndGoWithTheirTools)
     }
 }
 
-TEST(Window, TheToolbarStandsAsItWasLeft)
+TEST(Window, StandsAsItWasArranged)
 {
     const QString layout = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quor";
+    const auto setPitch = [](EditorDesk& desk, const char* pixels, const char* button) {
+        desk.Meet([&desk, pixels, button](QWidget& dialog) {
+            auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
+            EXPECT_EQ(dialog.focusWidget(), size);
+            size->selectAll();
+            QTest::keyClicks(size, pixels);
+            dialog.findChild<QAbstractButton*>(button)->click();
+            EXPECT_EQ(desk.Main().ssScroll().Grid().stepX, 15 * QString(pixels).toInt());
+            if (dialog.isVisible()) {
+                dialog.findChild<QAbstractButton*>("cmdHelp")->click();
+                EXPECT_TRUE(dialog.findChild<QTextBrowser*>()->toPlainText().contains("Customize...")) << "above it";
+                QTest::keyClick(size, Qt::Key_Escape);
+            }
+        });
+        desk.Choose("miOptions");
+        EXPECT_EQ(desk.Met().size(), 1);
+    };
     QStringList arranged;
     {
         EditorDesk desk;
@@ -175,9 +168,15 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
         desk.Meet([](QWidget& dialog) {
             auto* tools = dialog.findChild<QListWidget*>("lstTools");
             auto* toolbar = dialog.findChild<QListWidget*>("lstToolbar");
-            tools->setCurrentRow(1); // Save As
+            EXPECT_EQ(dialog.focusWidget(), tools);
+            EXPECT_EQ(tools->accessibleName(), "Available tools:");
+            EXPECT_EQ(toolbar->accessibleName(), "On the toolbar:");
             toolbar->setCurrentRow(2);
-            dialog.findChild<QAbstractButton*>("cmdAdd")->click();
+            tools->setCurrentRow(0);
+            QTest::keyClick(tools, Qt::Key_Down);
+            const QString taken = tools->currentItem()->text();
+            QTest::keyClick(tools, Qt::Key_Return); // Save As
+            EXPECT_EQ(toolbar->currentItem()->text(), taken);
             toolbar->setCurrentRow(0);
             QTest::keyClick(toolbar, Qt::Key_Return);
             dialog.findChild<QAbstractButton*>("cmdDown")->click();
@@ -191,45 +190,52 @@ TEST(Window, TheToolbarStandsAsItWasLeft)
         arranged.swapItemsAt(0, 1);
         EXPECT_EQ(desk.Toolbar(), arranged);
         EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
+        setPitch(desk, "25", "cmdApply");
         EXPECT_TRUE(desk.Window().close());
     }
     {
         EditorDesk desk;
         EXPECT_EQ(desk.Toolbar(), arranged);
         EXPECT_FALSE(desk.Window().findChild<QWidget*>("bndStatus")->isVisible());
+        EXPECT_EQ(desk.Main().Grid().Size(), 25);
+        setPitch(desk, "10", "cmdOK"); // the settings outlive the test
     }
     EXPECT_TRUE(QDir(layout).removeRecursively());
 }
 
-TEST(Window, TheOptionsChangeTheGridAndOpenTheHelp)
+TEST(TheEndOfTheSession, AsksNothingWhetherItIsAQuitEventOrASignal)
 {
-    EditorDesk desk;
-    desk.Meet([&desk](QWidget& dialog) {
-        auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
-        EXPECT_EQ(dialog.focusWidget(), size);
-        size->selectAll();
-        QTest::keyClicks(size, "25");
-        dialog.findChild<QAbstractButton*>("cmdApply")->click();
-        EXPECT_EQ(desk.Main().ssScroll().Grid().stepX, 375);
-        dialog.findChild<QAbstractButton*>("cmdHelp")->click();
-        EXPECT_TRUE(dialog.findChild<QTextBrowser*>()->toPlainText().contains("Customize...")) << "above the dialog";
-        QTest::keyClick(size, Qt::Key_Escape);
-    });
-    desk.Choose("miOptions");
-    EXPECT_EQ(desk.Met().size(), 1);
-    EXPECT_EQ(desk.Main().Grid().Size(), 25);
-    desk.MeetAndCancel();
-    desk.Choose("miAbout");
-    EXPECT_EQ(desk.Met().size(), 1);
-    desk.Meet([](QWidget& dialog) { // the settings outlive the test
-        auto* size = dialog.findChild<QLineEdit*>("txtGridSize");
-        size->selectAll();
-        QTest::keyClicks(size, "10");
-        dialog.findChild<QAbstractButton*>("cmdOK")->click();
-    });
-    desk.Choose("miOptions");
-    EXPECT_EQ(desk.Met().size(), 1);
-    EXPECT_EQ(desk.Main().Grid().Size(), 10);
+    for (const bool isSignal : {false, true}) {
+        EditorDesk desk;
+        desk.DragTool(3, {100, 100});
+        int ends = 0;
+        const SessionEnd sessionEnd([&] {
+            ++ends;
+            EXPECT_TRUE(desk.Main().Close(CloseReason::System));
+            QCoreApplication::exit(0);
+        });
+        QTimer::singleShot(0, qApp, [isSignal] {
+            if (isSignal) {
+                std::raise(SIGTERM);
+            } else {
+                QCoreApplication::quit();
+            }
+        });
+        QApplication::exec();
+        EXPECT_TRUE(desk.HasEnded());
+        EXPECT_EQ(ends, 1);
+        EXPECT_EQ(desk.Met(), QStringList());
+    }
+}
+
+TEST(TheEndOfTheSession, ComesAtOnceAtTheSecondSignal)
+{
+    const auto signalTwice = [] {
+        const SessionEnd sessionEnd([] {});
+        std::raise(SIGTERM);
+        std::raise(SIGTERM);
+    };
+    EXPECT_EXIT(signalTwice(), ::testing::KilledBySignal(SIGTERM), "");
 }
 
 } // namespace

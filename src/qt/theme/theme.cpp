@@ -84,7 +84,6 @@ Theme::~Theme() = default;
 
 void Theme::Apply(QApplication& application)
 {
-    m_application = &application;
     AdoptDesktop();
     QApplication::setStyle(new DeskStyle(m_shared));
     Spread();
@@ -94,15 +93,6 @@ void Theme::Apply(QApplication& application)
         Spread();
     });
     application.installEventFilter(m_follower.get());
-}
-
-void Theme::UseColors(const ThemeColors& colors)
-{
-    m_follower.reset();
-    m_colors = colors;
-    if (m_application != nullptr) {
-        Spread();
-    }
 }
 
 void Theme::AdoptDesktop()

@@ -24,9 +24,6 @@ public:
     // the theme outlives all of them.
     void Apply(QApplication& application);
 
-    // Fixed colours instead of the desktop's.
-    void UseColors(const ThemeColors& colors);
-
 private:
     class Follower;
 
@@ -37,7 +34,6 @@ private:
     std::shared_ptr<ThemeColors> m_shared = std::make_shared<ThemeColors>(LightColors());
     ThemeColors& m_colors = *m_shared;
     QFont m_font;
-    QApplication* m_application = nullptr;
     std::unique_ptr<Follower> m_follower;
 };
 
