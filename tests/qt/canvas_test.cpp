@@ -116,7 +116,7 @@ TEST(CanvasMouse, DeleteIsTheInsertedElementsWhereverTheFocusWas)
     EXPECT_TRUE(QTest::qWaitFor([&] { return desk.Elements().isEmpty(); }));
 }
 
-TEST(CanvasMouse, OrderAndGridHaveTheirKeys)
+TEST(CanvasMouse, OrderGridAndClipboardHaveTheirKeys)
 {
     EditorDesk desk;
     desk.DragTool(4, {100, 100});
@@ -132,6 +132,10 @@ TEST(CanvasMouse, OrderAndGridHaveTheirKeys)
     desk.Drag({122, 112}, {129, 119});
     EXPECT_TRUE(desk.Elements().last().contains(" 127,117 "))
         << desk.Elements().last().toStdString() << ", without the snap";
+    desk.Key(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(desk.Elements().size(), 1);
+    desk.Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(desk.Elements().last().contains(" 0,0 "));
     desk.Key(Qt::Key_G, Qt::ControlModifier); // the settings outlive the desk
     desk.Key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(desk.Main().Grid().IsShown());

@@ -214,15 +214,14 @@ QImage Drawn(const Sheet& sheet, qreal scale)
 // The theme's controls in each of their states.
 class ControlSheet {
 public:
-    static constexpr QSize size{240, 488};
+    static constexpr QSize size{240, 520};
 
     explicit ControlSheet(QPainter& painter) : m_painter(painter), m_style(*QApplication::style())
     {
         painter.fillRect(QRect(QPoint(0, 0), size), ColorsInUse().panel);
         AddButtonsAndFields();
         AddBars();
-        AddMenus();
-        AddIcons();
+        AddMenusAndIcons();
     }
 
 private:
@@ -283,29 +282,23 @@ private:
         bar.maximum = 100;
         bar.pageStep = 40;
         bar.activeSubControls = S::SC_ScrollBarSlider;
-        const auto draw = [&](QStyleOptionSlider shown) {
-            shown.sliderPosition = shown.rect.left() % 101;
-            m_style.drawComplexControl(S::CC_ScrollBar, &shown, &m_painter);
-        };
-        bar.orientation = Qt::Vertical;
-        Row(bar, {12, 60}, S::State_HasFocus, draw);
-        m_top -= 64;
+        for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+            bar.orientation = orientation;
+            const QSize each = orientation == Qt::Vertical ? QSize(12, 60) : QSize(60, 12);
+            Row(bar, each, S::State_Horizontal, [&](QStyleOptionSlider shown) {
+                shown.sliderPosition = shown.rect.left() % 101;
+                m_style.drawComplexControl(S::CC_ScrollBar, &shown, &m_painter);
+            });
+        }
         QStyleOptionProgressBar progress;
         progress.maximum = 100;
-        for (const int share : {0, 3, 60, 100, 140}) {
-            progress.rect = QRect(124, m_top, 110, 12);
-            progress.progress = share;
-            m_style.drawControl(S::CE_ProgressBar, &progress, &m_painter);
-            m_top += 10;
-        }
-        bar.orientation = Qt::Horizontal;
-        bar.rect = QRect(124, m_top, 110, 12);
-        bar.state = S::State_Enabled | S::State_Horizontal;
-        draw(bar);
-        m_top += 14;
+        Row(progress, {28, 12}, S::State_None, [&](QStyleOptionProgressBar shown) {
+            shown.progress = shown.rect.left() - 4;
+            m_style.drawControl(S::CE_ProgressBar, &shown, &m_painter);
+        });
     }
 
-    void AddMenus()
+    void AddMenusAndIcons()
     {
         Control<QStyleOptionMenuItem>(S::CE_MenuBarItem, {28, 14}, S::State_Selected);
         QStyleOptionMenuItem item;
@@ -317,15 +310,11 @@ private:
             item.checked = !item.checked;
             Control(S::CE_MenuItem, {29, 28}, S::State_Selected, item);
         }
-    }
-
-    void AddIcons()
-    {
-        int number = 0;
+        int x = 4;
         for (const char* name : {"error", "question", "information", "miOpen", "miMtrAngle", "miSnapToGrid"}) {
-            for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
-                IconOf(name).paint(&m_painter, QRect(4 + 19 * number++, m_top, 18, 18), Qt::AlignCenter, mode);
-            }
+            IconOf(name).paint(&m_painter, QRect(x, m_top, 18, 18));
+            IconOf(name).paint(&m_painter, QRect(x + 19, m_top, 18, 18), Qt::AlignCenter, QIcon::Disabled);
+            x += 38;
         }
     }
 

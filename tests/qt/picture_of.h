@@ -91,6 +91,13 @@ template <class Measure> double SumOf(const QImage& image, Measure measure)
     return sum;
 }
 
+// How much of it is pink or magenta, in pixels.
+inline double PinkOf(const QImage& image)
+{
+    return SumOf(image,
+                 [](QRgb pixel) { return std::max(0, std::min(qRed(pixel), qBlue(pixel)) - qGreen(pixel)) / 255.0; });
+}
+
 // How many pixels of two pictures of a size differ by more than that in a channel.
 inline int OtherPixels(const QImage& one, const QImage& two, int most)
 {

@@ -146,11 +146,10 @@ TEST(Metafiles, ThatArePlaceableShowEachKindOfRecord)
         {"freed", blueInItsPlace + Record(0x041B, {90, 90, 10, 10}), {50, 50}, blue, {5, 5}},
     };
     const QTemporaryDir directory;
-    QtPictures pictures;
     for (const auto& each : cases) {
         const QString path = directory.filePath(each.what);
         WriteFile(path, Placeable(start + each.records));
-        const PictureRef picture = pictures.LoadPicture(path.toStdString());
+        const PictureRef picture = QtPictures().LoadPicture(path.toStdString());
         const QImage image = ImageFor(*picture, {800, 800}, std::nullopt);
         EXPECT_EQ(image.pixel(8 * each.place + QPoint(4, 4)), each.color) << each.what;
         EXPECT_EQ(image.pixel(8 * each.empty + QPoint(4, 4)), 0U) << each.what;
@@ -175,7 +174,15 @@ TEST(QtPictures, ReadTheFormatsOfViewsAndNoOther)
     const QString other = directory.filePath("picture.png");
     ASSERT_TRUE(image.save(other, "xpm"));
     EXPECT_EQ(Load(other), failures::invalidPicture);
-    EXPECT_EQ(LoadBytes("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"), failures::invalidPicture);
+    // A bitmap's header that claims 30000 x 30000 pixels.
+    const QByteArray huge =
+        "BM" + QByteArray::fromHex("3600000000000000360000002800000030750000307500000100180000000000");
+    for (const QByteArray& bytes : {QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"),
+                                    QByteArray("no picture"), huge + QByteArray(64, '\0')}) {
+        EXPECT_EQ(LoadBytes(bytes), failures::invalidPicture) << bytes.left(10).toStdString();
+    }
+    EXPECT_EQ(Load(directory.filePath("none.png")), failures::fileNotFound);
+    EXPECT_EQ(Load(directory.filePath("none/none.png")), failures::pathNotFound);
 }
 
 class PictureLimitsTest : public testing::Test {

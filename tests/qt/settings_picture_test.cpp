@@ -120,6 +120,13 @@ TEST_F(Settings, OfFacesShow)
          &S::CaptionColor, &S::CaptionFont, &Widget::Enabled);
     Hide("ctlCmdLED", {With(&S::Caption, "HIH")}, &S::CaptionMargin, &S::BorderSize);
 
+    for (Widget* widget : {&Add("ctlCommand", {With(&B::Caption, "HIH"), With(&B::ForeColor, pink)}),
+                           &Add("ctlCmdLED", {With(&S::Caption, "HIH"), With(&S::CaptionColor, pink)})}) {
+        const double enabled = PinkOf(Shown(*widget));
+        widget->Set(&Widget::Enabled, false);
+        EXPECT_LT(PinkOf(Shown(*widget)), 0.8 * enabled) << widget->Name();
+    }
+
     using P = Panel;
     for (const char* array : {"ctlBlnPic", "ctlPicture"}) {
         const Write mask = With(&P::PictureMaskColorValue, pink);

@@ -59,27 +59,22 @@ TEST(Window, EveryDialogCanBeCancelled)
     EditorDesk desk;
     desk.DragTool(3, {100, 100});
     const QStringList drawn = desk.Elements();
-
     desk.MeetAndCancel();
     desk.Choose("miSaveAs");
-    desk.MeetAndCancel(); // the question
-    desk.Choose("miNew");
     desk.MeetAndPush("No");
     desk.MeetAndCancel(); // the file
     desk.Choose("miOpen");
-    EXPECT_EQ(desk.Met().size(), 4);
+    EXPECT_EQ(desk.Met().size(), 3);
     EXPECT_EQ(desk.Elements(), drawn);
-
     desk.MeetAndCancel();
     desk.Key(Qt::Key_Delete); // with nothing selected: an error report
     EXPECT_EQ(desk.Met(), QStringList{"Quor Custom View Editor: Unable to delete the selected control."});
-
     desk.MeetAndCancel();
     EXPECT_FALSE(desk.Window().close());
-    EXPECT_EQ(desk.Met(), QStringList{"Custom View Editor: Do you want to save changes to My View?"});
     desk.MeetAndCancel();
     desk.Choose("miExit");
-    EXPECT_EQ(desk.Met().size(), 1) << "a close that was refused is no answer to the next";
+    EXPECT_EQ(desk.Met(), QStringList(2, "Custom View Editor: Do you want to save changes to My View?"))
+        << "a close that was refused is no answer to the next";
     desk.MeetAndPush("No");
     EXPECT_TRUE(desk.Window().close());
     EXPECT_EQ(desk.Met().size(), 1) << "one question a close";
@@ -121,23 +116,16 @@ TEST(Window, TheScrollBarsMoveTheViewAndFollowIt)
 
 TEST(Window, ThePanelsComeAndGoWithTheirTools)
 {
-    const struct {
-        const char* band;
-        const char* tool;
-    } rows[] = {{"bndToolbox", "miToolbox"}, {"bndObjProps", "miToolProps"}};
     EditorDesk desk;
-    for (const auto& row : rows) {
-        auto* panel = desk.Window().findChild<QWidget*>(row.band);
-        const BarTool& tool = desk.Main().abViewEdit().Tool(row.tool);
-        ASSERT_TRUE(panel != nullptr && panel->isVisible());
-        desk.Choose(row.tool);
-        EXPECT_FALSE(panel->isVisible()) << row.band;
-        EXPECT_FALSE(tool.Checked()) << row.tool;
-        desk.Choose(row.tool);
-        EXPECT_TRUE(panel->isVisible()) << row.band;
+    for (const auto& [band, name] : {std::pair("bndToolbox", "miToolbox"), {"bndObjProps", "miToolProps"}}) {
+        auto* panel = desk.Window().findChild<QWidget*>(band);
+        const BarTool& tool = desk.Main().abViewEdit().Tool(name);
+        desk.Choose(name);
+        EXPECT_FALSE(panel->isVisible() || tool.Checked()) << band;
+        desk.Choose(name);
+        EXPECT_TRUE(panel->isVisible() && tool.Checked()) << band;
         panel->findChild<QAbstractButton*>("close")->click();
-        EXPECT_FALSE(panel->isVisible()) << row.band;
-        EXPECT_FALSE(tool.Checked()) << row.tool;
+        EXPECT_FALSE(panel->isVisible() || tool.Checked()) << band;
     }
 }
 
