@@ -210,16 +210,14 @@ TEST(CanvasPicture, WhatPaintsNothingHasADashedOutlineWhereverItsEdgesAre)
     Widget& label = *desk.Main().ssScroll().Back();
     static_cast<TextLabel&>(label).Set(&TextLabel::Caption, "");
     desk.Click({400, 300});
-    for (const float width : {60.0F, 50'000.0F}) {
-        label.Move(100 * 15, 100 * 15, width * 15, 20 * 15);
-        const QImage image = Shown(desk);
-        int dashes = 0;
-        for (int x = 100; x < 160; ++x) {
-            dashes += image.pixel(x, 100) != face ? 1 : 0;
-        }
-        EXPECT_NEAR(dashes, 30, 4) << width;
-        EXPECT_EQ(image.pixel(130, 110), face);
+    label.Move(100 * 15, 100 * 15, 50'000 * 15, 20 * 15);
+    const QImage image = Shown(desk);
+    int dashes = 0;
+    for (int x = 100; x < 160; ++x) {
+        dashes += image.pixel(x, 100) != face ? 1 : 0;
     }
+    EXPECT_NEAR(dashes, 30, 4);
+    EXPECT_EQ(image.pixel(130, 110), face);
 }
 
 TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)
@@ -229,14 +227,12 @@ TEST(CanvasPicture, ThePictureIsCenteredStretchedTiledOrAtTheTopLeft)
     QImage red(30, 20, QImage::Format_RGB32);
     red.fill(Qt::red);
     red.setPixel(0, 0, 0xFF0000FF);
-    const QString file = desk.PathOf("red.png");
-    ASSERT_TRUE(red.save(file));
+    ASSERT_TRUE(red.save(desk.PathOf("red.png")));
     clsCustView& view = desk.Main().View();
-    view.Set(&clsCustView::BGPicture, file.toStdString());
+    view.Set(&clsCustView::BGPicture, desk.PathOf("red.png").toStdString());
     const QRgb blue = 0xFF0000FF;
     const QSize size = desk.Window().Canvas().viewport()->size();
-    const QPoint middle((size.width() - 30) / 2, (size.height() - 20) / 2);
-    EXPECT_EQ(Shown(desk).pixel(middle), blue);
+    EXPECT_EQ(Shown(desk).pixel((size.width() - 30) / 2, (size.height() - 20) / 2), blue);
     EXPECT_EQ(Shown(desk).pixel(5, 5), face);
     view.Set(&clsCustView::BGPicMode, 1);
     EXPECT_EQ(Shown(desk).pixel(size.width() - 5, size.height() - 5), 0xFFFF0000);

@@ -1,11 +1,10 @@
-// How all instruments and the marks of the canvas look, against pictures of them that were looked at and kept: no text
-// is on them, since machines have other fonts. QUOR_KEEP_SHEETS=1 keeps them anew.
+// How all instruments, the marks of the canvas and the theme's controls look, against pictures of them that were looked
+// at and kept: no text is on them, since machines have other fonts. QUOR_KEEP_SHEETS=1 keeps them anew.
 
 #include "tests/qt/picture_of.h"
 
 #include "qt/canvas/canvas_painting.h"
 #include "qt/canvas/marks.h"
-#include "qt/ports/qt_pictures.h"
 #include "qt/theme/desk_style.h"
 #include "qt/theme/theme.h"
 #include "tests/qt/test.h"
@@ -74,12 +73,7 @@ private:
 
     void AddFaces()
     {
-        const QTemporaryDir directory;
-        QImage image(20, 16, QImage::Format_RGB32);
-        image.fill(0xFFFF00FF);
-        image.setPixelColor(3, 3, Qt::blue);
-        image.save(directory.filePath("picture.png"));
-        const PictureRef picture = m_pictures.LoadPicture(directory.filePath("picture.png").toStdString());
+        const PictureRef picture = PinkPicture();
         const Write bare = With(&PushButton::Caption, "");
         const Write isMasked = With(&Panel::PictureUseMaskFlag, true);
         const Write mask = With(&Panel::PictureMaskColorValue, Color{0x00FF00FF});
@@ -183,7 +177,6 @@ private:
         canvas.SetGrid({150, 150, 430 * 15, 45 * 15, true});
     }
 
-    QtPictures m_pictures;
     QPoint m_next{5, 5};
 };
 

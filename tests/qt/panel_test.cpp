@@ -67,20 +67,6 @@ struct ThePanel : EditorFixture {
     }
 };
 
-// What the part looks like, and what of it is on the screen.
-QImage PictureOf(QWidget& part)
-{
-    return part.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-QImage OnScreen(const QWidget& part)
-{
-    const QWidget& window = *part.window();
-    const QRect place(part.mapTo(&window, QPoint()), part.size());
-    const QPixmap shown = window.screen()->grabWindow(window.winId());
-    return shown.copy(place).toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 TEST(PanelTabsOf320Pixels, FlowWithoutClippingInAnyFont)
 {
     const QStringList captions = {"General", "Meter (Angular)", "Positions and Colors", "Meter Data", "Action"};
@@ -353,7 +339,13 @@ TEST_F(ThePanel, IsWidenedByItsEdgeAndFillsItsWidth)
     EXPECT_NEAR(width, 520, 2);
     EXPECT_EQ(Find("txtViewName").width(), width - 128);
     EXPECT_EQ(view.heightForWidth(width), height - 3 * 26); // the options stand side by side
-    EXPECT_TRUE(QTest::qWaitFor([&] { return OnScreen(Panel()) == PictureOf(Panel()); })); // all of it was repainted
+    const auto isAllOnScreen = [&] {
+        const QPixmap shown = window->screen()->grabWindow(window->winId());
+        const QRect place(Panel().mapTo(window.get(), QPoint()), Panel().size());
+        return shown.copy(place).toImage().convertToFormat(QImage::Format_RGB32) ==
+               Panel().grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isAllOnScreen)) << "all of it was repainted";
     EXPECT_EQ(main.abViewEdit().BandOf("bndObjProps").Extent(), width) << "the layout keeps it";
     drag(-500);
     EXPECT_EQ(Panel().width(), 320);

@@ -4,6 +4,7 @@
 #include "document/kinds.h"
 #include "qt/painters/kept_pictures.h"
 #include "qt/painters/painters.h"
+#include "qt/ports/qt_pictures.h"
 #include "widgets/analog_display.h"
 #include "widgets/angular_gauge.h"
 #include "widgets/canvas.h"
@@ -19,6 +20,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -51,6 +53,17 @@ struct Instruments {
 private:
     std::int32_t m_count = 0;
 };
+
+// In pink, but for one pixel.
+inline PictureRef PinkPicture()
+{
+    const QTemporaryDir directory;
+    QImage image(20, 16, QImage::Format_RGB32);
+    image.fill(0xFFFF00FF);
+    image.setPixelColor(3, 3, Qt::blue);
+    image.save(directory.filePath("picture.png"));
+    return QtPictures().LoadPicture(directory.filePath("picture.png").toStdString());
+}
 
 // On a ground of that colour, by a painter that is scaled: the toolkit ignores a device pixel ratio below 1.
 inline QImage PictureOf(const Widget& widget, const QRectF& area, const QSize& size, qreal scale = 1,

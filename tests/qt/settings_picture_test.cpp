@@ -2,7 +2,6 @@
 
 #include "tests/qt/picture_of.h"
 
-#include "qt/ports/qt_pictures.h"
 #include "tests/qt/test.h"
 
 namespace {
@@ -36,15 +35,6 @@ template <class T> std::vector<T> OthersThan(T value)
 
 class Settings : public testing::Test, protected Instruments {
 protected:
-    Settings()
-    {
-        QImage image(20, 16, QImage::Format_RGB32);
-        image.fill(0xFFFF00FF);
-        image.setPixelColor(5, 5, Qt::blue);
-        image.save(directory.filePath("pink.png"));
-        picture = QtPictures().LoadPicture(directory.filePath("pink.png").toStdString());
-    }
-
     QImage Shown(const Widget& widget)
     {
         const QRectF area(0, 0, widget.Width() / twipsPerPixelX, widget.Height() / twipsPerPixelY);
@@ -78,8 +68,7 @@ protected:
 
     void CheckScale(const char* array);
 
-    QTemporaryDir directory;
-    PictureRef picture;
+    const PictureRef picture = PinkPicture();
     KeptPictures kept;
 };
 
