@@ -11,47 +11,42 @@ struct Simulation {
     explicit Simulation(std::uint64_t seed = 1, SimulatedServer::Pace pace = {})
         : server(timers, BuiltInSites(), seed, pace)
     {
-        const auto keep = [&](Subscription subscription) { subscriptions.push_back(std::move(subscription)); };
-        keep(server.ConfigData.Subscribe([&](const ConfigDataEvent& event) { Tell("ConfigData", event.NetName); }));
-        keep(server.Values.Subscribe([&](const ValuesEvent& event) {
-            std::string text =
-                !records ? std::string()
-                         : event.NetName + ' ' + std::to_string(event.UnitNum) + ' ' + std::to_string(event.Status);
-            for (std::size_t channel = 0; records && channel < event.MeterValues.Count(); ++channel) {
+        const auto hear = [&](auto& event, auto handler) { subscriptions.push_back(event.Subscribe(handler)); };
+        hear(server.ConfigData, [&](const ConfigDataEvent& event) { Tell("ConfigData", event.NetName); });
+        hear(server.FlagReport, [&](const FlagReportEvent& event) { Tell("FlagReport", event.NetName); });
+        hear(server.Values, [&](const ValuesEvent& event) {
+            std::string text = event.NetName + ' ' + std::to_string(event.UnitNum);
+            for (std::size_t channel = 0; channel < event.MeterValues.Count(); ++channel) {
                 text += ' ' + std::to_string(event.MeterValues.FromLower(static_cast<std::int32_t>(channel)));
             }
-            Tell("Values", text);
-            mutes = mutes || event.StatMutes != 0 || event.MeterMutes != 0;
-            lastStatus[{event.NetName, event.UnitNum}] = event.Status;
-            if (isDown[event.NetName]) {
-                Tell("Values without a link", text);
-            }
-        }));
-        keep(server.FlagReport.Subscribe([&](const FlagReportEvent& event) { Tell("FlagReport", event.NetName); }));
-        keep(server.Connected.Subscribe([&](const std::string& site, std::int32_t status) {
+            Tell(isDown[event.NetName] ? "Values without a link" : "Values", text);
+            counts["Muted"] += event.StatMutes != 0 || event.MeterMutes != 0 ? 1 : 0;
+            lastStatus[text.substr(0, text.find(' ', event.NetName.size() + 1))] = event.Status;
+        });
+        hear(server.Connected, [&](const std::string& site, std::int32_t status) {
             isDown[site] = status == 4;
             Tell(status == 4 ? "Tried" : "Connected", site);
-        }));
-        keep(server.Disconnected.Subscribe([&](const std::string& site, std::int32_t) {
+        });
+        hear(server.Disconnected, [&](const std::string& site, std::int32_t) {
             isDown[site] = true;
             Tell("Disconnected", site);
-        }));
-        keep(server.AlarmFlagChange.Subscribe([&](const std::string& site, std::uint8_t, bool pending, bool ofSite) {
+        });
+        hear(server.AlarmFlagChange, [&](const std::string& site, std::uint8_t, bool pending, bool ofSite) {
             Tell(pending ? "Alarm" : "Cleared", site);
             EXPECT_EQ(server.Sites().Item(site).SiteAlarms(), ofSite);
             EXPECT_TRUE(ofSite || !pending);
-        }));
-        keep(server.RemoteLocalChange.Subscribe(
-            [&](const std::string& site, std::uint8_t, bool local) { Tell(local ? "Local" : "Remote", site); }));
-        keep(server.MacroStatus.Subscribe([&](const std::string& site, std::uint8_t, std::uint8_t, bool running) {
+        });
+        hear(server.RemoteLocalChange,
+             [&](const std::string& site, std::uint8_t, bool local) { Tell(local ? "Local" : "Remote", site); });
+        hear(server.MacroStatus, [&](const std::string& site, std::uint8_t, std::uint8_t, bool running) {
             Tell(running ? "Runs" : "Ends", site);
-        }));
+        });
     }
 
     void Tell(const std::string& what, const std::string& text)
     {
         ++counts[what];
-        said += records ? what + ' ' + text + '\n' : std::string();
+        said += what + ' ' + text + '\n';
     }
 
     TeskUnit& Unit(const std::string& site, std::uint8_t unit) { return server.Sites().Item(site).Units().Item(unit); }
@@ -60,41 +55,37 @@ struct Simulation {
     SimulatedServer server;
     std::map<std::string, int> counts;
     std::map<std::string, bool> isDown;
-    std::map<std::pair<std::string, std::uint8_t>, std::int16_t> lastStatus;
+    std::map<std::string, std::int16_t> lastStatus; // by site and unit
     std::string said;
-    bool records = true; // what is said
-    bool mutes = false;
     std::vector<Subscription> subscriptions;
 };
 
 TEST(TheSimulatedServer, SaysTheSameForTheSameSeed)
 {
-    Simulation one(7);
-    Simulation same(7);
-    Simulation other(8);
-    for (Simulation* simulation : {&one, &same, &other}) {
-        simulation->server.Start();
-        simulation->timers.Advance(100 * second);
+    std::vector<std::string> said;
+    for (const std::uint64_t seed : {7U, 7U, 8U}) {
+        Simulation simulation(seed);
+        simulation.server.Start();
+        simulation.timers.Advance(100 * second);
+        said.push_back(simulation.said);
     }
-    EXPECT_EQ(one.said, same.said);
-    EXPECT_NE(one.said, other.said);
+    EXPECT_EQ(said[0], said[1]);
+    EXPECT_NE(said[0], said[2]);
 }
 
 TEST(TheSimulatedServer, LetsEverythingHappenWithinADay)
 {
     Simulation day(1, {.milliseconds = second, .seconds = 30});
-    day.records = false;
     day.server.Start();
     day.timers.Advance(86'400 / 30 * second);
-    for (const char* what : {"Values", "FlagReport", "Disconnected", "Tried", "Connected", "ConfigData", "Alarm",
-                             "Cleared", "Local", "Remote", "Runs", "Ends"}) {
+    for (const char* what : {"Values", "Muted", "FlagReport", "Disconnected", "Tried", "Connected", "ConfigData",
+                             "Alarm", "Cleared", "Local", "Remote", "Runs", "Ends"}) {
         EXPECT_GT(day.counts[what], 3) << what;
     }
-    EXPECT_TRUE(day.mutes);
     EXPECT_EQ(day.counts["Values without a link"], 0);
 }
 
-TEST(TheSimulatedServer, AnswersARequestOnceForAllWhoAsked)
+TEST(TheSimulatedServer, AnswersARequestOnceForAllWhoAskedAndOfADeadSiteThatItIsDisconnected)
 {
     Simulation simulation;
     for (int times = 0; times < 1000; ++times) {
@@ -102,14 +93,23 @@ TEST(TheSimulatedServer, AnswersARequestOnceForAllWhoAsked)
     }
     EXPECT_TRUE(simulation.said.empty()) << "not within the request";
     simulation.timers.Advance(second);
-    EXPECT_EQ(simulation.counts, (std::map<std::string, int>{{"ConfigData", 1}, {"Values", 1}, {"FlagReport", 1}}));
+    EXPECT_EQ(simulation.counts,
+              (std::map<std::string, int>{{"ConfigData", 1}, {"FlagReport", 1}, {"Muted", 0}, {"Values", 1}}));
+    simulation.server.Start();
+    while (!simulation.isDown["Harbour"]) {
+        simulation.timers.Advance(second);
+    }
+    simulation.counts.clear();
+    simulation.Unit("Harbour", 2).RequestConfig();
+    simulation.timers.Advance(second / 2);
+    EXPECT_EQ(simulation.counts, (std::map<std::string, int>{{"Disconnected", 1}}));
 }
 
 TEST(TheSimulatedServer, ObeysCommandsAndMacros)
 {
     Simulation simulation;
     TeskUnit& pumps = simulation.Unit("Harbour", 2);
-    const std::int16_t& status = simulation.lastStatus[{"Harbour", 2}];
+    const std::int16_t& status = simulation.lastStatus["Harbour 2"];
     pumps.Commands().Item(1).IssueA();
     EXPECT_EQ(status & 2, 2) << "the second pump runs";
     pumps.Commands().Item(1).IssueB();
@@ -133,21 +133,6 @@ TEST(TheSimulatedServer, ObeysCommandsAndMacros)
     EXPECT_FALSE(simulation.server.AppAlarms());
 }
 
-TEST(TheSites, ThatNobodyTellsAreBuiltInAndAFileThatCannotBeUsedIsSaidWhenTheyAreAskedFor)
-{
-    FakeFiles files;
-    FakeBoxes boxes;
-    files.PutText("own.json", "{");
-    SitesFile sites(files, boxes, {"own.json"});
-    EXPECT_GE(sites.Plan().sites.size(), 4U);
-    EXPECT_TRUE(boxes.shown.empty());
-    sites.ReloadSites();
-    EXPECT_EQ(boxes.shown.size(), 1U);
-    files.DeleteFile("own.json");
-    sites.ReloadSites();
-    EXPECT_EQ(boxes.shown.size(), 1U);
-}
-
 TEST(TheSimulatedServer, KeepsTheAlarmsOfItsPlanThatNoUnitHas)
 {
     FakeTimers timers;
@@ -165,24 +150,34 @@ TEST(TheSimulatedServer, KeepsTheAlarmsOfItsPlanThatNoUnitHas)
     EXPECT_TRUE(withoutUnits.AppAlarms());
 }
 
-TEST(TheSimulatedServer, SaysOfADeadSiteThatItIsDisconnected)
-{
-    Simulation simulation;
-    simulation.server.Start();
-    while (!simulation.isDown["Harbour"]) {
-        simulation.timers.Advance(second);
-    }
-    simulation.counts.clear();
-    simulation.Unit("Harbour", 2).RequestConfig();
-    simulation.timers.Advance(second / 2);
-    EXPECT_EQ(simulation.counts, (std::map<std::string, int>{{"Disconnected", 1}}));
-}
-
-TEST(TheSites, ComeAnewFromTheFirstFileThatIsThere)
+TEST(TheSites, ComeAnewFromTheFirstFileThatIsThereAndAFaultIsSaidOnceWhenTheyAreAskedFor)
 {
     FakeFiles files;
     FakeBoxes boxes;
-    const auto catalog = [](SitesFile& sites) {
+    const char* const faulty = "{\n\"Sites\": 7}";
+    files.PutText("own.json", faulty);
+    SitesFile sites(files, boxes, {"own.json", "shared.json"});
+    EXPECT_GE(sites.Plan().sites.size(), 4U) << "built in";
+    EXPECT_TRUE(boxes.shown.empty());
+    // What the file holds then, empty for none, the catalogue, and how many boxes were shown until then.
+    const struct {
+        const char* file;
+        const char* text;
+        const char* names;
+        std::size_t boxes;
+    } steps[] = {
+        {"shared.json", R"({"Sites": [{"NetName": "A"}]})", "", 1},
+        {"own.json", R"({"Sites": [{"NetName": "C"}]})", "C ", 1},
+        {"own.json", faulty, "C ", 2}, // it was mended in between
+        {"own.json", faulty, "C ", 2},
+        {"own.json", "", "A ", 2},
+        {"shared.json", R"({"Sites": [{"NetName": "A"}, {"NetName": "B", "CatalogOnly": true}]})", "A B ", 2},
+    };
+    for (const auto& step : steps) {
+        files.Erase(step.file);
+        if (*step.text != '\0') {
+            files.PutText(step.file, step.text);
+        }
         TeskSiteList list;
         sites.GetCatalog().ReloadSites();
         sites.GetCatalog().GetSites(list);
@@ -190,24 +185,11 @@ TEST(TheSites, ComeAnewFromTheFirstFileThatIsThere)
         for (const TeskSiteEntry& entry : list) {
             names += entry.SiteName + ' ';
         }
-        return names;
-    };
-    files.PutText("shared.json", R"({"Sites": [{"NetName": "A"}]})");
-    SitesFile sites(files, boxes, {"own.json", "shared.json"});
-    EXPECT_EQ(sites.Plan().sites.size(), 1U);
-    EXPECT_EQ(catalog(sites), "A ");
-    files.PutText("shared.json", R"({"Sites": [{"NetName": "A"}, {"NetName": "B", "CatalogOnly": true}]})");
-    EXPECT_EQ(catalog(sites), "A B ") << "added while the program runs";
-    EXPECT_TRUE(boxes.shown.empty());
-    files.PutText("own.json", "{\n\"Sites\": 7}");
-    EXPECT_EQ(catalog(sites) + catalog(sites), "A B A B ");
-    ASSERT_EQ(boxes.shown.size(), 1U) << "it is said once";
-    EXPECT_EQ(boxes.shown[0].text.find("The sites of the file \"own.json\" cannot be used. Sites is no list."), 0U);
-    files.PutText("own.json", R"({"Sites": [{"NetName": "C"}]})");
-    EXPECT_EQ(catalog(sites), "C ");
-    files.PutText("own.json", "{\n\"Sites\": 7}");
-    EXPECT_EQ(catalog(sites), "C ");
-    EXPECT_EQ(boxes.shown.size(), 2U) << "it was mended in between";
+        EXPECT_TRUE(names == step.names || (*step.names == '\0' && list.size() >= 4)) << names;
+        EXPECT_EQ(boxes.shown.size(), step.boxes) << step.text;
+    }
+    EXPECT_TRUE(
+        boxes.shown[0].text.starts_with("The sites of the file \"own.json\" cannot be used. Sites is no list."));
 }
 
 } // namespace

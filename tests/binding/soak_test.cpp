@@ -7,171 +7,110 @@
 #include "servers/simulator/sites_file.h"
 #include "tests/test.h"
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
-#include <tuple>
-
-namespace {
-std::atomic<long> blocksInUse = 0;
-}
-
-void* operator new(std::size_t size)
-{
-    if (void* block = std::malloc(size)) {
-        ++blocksInUse;
-        return block;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void* block) noexcept
-{
-    blocksInUse -= block == nullptr ? 0 : 1;
-    std::free(block);
-}
-
-void operator delete(void* block, std::size_t) noexcept
-{
-    blocksInUse -= block == nullptr ? 0 : 1;
-    std::free(block);
-}
+#include <malloc.h>
 
 namespace {
 
-struct Place {
-    std::string site;
-    std::uint8_t unit;
-};
-
-// A source, and what it told.
 struct Watched final : BlnOwner {
     explicit Watched(Live& live) : source(live, *this) {}
 
-    void Bind(const Place& place, std::int32_t type, std::uint8_t channel)
-    {
-        source.Set(&clsBlnDataSource::Site, place.site);
-        source.Set(&clsBlnDataSource::Unit, place.unit);
-        source.Set(&clsBlnDataSource::BlnDataType, type);
-        source.Set(&clsBlnDataSource::Channel, channel);
-    }
-
-    void m_BlnDataSource_UpdateBlnData(bool blnValue, bool blnMute) override
-    {
-        std::get<0>(told)++;
-        std::get<1>(told) = blnValue;
-        std::get<2>(told) = blnMute;
-    }
+    void m_BlnDataSource_UpdateBlnData(bool value, bool mute) override { told = {std::get<0>(told) + 1, value, mute}; }
 
     clsBlnDataSource source;
     std::tuple<int, bool, bool> told; // updates, and the last of them
 };
 
-struct Twins {
-    Twins(Live& live, Live& apart) : routed(live), alone(apart) {}
+using Places = std::vector<std::pair<std::string, std::uint8_t>>;
 
-    void Bind(const Place& place, std::int32_t type, std::uint8_t channel)
+// Sources that are bound alike, time after time.
+struct Crowd {
+    static constexpr std::size_t sources = 2000;
+
+    Crowd(Live& of, const Places& to) : live(of), places(to)
     {
-        routed.Bind(place, type, channel);
-        alone.Bind(place, type, channel);
+        for (std::size_t index = 0; index < sources; ++index) {
+            Make(index, index);
+        }
     }
 
-    Watched routed;
-    Watched alone;
+    void Make(std::size_t index, std::size_t number)
+    {
+        all[index] = std::make_unique<Watched>(live);
+        Bind(index, number, number % 19, number % 16 + 1);
+    }
+    void Bind(std::size_t index, std::size_t place, std::size_t type, std::size_t channel)
+    {
+        clsBlnDataSource& source = all[index]->source;
+        source.Set(&clsBlnDataSource::Site, places[place % places.size()].first);
+        source.Set(&clsBlnDataSource::Unit, places[place % places.size()].second);
+        source.Set(&clsBlnDataSource::BlnDataType, static_cast<std::int32_t>(type));
+        source.Set(&clsBlnDataSource::Channel, static_cast<std::uint8_t>(channel));
+    }
+    // Some are made anew and some bound to something else.
+    void Change(std::size_t hour)
+    {
+        for (std::size_t index = hour; index < sources; index += 40) {
+            Make(index, index * 7 + hour);
+            Bind((index + 20) % sources, index, (index + hour) % 19, 3);
+        }
+    }
+
+    Live& live;
+    const Places& places;
+    std::array<std::unique_ptr<Watched>, sources> all;
 };
 
-class TheDay : public testing::Test {
-protected:
-    static constexpr int sources = 2000;
-    static constexpr int millisecondsAStep = 1000;
-    static constexpr int secondsAStep = 60;
-    static constexpr int stepsAnHour = 3600 / secondsAStep;
-
-    TheDay() : server(timers, BuiltInSites(), 11, {millisecondsAStep, secondsAStep})
-    {
-        live.Server = &server;
-        apart.Server = &server;
-        server.Sites().ForEach([&](TeskSite& site) {
-            site.Units().ForEach([&](TeskUnit& unit) { places.push_back({site.NetName(), unit.UnitNum()}); });
-        });
-        for (int index = 0; index < sources; ++index) {
-            twins.push_back(Make(index));
-        }
-        BringAll();
-        server.Start();
-    }
-
-    std::unique_ptr<Twins> Make(int number)
-    {
-        auto made = std::make_unique<Twins>(live, apart);
-        made->Bind(places[static_cast<std::size_t>(number) % places.size()], number % 19,
-                   static_cast<std::uint8_t>(number % 16 + 1));
-        return made;
-    }
-
-    // Once an hour some are made anew and some bound to something else.
-    void Change(int hour)
-    {
-        for (int index = hour; index < sources; index += 40) {
-            const auto at = static_cast<std::size_t>(index);
-            twins[at] = Make(index * 7 + hour);
-            twins[(at + 20) % twins.size()]->Bind(places[at % places.size()], (index + hour) % 19, 3);
-        }
-    }
-
-    template <class... Arguments, class... Parameters>
-    void Bring(Event<Arguments...>& event, void (ServerListener::*handler)(Parameters...))
-    {
-        subscriptions.push_back(event.Subscribe([this, handler](Arguments... arguments) {
-            for (const std::unique_ptr<Twins>& each : twins) {
-                ServerListener& listener = each->alone.source;
+TEST(TheDay, BringsEachUpdateThatShouldArriveAndKeepsNothing)
+{
+    constexpr int second = 1000;
+    constexpr int stepsAnHour = 60;
+    FakeTimers timers;
+    SimulatedServer server(timers, BuiltInSites(), 11, {second, 3600 / stepsAnHour});
+    Live live;
+    Live apart{true}; // its sources hear nothing by themselves
+    live.Server = &server;
+    apart.Server = &server;
+    Places places;
+    server.Sites().ForEach([&](TeskSite& site) {
+        site.Units().ForEach([&](TeskUnit& unit) { places.emplace_back(site.NetName(), unit.UnitNum()); });
+    });
+    Crowd routed(live, places);
+    Crowd alone(apart, places);
+    std::vector<Subscription> subscriptions;
+    const auto bring = [&](auto& event, auto handler) {
+        subscriptions.push_back(event.Subscribe([&alone, handler](const auto&... arguments) {
+            for (const std::unique_ptr<Watched>& each : alone.all) {
+                ServerListener& listener = each->source;
                 IgnoreFailure([&] { (listener.*handler)(arguments...); });
             }
         }));
-    }
-
-    void BringAll()
-    {
-        Bring(server.ConfigData, &ServerListener::m_Srv_ConfigData);
-        Bring(server.Connected, &ServerListener::m_Srv_Connected);
-        Bring(server.Disconnected, &ServerListener::m_Srv_Disconnected);
-        Bring(server.RemoteLocalChange, &ServerListener::m_Srv_RemoteLocalChange);
-        Bring(server.AlarmFlagChange, &ServerListener::m_Srv_AlarmFlagChange);
-        Bring(server.FlagReport, &ServerListener::m_Srv_FlagReport);
-        Bring(server.MacroStatus, &ServerListener::m_Srv_MacroStatus);
-        Bring(server.Values, &ServerListener::m_Srv_Values);
-    }
-
-    FakeTimers timers;
-    SimulatedServer server;
-    Live live;
-    Live apart{true}; // its sources hear nothing by themselves
-    std::vector<Place> places;
-    std::vector<std::unique_ptr<Twins>> twins;
-    std::vector<Subscription> subscriptions;
-};
-
-TEST_F(TheDay, BringsEachUpdateThatShouldArriveAndKeepsNothing)
-{
-    long blocks = 0;
+    };
+    bring(server.ConfigData, &ServerListener::m_Srv_ConfigData);
+    bring(server.Connected, &ServerListener::m_Srv_Connected);
+    bring(server.Disconnected, &ServerListener::m_Srv_Disconnected);
+    bring(server.RemoteLocalChange, &ServerListener::m_Srv_RemoteLocalChange);
+    bring(server.AlarmFlagChange, &ServerListener::m_Srv_AlarmFlagChange);
+    bring(server.FlagReport, &ServerListener::m_Srv_FlagReport);
+    bring(server.MacroStatus, &ServerListener::m_Srv_MacroStatus);
+    bring(server.Values, &ServerListener::m_Srv_Values);
+    server.Start();
+    std::size_t bytes = 0;
     long updates = 0;
-    for (int hour = 0; hour < 24; ++hour) {
-        timers.Advance(stepsAnHour * millisecondsAStep);
-        for (std::size_t index = 0; index < twins.size(); ++index) {
-            const Twins& each = *twins[index];
-            ASSERT_EQ(each.routed.told, each.alone.told)
-                << "hour " << hour << " source " << index << " type " << each.routed.source.BlnDataType();
-            updates += std::get<0>(each.routed.told);
+    for (std::size_t hour = 0; hour < 24; ++hour) {
+        timers.Advance(stepsAnHour * second);
+        for (std::size_t index = 0; index < Crowd::sources; ++index) {
+            ASSERT_EQ(routed.all[index]->told, alone.all[index]->told)
+                << "hour " << hour << " source " << index << " type " << routed.all[index]->source.BlnDataType();
+            updates += std::get<0>(routed.all[index]->told);
         }
         if (hour == 1) {
-            blocks = blocksInUse;
+            bytes = mallinfo2().uordblks;
         }
-        Change(hour);
+        routed.Change(hour);
+        alone.Change(hour);
     }
     EXPECT_GT(updates, 1'000'000);
-    EXPECT_LT(blocksInUse - blocks, 2000) << "what one event in ten thousand kept would show";
-    twins.clear();
-    timers.Advance(stepsAnHour * millisecondsAStep);
+    EXPECT_LT(mallinfo2().uordblks, bytes + 100'000) << "what one event in a thousand kept would show";
 }
 
 } // namespace

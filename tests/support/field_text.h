@@ -13,12 +13,13 @@ namespace quor {
 // Flags are 1 and 0, a font is its name; those of the sources are left out.
 class FieldText final : public FieldWalk {
 public:
-    template <class E> static std::string Of(E& element, std::string_view name)
+    using Texts = std::map<std::string, std::string, std::less<>>;
+
+    template <class E> static Texts Of(E& element)
     {
         FieldText walk;
         element.Fields(walk);
-        const auto found = walk.m_texts.find(name);
-        return found == walk.m_texts.end() ? "no such field: " + std::string(name) : found->second;
+        return std::move(walk.m_texts);
     }
 
 private:
@@ -39,7 +40,7 @@ private:
     void Begin(std::string_view /*part*/) override { ++m_depth; }
     void End() override { --m_depth; }
 
-    std::map<std::string, std::string, std::less<>> m_texts;
+    Texts m_texts;
     int m_depth = 0;
 };
 

@@ -1,0 +1,296 @@
+// What sources of each type make of each event of the server, and of a logon: tests/data/kept/sources.txt has what was
+// heard of them. Then their arithmetic.
+
+#include "base/text.h"
+#include "binding/bln_data_source.h"
+#include "binding/cmd_data_source.h"
+#include "binding/live.h"
+#include "binding/mtr_data_source.h"
+#include "binding/sites.h"
+#include "tests/support/kept_text.h"
+#include "tests/test.h"
+
+namespace {
+
+// What came of the events: "1m" is true and muted, "[on|off]" captions.
+struct Owner final : BlnOwner, MtrOwner {
+    std::string heard;
+
+    std::string Take() { return std::exchange(heard, {}); }
+
+    void m_BlnDataSource_UpdateBlnData(bool value, bool mute) override
+    {
+        heard += std::string(value ? "1" : "0") + (mute ? "m" : "");
+    }
+    void m_BlnDataSource_LabelData(const std::string& on, const std::string& off) override
+    {
+        heard += "[" + on + "|" + off + "]";
+    }
+    void m_MtrDataSource_UpdateMtrData(float value, bool mute) override
+    {
+        heard += ' ' + Decimal(value) + (mute ? "m" : "");
+    }
+    void m_MtrDataSource_DecPlacesChanged(std::int16_t places) override { heard += std::to_string(places) + " places "; }
+    void m_MtrDataSource_LabelData(const MeterLabel& label) override
+    {
+        heard += "[" + label.strLabel;
+        for (const float number : {label.sngMin, label.sngMax, label.sngSecondLower, label.sngFirstLower,
+                                   label.sngFirstUpper, label.sngSecondUpper}) {
+            heard += ' ' + Decimal(number);
+        }
+        heard += "]";
+    }
+};
+
+struct ASource : testing::Test {
+    FakeServer server;
+    FakeLogin login;
+    FakeBoxes boxes;
+    Live live;
+    Owner owner;
+    FakeUnit& unit = server.Add("Ridge").Add(2);
+    std::string told;
+
+    ASource()
+    {
+        live.Server = &server;
+        live.Login = &login;
+        live.Boxes = &boxes;
+        unit.name = "Exciter";
+        unit.eventsPending = true;
+        server.Add("Harbour").siteAlarms = true;
+    }
+
+    template <class S> static void Place(S& source, std::uint8_t channel = 1)
+    {
+        source.Set(&S::Site, "Ridge");
+        source.Set(&S::Unit, 2);
+        source.Set(&S::Channel, channel);
+    }
+    std::unique_ptr<clsBlnDataSource> Watch(std::int32_t type, std::uint8_t channel = 1)
+    {
+        auto source = std::make_unique<clsBlnDataSource>(live, owner);
+        source->Set(&clsBlnDataSource::BlnDataType, type);
+        Place(*source, channel);
+        return source;
+    }
+
+    void Configure(std::vector<float> limits, const std::string& site = "Ridge", std::uint8_t number = 2,
+                   const std::string& flag = "True", float calibration = 0.5F, std::uint8_t meterType = 1)
+    {
+        ConfigDataEvent event{site, number, {}, {}, {}, {}, {}, {}, {}};
+        event.Limits = {std::move(limits), 4, 3, 7};
+        event.CmdLabels = {{"Raise", "Lower"}, 2};
+        event.MtrLabels = ServerArray<std::string>({"Power"}, 1);
+        event.StatusLabels = {{"Closed", "Open"}, 2};
+        event.MacroNames = {{"Warm up", flag}, 2};
+        event.CalibConst = ServerArray<float>({calibration});
+        event.MtrTypes = ServerArray<std::uint8_t>({meterType});
+        server.ConfigData.Raise(event);
+    }
+    void Read(float value, std::int16_t bits = 0, const std::string& site = "Ridge", std::uint8_t number = 2)
+    {
+        server.Values.Raise({site, number, 0, bits, bits, bits, bits, ServerArray<float>({value}, 1)});
+    }
+    std::string AfterReading(std::initializer_list<float> values, std::int16_t bits = 0)
+    {
+        owner.Take();
+        for (const float value : values) {
+            Read(value, bits);
+        }
+        return owner.Take();
+    }
+
+    // One line for each event that the owner hears of, or on which the server is asked for something.
+    template <class Act> void Tell(const std::string& what, Act act)
+    {
+        act();
+        std::string heard = owner.Take();
+        for (const std::string& call : std::exchange(server.calls, {})) {
+            heard += " (" + call + ")";
+        }
+        told += heard.empty() ? "" : "  " + what + ": " + heard + '\n';
+    }
+
+    // Each event, of the source's place and of others.
+    void TellAll()
+    {
+        for (const auto& [site, number] : {std::pair{"Ridge", std::uint8_t{2}}, {"Ridge", 3}, {"Harbour", 2}}) {
+            const std::string of = std::string(" of ") + site + ' ' + std::to_string(number);
+            Tell("configuration" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
+            for (const float value : {5.0F, 10.0F, 15.0F, 20.0F, 50.0F, 80.0F, 85.0F, 90.0F, 95.0F, NoData}) {
+                Tell(Decimal(value) + of, [&] { Read(value, value == 50 ? 0 : 1, site, number); });
+            }
+            Tell("configuration again" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
+            for (const std::int32_t status : {4, 5, 6}) {
+                Tell("connected " + std::to_string(status) + of, [&] { server.Connected.Raise(site, status); });
+            }
+            Tell("remote" + of, [&] { server.RemoteLocalChange.Raise(site, number, false); });
+            Tell("local" + of, [&] { server.RemoteLocalChange.Raise(site, number, true); });
+            Tell("no alarm of the unit" + of, [&] { server.AlarmFlagChange.Raise(site, number, false, true); });
+            Tell("no alarm of the site" + of, [&] { server.AlarmFlagChange.Raise(site, number, true, false); });
+            for (int flag = 0; flag < 6; ++flag) {
+                const auto is = [&](int which) { return which == flag; };
+                Tell("flag " + std::to_string(flag) + of,
+                     [&] { server.FlagReport.Raise({site, number, is(0), is(1), is(2), is(3), is(4), is(5)}); });
+            }
+            Tell("macro 1 runs" + of, [&] { server.MacroStatus.Raise(site, number, 1, true); });
+            Tell("macro 2 ends" + of, [&] { server.MacroStatus.Raise(site, number, 2, false); });
+            Tell("disconnected" + of, [&] { server.Disconnected.Raise(site, 0); });
+        }
+    }
+};
+
+TEST_F(ASource, TakesFromEachEventWhatItsTypeWatches)
+{
+    for (std::int32_t type = 0; type < 19; ++type) {
+        told += "status " + std::to_string(type) + '\n';
+        const auto source = Watch(type);
+        Tell("refreshed", [&] { source->RefreshData(); });
+        TellAll();
+        Tell("refreshed", [&] { source->RefreshData(); });
+        source->Set(&clsBlnDataSource::Site, "Nowhere");
+        Tell("refreshed nowhere", [&] { source->RefreshData(); });
+        TellAll();
+    }
+    told += "meter\n";
+    clsMtrDataSource meter(live, owner);
+    Place(meter);
+    Tell("refreshed", [&] { meter.RefreshData(); });
+    TellAll();
+    Tell("refreshed", [&] { meter.RefreshData(); });
+    Read(7);
+    Tell("refreshed with data", [&] { meter.RefreshData(); });
+    Tell("of the other type", [&] { Configure({10, 20, 80, 90}, "Ridge", 2, "", 0.5F, 2); });
+    Tell("beyond all numbers", [&] { Configure({10, 20, 80, 90}, "Ridge", 2, "", 1.662e35F, 1); });
+    Tell("beyond all numbers", [&] { Configure({10, 20, 80, 90}, "Ridge", 2, "", 3e35F, 2); });
+    for (int times = 0; times < 2; ++times) {
+        Tell("set", [&] { meter.Set(&clsMtrDataSource::DecimalPlaces, 2); });
+    }
+    ExpectAsKept(told, "sources.txt");
+}
+
+TEST_F(ASource, OfAnActionIsLockedForTheFirstConditionThatFailsAndRunsOtherwise)
+{
+    FakeFiles files;
+    files.PutText("damaged.qvw", "QUOR4VIEW");
+    live.ViewFiles = &files;
+    for (std::int32_t type = 0; type < 10; ++type) {
+        told += "action " + std::to_string(type) + '\n';
+        clsCmdDataSource source(live);
+        source.Set(&clsCmdDataSource::CmdDataType, type);
+        Place(source);
+        const Subscription label =
+            source.LabelData.Subscribe([&](const std::string& text) { owner.heard += "[" + text + "]"; });
+        const Subscription lock = source.ToggleEnable.Subscribe([&](bool enabled) {
+            owner.heard += enabled ? "enabled" : "locked. " + source.LockReason();
+        });
+        const auto run = [&](std::uint8_t shift = 0) {
+            Tell("run", [&] { source.RunCommand(shift); });
+            while (!boxes.shown.empty()) {
+                told += "    " + boxes.shown.back().text + '\n';
+                boxes.shown.pop_back();
+            }
+        };
+        run();
+        Tell("refreshed", [&] { source.RefreshData(); });
+        run();
+        source.Set(&clsCmdDataSource::CtrlClick, true);
+        run();
+        run(clsCmdDataSource::ctrlKey);
+        source.Set(&clsCmdDataSource::CtrlClick, false);
+        login.rightsHeld = {};
+        Tell("without a right", [&] { login.EndLogOn(true); });
+        TellAll();
+        Tell("connected", [&] { server.Connected.Raise("Ridge", 5); });
+        Tell("remote", [&] { server.RemoteLocalChange.Raise("Ridge", 9, false); });
+        run();
+        for (const std::int16_t right : {rights::issueCommands, rights::runMacros, rights::clearAlarms}) {
+            login.rightsHeld = {right};
+            Tell("right " + std::to_string(right), [&] { login.EndLogOn(true); });
+        }
+        login.rightsHeld = FakeLogin().rightsHeld;
+        Tell("logon failed", [&] { login.EndLogOn(false); });
+        Tell("logged on", [&] { login.EndLogOn(true); });
+        Tell("logged off", [&] { login.EndSession(); });
+        login.isLoggedOn = true;
+        source.Set(&clsCmdDataSource::Site, "damaged.qvw");
+        Tell("of a view", [&] { source.RefreshData(); });
+    }
+    ExpectAsKept(told, "actions.txt");
+}
+
+TEST_F(ASource, ComparesAValueWithEachLimitByItselfAndPassesNoneThatIsNotKnown)
+{
+    const char* const outside[] = {"111000000", "100000000", "000000001", "000000111", "111000111"};
+    for (std::int32_t type = watch::belowSecondLower; type <= watch::outsideLimits; ++type) {
+        const auto source = Watch(type);
+        EXPECT_EQ(AfterReading({-20000, 95}), "00") << "nothing is known yet of type " << type;
+        Configure({20, 10, 90, 80}); // crossed
+        EXPECT_EQ(AfterReading({9.5F, 10, 15, 20, 50, 80, 85, 90, 95}), outside[type - 1]) << "type " << type;
+        for (std::size_t unknown = 0; unknown < 4; ++unknown) {
+            std::vector<float> limits = {10, 20, 80, 90};
+            limits[unknown] = NoData;
+            Configure(limits);
+            // For all four it is the second lower alone that must be known.
+            const std::size_t asked = type == watch::outsideLimits ? 0 : static_cast<std::size_t>(type - 1);
+            const bool isUpper = type == watch::aboveFirstUpper || type == watch::aboveSecondUpper;
+            EXPECT_EQ(AfterReading({isUpper ? 95.0F : -20000.0F}), unknown == asked ? "0" : "1") << type << unknown;
+        }
+        AfterReading({std::numeric_limits<float>::quiet_NaN()});
+        Configure({10, 20, 80, 90});
+        EXPECT_EQ(owner.Take().back(), '0') << "what is no number is a value, outside of no limit";
+    }
+}
+
+TEST_F(ASource, TakesAFlagThatIsABooleanOrANumberAndNoOther)
+{
+    const auto source = Watch(watch::macroRunning);
+    for (const auto& [flag, expected] : {std::pair{"True", "1"}, {"fALSE", "0"}, {"-1", "1"}, {"0", "0"},
+                                         {"2.5e-3", "1"}, {"", ""}, {"yes", ""}, {"nan", ""}, {"inf", ""}, {"0x1", ""},
+                                         {" 1", ""}, {"1 ", ""}, {"0,5", ""}, {"1e999", ""}}) {
+        Configure({}, "Ridge", 2, flag);
+        EXPECT_EQ(owner.Take(), std::string("[Warm up (Running)|Warm up (Idle)]") + expected) << flag;
+    }
+}
+
+TEST_F(ASource, EndsAHandlerSilentlyWhereAChannelIsOutOfReachAndReadsTheSignBehindSixteen)
+{
+    for (const auto& [channel, heard] : {std::pair{0, ""}, {16, "01m"}, {17, "01m"}, {31, "01m"}, {32, ""}, {255, ""}}) {
+        const auto source = Watch(watch::statusOn, static_cast<std::uint8_t>(channel));
+        Configure({});
+        EXPECT_EQ(owner.Take(), "") << "it has no captions for channel " << channel;
+        EXPECT_EQ(AfterReading({0}, 1) + AfterReading({0}, -32768), heard) << channel;
+    }
+}
+
+TEST_F(ASource, FollowsANewBindingAndHearsNothingInDesignMode)
+{
+    const auto source = Watch(watch::statusOn);
+    source->Set(&clsBlnDataSource::Site, "Harbour");
+    source->Set(&clsBlnDataSource::Unit, 7);
+    EXPECT_EQ(AfterReading({0}, 1), "");
+    Read(0, 1, "Harbour", 7);
+    EXPECT_EQ(owner.Take(), "1m");
+    live.DesignMode = true;
+    const auto silent = Watch(watch::statusOn);
+    EXPECT_EQ(AfterReading({0}, 1), "");
+}
+
+TEST_F(ASource, NamesEveryUnitSomehowAndFindsWhatIsBeforeAFailure)
+{
+    server.Add("Port").Add(16);
+    server.Add("Broken").fails = true;
+    EXPECT_EQ(UnitCaption(&server, "Ridge", 2), "Exciter");
+    EXPECT_EQ(UnitCaption(&server, "Port", 16), "Voice Interface");
+    EXPECT_EQ(UnitCaption(&server, "port", 16), "Unit 16") << "no such site";
+    EXPECT_EQ(UnitCaption(nullptr, "Port", 16), "Unit 16");
+    EXPECT_TRUE(SiteExists(&server, "Port"));
+    EXPECT_TRUE(UnitExists(&server, "Ridge", 2));
+    EXPECT_FALSE(UnitExists(&server, "Ridge", 3));
+    EXPECT_FALSE(UnitExists(nullptr, "Ridge", 2));
+    EXPECT_THROW(SiteExists(&server, "port"), Failure);
+    EXPECT_THROW(UnitExists(&server, "Nowhere", 2), Failure);
+}
+
+} // namespace
