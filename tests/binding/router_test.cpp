@@ -47,6 +47,7 @@ TEST_F(TheRouter, BearsThatAListenerEndsItselfOrOthersDuringAnEvent)
     watchers[2]->onUpdate = [&] { watchers[2].reset(); };
     watchers[3]->onUpdate = [&] { watchers[0].reset(); };
     Raise();
+    EXPECT_EQ(watchers[2], nullptr) << "nobody is passed over when the next one leaves";
     EXPECT_EQ(watchers[4]->updates, 1);
     Raise();
     EXPECT_EQ(watchers[3]->updates, 2);

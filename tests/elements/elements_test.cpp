@@ -28,6 +28,7 @@ TEST(Elements, OfEachKindAreNewWithItsLookAndShowWhatComes)
         const auto tell = [&](const std::string& what, const std::function<void()>& act) {
             told += "  " + what + " > " + fresh.After(act) + '\n';
         };
+        tell("shown", [&] { fresh.element->MyControl()->VisitProperties(fresh.journal); });
         tell("written", [&] { fresh.element->WriteControlProps(); });
         if (fresh.element->StatusSource() != nullptr) {
             for (const auto& [value, mute] : {std::pair{false, false},
@@ -98,12 +99,16 @@ TYPED_TEST(AnActionButton, TakesItsCaptionAndItsLockFromItsAction)
     EXPECT_EQ(this->e.Caption(), "Clear All Alarms");
 }
 
-TEST(AnElement, ThatIsGreyShowsAColourThatIsSetAtOnce)
+TEST(AnElement, ThatIsGreyShowsAColourThatIsSetAtOnceAndMovesToExactlyThisPlace)
 {
     OnCanvas<clsLEDRound> lamp;
     lamp.AfterValue(true, true);
     lamp.e.Set(&clsLEDRound::ColorActive, Color{7});
     EXPECT_EQ(lamp.Shown<RoundLed>().ActiveColor(), Color{7});
+    lamp.canvas.SetScrollMaxima(9000, 9000);
+    lamp.canvas.ScrollTo(300, 0);
+    lamp.e.MoveControl(10, 20, 30, 40);
+    EXPECT_EQ(lamp.element->MyControl()->Bounds(), (Area{20, 10, 40, 30})) << "it doesn't look at the scroll position";
     OnCanvas<clsMeterText> meter;
     meter.server.Disconnected.Raise("", 0);
     meter.e.Set(&clsMeterText::BGColor, Color{7});

@@ -7,7 +7,6 @@
 #include "elements/led_round.h"
 #include "elements/mtr_angle.h"
 #include "elements/picture.h"
-#include "elements/status_label.h"
 #include "pages/font_dialog.h"
 #include "tests/editor/editor_fixture.h"
 
@@ -27,30 +26,6 @@ struct AnOddPage : EditorFixture {
     }
 };
 
-TEST_F(AnOddPage, OfALabelShowsNoBorderWhereItIsSunkenAlone)
-{
-    auto& label = Insert<clsLabel>();
-    On<ListBox>("frmCVLabel", "cboBorder").Choose(2);
-    label.Set(&clsLabel::Border, false); // as no page leaves it
-    Insert<clsLabel>();
-    Select(label);
-    EXPECT_EQ(On<ListBox>("frmCVLabel", "cboBorder").ListIndex(), 0);
-}
-
-TEST_F(AnOddPage, OfALabelWritesItsGroundAgainWithTransparencyAndBorder)
-{
-    auto& label = Insert<clsStatusLabel>();
-    const auto& shown = static_cast<const TextLabel&>(*label.MyControl());
-    On<Swatch>("frmCVStatusLabel", "clrBG").Push();
-    EXPECT_EQ(dialog.Color, Color{}) << "no dialog came, for the label is transparent";
-    label.MyControl()->Set(&TextLabel::BackColor, Color{5});
-    On<CheckBox>("frmCVStatusLabel", "chkTransparent").Toggle();
-    EXPECT_EQ(shown.BackColor(), Color{0xFFFFFF});
-    label.MyControl()->Set(&TextLabel::BackColor, Color{5});
-    On<ListBox>("frmCVStatusLabel", "cboBorder").Choose(1);
-    EXPECT_EQ(shown.BackColor(), Color{0xFFFFFF});
-}
-
 TEST_F(AnOddPage, KeepsASwatchWhoseBoxDoesNotChangeBetweenTwoElements)
 {
     const auto& first = Insert<clsLEDRound>();
@@ -61,7 +36,8 @@ TEST_F(AnOddPage, KeepsASwatchWhoseBoxDoesNotChangeBetweenTwoElements)
     const auto& off = On<Swatch>("frmCVLEDRound", "clrOff");
     EXPECT_EQ(off.Caption(), "N/A");
     EXPECT_EQ(off.BackColor(), Color{0x778899}) << "a colour under the words";
-    EXPECT_FALSE(On<Button>("frmCVLEDRound", "cmdBrwsOffColor").Enabled());
+    On<Swatch>("frmCVLEDRound", "clrOff").Push();
+    EXPECT_EQ(dialog.Color, Color{}) << "no dialog came, for its button is off";
 
     const auto& masked = Insert<clsPicture>();
     EXPECT_EQ(ColorOf("frmCVPicture", "clrMask"), 0xC0C0C0) << "the box was off before, so only the colour was read";
@@ -163,33 +139,18 @@ TEST_F(AnOddPage, TellsOfAPictureFileThatIsNotThereAndForgetsIt)
     EXPECT_EQ(boxes.shown.size(), 2U) << "the command's field reports it as any failure";
 }
 
-TEST_F(AnOddPage, OfTheViewTriesEachTextAsAPictureAndFollowsTheDocument)
+TEST_F(AnOddPage, OfTheViewFollowsTheDocumentAndThatOfAnElementItsHandles)
 {
-    auto& field = On<TextBox>("frmCVViewProps", "txtBGImage");
-    field.Type("on.bm");
-    EXPECT_EQ(field.Text() + main.View().BGPicture(), "on.bm") << "without a word";
-    field.Type("on.bmp");
-    EXPECT_EQ(main.View().BGPicture(), "on.bmp");
-    dialog.WillOpen("other.bmp");
-    On<Button>("frmCVViewProps", "cmdBrwsBGFile").Push();
-    EXPECT_EQ(field.Text() + main.View().BGPicture(), "other.bmp") << "there is no such file";
     boxes.answers = {BoxAnswer::No};
+    On<TextBox>("frmCVViewProps", "txtViewName").Type("Old");
     main.NewView();
-    auto& name = On<TextBox>("frmCVViewProps", "txtViewName");
-    EXPECT_EQ(name.Text(), "My View");
-    name.Type("New");
+    EXPECT_EQ(On<TextBox>("frmCVViewProps", "txtViewName").Text(), "My View");
+    On<TextBox>("frmCVViewProps", "txtViewName").Type("New");
     EXPECT_EQ(main.View().ViewName(), "New");
-}
 
-TEST_F(AnOddPage, OfAnyElementMovesItsHandlesAndTheStatus)
-{
     const auto& led = Insert<clsLEDRound>();
     On<NumberField>("frmCVGeneral", "txtX").Type("100");
-    EXPECT_TRUE(On<NumberField>("frmCVGeneral", "txtWidth").Type("6.67"));
     EXPECT_EQ(main.ssScroll().Handles()[7].left, 1500 + led.ObjWidth());
-    EXPECT_EQ(main.abViewEdit().Tool("lblSelectedControl").Caption(),
-              "X: 100     Y: 10     Width: 6.67     Height: 17");
-    EXPECT_EQ(On<TextBox>("frmCVGeneral", "txtType").Text(), "LED (Round)");
 }
 
 // A number that a page shows and nobody touches keeps its bits: the sign of a zero, and those of a number that is none.
