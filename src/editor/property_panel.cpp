@@ -5,23 +5,9 @@
 #include "document/kinds.h"
 #include "elements/scale_meter.h"
 #include "forms/bars.h"
-#include "pages/data/frm_cv_bln_data_source.h"
-#include "pages/data/frm_cv_cmd_data_source.h"
-#include "pages/data/frm_cv_mtr_data_source.h"
-#include "pages/frm_cv_bln_pic.h"
-#include "pages/frm_cv_cmd_led.h"
-#include "pages/frm_cv_command.h"
-#include "pages/frm_cv_general.h"
-#include "pages/frm_cv_label.h"
-#include "pages/frm_cv_led_rect.h"
-#include "pages/frm_cv_led_round.h"
-#include "pages/frm_cv_meter_angle.h"
-#include "pages/frm_cv_meter_linear.h"
-#include "pages/frm_cv_meter_props.h"
-#include "pages/frm_cv_meter_text.h"
-#include "pages/frm_cv_picture.h"
-#include "pages/frm_cv_status_label.h"
-#include "pages/frm_cv_view_props.h"
+#include "pages/data/data_pages.h"
+#include "pages/page.h"
+#include "pages/pages.h"
 
 #include <algorithm>
 
@@ -31,17 +17,11 @@ namespace {
 
 constexpr std::string_view panelBand = "bndObjProps";
 
-template <class P> std::unique_ptr<Page> Make(PageHost& host)
-{
-    return std::make_unique<P>(host);
-}
-
 constexpr std::unique_ptr<Page> (*pageMakers[])(PageHost&) = {
-    Make<frmCVViewProps>,  Make<frmCVMeterText>,     Make<frmCVMeterAngle>,    Make<frmCVMeterLinear>,
-    Make<frmCVLEDRound>,   Make<frmCVLEDRect>,       Make<frmCVStatusLabel>,   Make<frmCVBlnPic>,
-    Make<frmCVCmdLED>,     Make<frmCVCommand>,       Make<frmCVPicture>,       Make<frmCVLabel>,
-    Make<frmCVMeterProps>, Make<frmCVBlnDataSource>, Make<frmCVMtrDataSource>, Make<frmCVCmdDataSource>,
-    Make<frmCVGeneral>,
+    NewViewPropsPage,     NewMeterTextPage,   NewMeterAnglePage, NewMeterLinearPage,   NewLEDRoundPage,
+    NewLEDRectPage,       NewStatusLabelPage, NewBlnPicPage,     NewCmdLEDPage,        NewCommandPage,
+    NewPicturePage,       NewLabelPage,       NewMeterPropsPage, NewBlnDataSourcePage, NewMtrDataSourcePage,
+    NewCmdDataSourcePage, NewGeneralPage,
 };
 
 constexpr std::string_view viewPage = "frmCVViewProps";
@@ -134,7 +114,7 @@ void PropertyPanel::ShowPropertyPages(std::string_view name, Element* element, b
             Bind(PageNameOf(name), *element, name);
             Bind(DataPagesOf(*element).pages, *element, name);
         }
-    } else if (auto* page = dynamic_cast<frmCVViewProps*>(FindPage(viewPage)); page != nullptr && reload) {
+    } else if (Page* page = FindPage(viewPage); page != nullptr && reload) {
         m_host.PageLive().Tracer->Calls("SetProps", page->Name(), {});
         page->SetProps();
     }

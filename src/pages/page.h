@@ -27,6 +27,8 @@ public:
     // can't show a setting.
     virtual void SetOwner(Element& /*element*/, std::string_view /*array*/) {}
     virtual void ClearOwner() {}
+    // Of the view's page: takes the view from the host and shows it.
+    virtual void SetProps() {}
 
 protected:
     Page(std::string name, PageHost& host);

@@ -1,6 +1,7 @@
-#include "pages/data/frm_cv_bln_data_source.h"
-
+#include "binding/bln_data_source.h"
 #include "elements/element.h"
+#include "pages/data/data_pages.h"
+#include "pages/data/source_page.h"
 
 namespace quor {
 
@@ -47,7 +48,31 @@ constexpr TypeRow typeRows[] = {
 constexpr std::int32_t limitTypes[] = {watch::outsideLimits, watch::belowSecondLower, watch::belowFirstLower,
                                        watch::aboveFirstUpper, watch::aboveSecondUpper};
 
-} // namespace
+class frmCVBlnDataSource final : public SourcePageOn<clsBlnDataSource> {
+public:
+    explicit frmCVBlnDataSource(PageHost& host);
+
+    void SetOwner(Element& element, std::string_view array) override;
+
+private:
+    void FillLists();
+    void ShowSource();
+    void cboDataType_Click();
+    void cboSite_Click();
+    void cboUnit_Click();
+    void cboChan_Click();
+    void cboLimitType_Click();
+    void cboMacro_Click();
+    void optTmpStatus_Click();
+
+    ListBox& cboDataType;
+    ListBox& cboSite;
+    ListBox& cboUnit;
+    ListBox& cboChan;
+    ListBox& cboLimitType;
+    ListBox& cboMacro;
+    OptionArray& optTmpStatus;
+};
 
 frmCVBlnDataSource::frmCVBlnDataSource(PageHost& host)
     : SourcePageOn("frmCVBlnDataSource", host),
@@ -265,6 +290,13 @@ void frmCVBlnDataSource::cboMacro_Click()
 void frmCVBlnDataSource::optTmpStatus_Click()
 {
     Source().ForceValue(optTmpStatus.Index() == 0, false);
+}
+
+} // namespace
+
+std::unique_ptr<Page> NewBlnDataSourcePage(PageHost& host)
+{
+    return std::make_unique<frmCVBlnDataSource>(host);
 }
 
 } // namespace quor

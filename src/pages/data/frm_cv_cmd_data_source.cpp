@@ -1,6 +1,7 @@
-#include "pages/data/frm_cv_cmd_data_source.h"
-
+#include "binding/cmd_data_source.h"
 #include "elements/element.h"
+#include "pages/data/data_pages.h"
+#include "pages/data/source_page.h"
 
 namespace quor {
 
@@ -30,7 +31,29 @@ constexpr ActionRow actionRows[] = {
     {"txtCustView"},
 };
 
-} // namespace
+class frmCVCmdDataSource final : public SourcePageOn<clsCmdDataSource> {
+public:
+    explicit frmCVCmdDataSource(PageHost& host);
+
+    void SetOwner(Element& element, std::string_view array) override;
+
+private:
+    TextBox& MakeViewPath();
+    void FillLists();
+    void ShowSource();
+    void cboAction_Click();
+    void cboSite_Click();
+    void cboUnit_Click();
+    void cboChannel_Click();
+
+    ListBox& cboAction;
+    ListBox& cboSite;
+    ListBox& cboUnit;
+    ListBox& cboChannel;
+    Label& lblChannel;
+    TextBox& txtCustView;
+    CheckBox& chkCtrlClick;
+};
 
 frmCVCmdDataSource::frmCVCmdDataSource(PageHost& host)
     : SourcePageOn("frmCVCmdDataSource", host),
@@ -193,6 +216,13 @@ void frmCVCmdDataSource::cboChannel_Click()
     default:
         return;
     }
+}
+
+} // namespace
+
+std::unique_ptr<Page> NewCmdDataSourcePage(PageHost& host)
+{
+    return std::make_unique<frmCVCmdDataSource>(host);
 }
 
 } // namespace quor

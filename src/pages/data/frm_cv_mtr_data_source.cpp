@@ -1,12 +1,28 @@
-#include "pages/data/frm_cv_mtr_data_source.h"
-
+#include "binding/mtr_data_source.h"
 #include "elements/element.h"
+#include "pages/data/data_pages.h"
+#include "pages/data/source_page.h"
 
 namespace quor {
 
 namespace {
 constexpr std::uint8_t noUnit = 255;
-}
+
+class frmCVMtrDataSource final : public SourcePageOn<clsMtrDataSource> {
+public:
+    explicit frmCVMtrDataSource(PageHost& host);
+
+    void SetOwner(Element& element, std::string_view array) override;
+
+private:
+    void cboSite_Click();
+    void cboUnit_Click();
+
+    ListBox& cboSite;
+    ListBox& cboUnit;
+    ListBox& cboChan;
+    ListBox& cboDec;
+};
 
 frmCVMtrDataSource::frmCVMtrDataSource(PageHost& host)
     : SourcePageOn("frmCVMtrDataSource", host),
@@ -59,6 +75,13 @@ void frmCVMtrDataSource::cboUnit_Click()
     const std::uint8_t unit = index < 0 ? noUnit : Narrow<std::uint8_t>(index);
     FillMeterChannels(unit);
     Write(&clsMtrDataSource::Unit, unit);
+}
+
+} // namespace
+
+std::unique_ptr<Page> NewMtrDataSourcePage(PageHost& host)
+{
+    return std::make_unique<frmCVMtrDataSource>(host);
 }
 
 } // namespace quor

@@ -23,11 +23,17 @@ std::string Numbered(std::int32_t number, const std::string& text, const std::st
     return std::to_string(number) + (shown.empty() ? "" : " - " + shown);
 }
 
+template <std::int32_t Column> std::string Field(const ServerTable<std::string>& table, std::int32_t channel)
+{
+    return table.At(channel, Column);
+}
+
 // Both texts of a status channel, or the one that there is.
-std::string StatusTexts(const std::string& first, const std::string& second)
+std::string StatusTexts(const ServerTable<std::string>& table, std::int32_t channel)
 {
     constexpr std::string_view between = " / ";
-    std::string text = first + std::string(between) + second;
+    std::string text = table.At(channel, channel_fields::statusText1) + std::string(between) +
+                       table.At(channel, channel_fields::statusText2);
     if (text.starts_with(between)) {
         text.erase(0, between.size());
     }
@@ -179,45 +185,33 @@ TeskUnit* SourcePage::ChosenUnit(std::int32_t number) const
     return &server->Sites().Item(SiteText()).Units().Item(static_cast<std::uint8_t>(number));
 }
 
-void SourcePage::FillCommandChannels()
-{
-    m_channel->Clear();
-    const TeskUnit* unit = ChosenUnit(m_unit->ListIndex());
-    const ServerTable<std::string> table =
-        unit == nullptr ? ServerTable<std::string>() : unit->UnitConfig().ChannelTable();
-    for (std::int32_t channel = 1; channel <= channels; ++channel) {
-        const auto field = [&](std::int32_t column) {
-            return unit == nullptr ? std::string() : table.At(channel, column);
-        };
-        m_channel->AddItem(Numbered(channel, field(channel_fields::commandA), "A"));
-        m_channel->AddItem(Numbered(channel, field(channel_fields::commandB), "B"));
-    }
-}
-
-void SourcePage::FillStatusChannels()
-{
-    m_channel->Clear();
-    const TeskUnit* unit = ChosenUnit(m_unit->ListIndex());
-    const ServerTable<std::string> table =
-        unit == nullptr ? ServerTable<std::string>() : unit->UnitConfig().ChannelTable();
-    for (std::int32_t channel = 1; channel <= channels; ++channel) {
-        const std::string text = unit == nullptr ? std::string()
-                                                 : StatusTexts(table.At(channel, channel_fields::statusText1),
-                                                               table.At(channel, channel_fields::statusText2));
-        m_channel->AddItem(Numbered(channel, text, ""));
-    }
-}
-
-void SourcePage::FillMeterChannels(std::uint8_t number)
+void SourcePage::FillChannels(std::int32_t number, std::initializer_list<ChannelRow> rows)
 {
     m_channel->Clear();
     const TeskUnit* unit = ChosenUnit(number);
     const ServerTable<std::string> table =
         unit == nullptr ? ServerTable<std::string>() : unit->UnitConfig().ChannelTable();
     for (std::int32_t channel = 1; channel <= channels; ++channel) {
-        m_channel->AddItem(
-            Numbered(channel, unit == nullptr ? std::string() : table.At(channel, channel_fields::meterLabel), ""));
+        for (const ChannelRow& row : rows) {
+            m_channel->AddItem(
+                Numbered(channel, unit == nullptr ? std::string() : row.name(table, channel), row.otherwise));
+        }
     }
+}
+
+void SourcePage::FillCommandChannels()
+{
+    FillChannels(m_unit->ListIndex(), {{Field<channel_fields::commandA>, "A"}, {Field<channel_fields::commandB>, "B"}});
+}
+
+void SourcePage::FillStatusChannels()
+{
+    FillChannels(m_unit->ListIndex(), {{StatusTexts, ""}});
+}
+
+void SourcePage::FillMeterChannels(std::uint8_t number)
+{
+    FillChannels(number, {{Field<channel_fields::meterLabel>, ""}});
 }
 
 void SourcePage::FillMacros()

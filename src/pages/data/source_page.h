@@ -2,6 +2,7 @@
 // What the pages of the data sources have in common: a chain of lists, filled from the server and its catalogue as the
 // choice narrows. Setting a list's index runs its handler, and the pages rely on it.
 
+#include "binding/server_arrays.h"
 #include "pages/page.h"
 
 #include <string>
@@ -39,7 +40,7 @@ protected:
     void FillUnits(bool withAll);
     void FillCommandChannels();
     void FillStatusChannels();
-    // For a unit as it is numbered in the source.
+    // For a unit as it is numbered in the source, 255 for none.
     void FillMeterChannels(std::uint8_t unit);
     void FillMacros();
 
@@ -56,6 +57,14 @@ private:
         std::string name;
         std::vector<Control*> controls;
     };
+
+    // How a channel is called in the list, and how if it has no name.
+    struct ChannelRow {
+        std::string (*name)(const ServerTable<std::string>& table, std::int32_t channel);
+        const char* otherwise;
+    };
+
+    void FillChannels(std::int32_t number, std::initializer_list<ChannelRow> rows);
 
     // The chosen unit, or null if the server has none of that number at the chosen site.
     TeskUnit* ChosenUnit(std::int32_t number) const;
@@ -96,7 +105,7 @@ protected:
     bool IsBound() const noexcept override { return m_source != nullptr; }
     S& Source() const noexcept { return *m_source; }
 
-    template <class P> void Write(P S::*property, typename P::Value value)
+    template <class C, class P> void Write(P C::*property, typename P::Value value)
     {
         m_source->Set(property, std::move(value));
     }
@@ -128,8 +137,8 @@ protected:
     }
 
     // Shows a stored number of the source as a row.
-    template <class P>
-    static void ShowSetting(ListBox& list, P S::* /*property*/, std::int32_t row, std::int32_t stored)
+    template <class C, class P>
+    static void ShowSetting(ListBox& list, P C::* /*property*/, std::int32_t row, std::int32_t stored)
     {
         ShowStored(list, std::string(S::name) + "." + std::string(P::name), row, stored);
     }

@@ -1,10 +1,15 @@
-#pragma once
-// The rows that the pages of the label and the status label have in common.
+// The pages of the label and the status label.
 
+#include "elements/label.h"
+#include "elements/status_label.h"
 #include "pages/page.h"
+#include "pages/pages.h"
 
 namespace quor {
 
+namespace {
+
+// The rows that both have in common.
 template <class E> class LabelPage : public ElementPage<E> {
 protected:
     using ElementPage<E>::ElementPage;
@@ -53,5 +58,45 @@ private:
     // The widget's ground follows its border and its transparency.
     void WriteGroundAgain() { this->Write(&E::BGColor, this->Value(&E::BGColor)); }
 };
+
+class frmCVLabel final : public LabelPage<clsLabel> {
+public:
+    explicit frmCVLabel(PageHost& host) : LabelPage("frmCVLabel", host)
+    {
+        GroundRows();
+        FrameLine("fraText", "Text");
+        TextRow("txtCaption", "Caption:", &clsLabel::Caption);
+        TextRows();
+        ArrangeLines();
+    }
+};
+
+class frmCVStatusLabel final : public LabelPage<clsStatusLabel> {
+public:
+    explicit frmCVStatusLabel(PageHost& host) : LabelPage("frmCVStatusLabel", host)
+    {
+        using E = clsStatusLabel;
+        GroundRows();
+        FrameLine("fraCaptions", "Captions");
+        TextRow("txtCaptionOn", "On Caption:", &E::CaptionOn);
+        TextRow("txtCaptionOff", "Off Caption:", &E::CaptionOff);
+        AutoCaptionBox("chkAutoCaption", "Automatically set On/Off Captions", &E::AutoCaption,
+                       {"txtCaptionOn", "txtCaptionOff"});
+        TextRows();
+        ArrangeLines();
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Page> NewLabelPage(PageHost& host)
+{
+    return std::make_unique<frmCVLabel>(host);
+}
+
+std::unique_ptr<Page> NewStatusLabelPage(PageHost& host)
+{
+    return std::make_unique<frmCVStatusLabel>(host);
+}
 
 } // namespace quor
