@@ -1,10 +1,7 @@
 #include "binding/bln_data_source.h"
 
-#include "base/guard.h"
 #include "base/text.h"
-#include "binding/live.h"
 #include "binding/masks.h"
-#include "binding/server.h"
 #include "binding/sites.h"
 
 #include <charconv>
@@ -33,8 +30,7 @@ bool ToBoolean(const std::string& text)
 
 } // namespace
 
-clsBlnDataSource::clsBlnDataSource(Live& live, BlnOwner& owner)
-    : m_live(live), m_owner(owner), m_hears(!live.DesignMode && live.Server != nullptr)
+clsBlnDataSource::clsBlnDataSource(Live& live, BlnOwner& owner) : DataSourceOn(live), m_owner(owner)
 {
     Follow();
 }
@@ -63,7 +59,7 @@ void clsBlnDataSource::Follow()
         m_live.Routes.FollowSite(*m_live.Server, *this, Site());
         break;
     default:
-        m_live.Routes.FollowUnit(*m_live.Server, *this, Site(), Unit());
+        DataSource::Follow();
         break;
     }
 }
@@ -92,8 +88,7 @@ std::weak_ptr<char> clsBlnDataSource::Life()
 void clsBlnDataSource::RaiseUpdate(bool value, bool mute)
 {
     m_live.Tracer->UpdateBlnData(*this, value, mute);
-    // Last: the owner may end the source.
-    IgnoreFailure([&] { m_owner.m_BlnDataSource_UpdateBlnData(value, mute); });
+    m_owner.m_BlnDataSource_UpdateBlnData(value, mute); // last: the owner may end the source
 }
 
 bool clsBlnDataSource::RaiseLabel(const std::string& on, const std::string& off)
@@ -120,13 +115,13 @@ void clsBlnDataSource::Refresh()
     case watch::primaryPath:
     case watch::backupPath:
         if (RaiseLabel("Connected", "Not Connected")) {
-            const bool isOnBackup = m_live.TheServer().Sites().Item(Site()).UsingBackup();
+            const bool isOnBackup = TheSite().UsingBackup();
             SetValue(isOnBackup == (BlnDataType() == watch::backupPath), false);
         }
         break;
     case watch::siteAlarms:
         if (RaiseLabel("Alarms Present on " + Site(), "No Alarms Present on " + Site())) {
-            SetValue(m_live.TheServer().Sites().Item(Site()).SiteAlarms(), false);
+            SetValue(TheSite().SiteAlarms(), false);
         }
         break;
     case watch::anyAlarms:
@@ -136,7 +131,7 @@ void clsBlnDataSource::Refresh()
         break;
     default:
         if (!HasData) {
-            m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig();
+            TheUnit().RequestConfig();
         }
         break;
     }
@@ -263,7 +258,7 @@ void clsBlnDataSource::m_Srv_Values(const ValuesEvent& event)
     case watch::statusMute:
         return SetValue(bit(event.StatMutes), false);
     case watch::capturesPending:
-        return SetValue(m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).EventsPending(), false);
+        return SetValue(TheUnit().EventsPending(), false);
     case watch::statusOn:
         return SetValue(bit(event.Status), bit(event.StatMutes));
     default:
@@ -271,9 +266,9 @@ void clsBlnDataSource::m_Srv_Values(const ValuesEvent& event)
     }
 }
 
-void clsBlnDataSource::m_Srv_Connected(const std::string& netName, std::int32_t status)
+void clsBlnDataSource::m_Srv_Connected(const std::string& /*netName*/, std::int32_t status)
 {
-    if (!IsConnectedStatus(status) || netName != Site()) {
+    if (!IsConnectedStatus(status)) {
         return;
     }
     const std::int32_t type = BlnDataType();
@@ -281,7 +276,7 @@ void clsBlnDataSource::m_Srv_Connected(const std::string& netName, std::int32_t 
         return;
     }
     // Never false: a site that moves to its other path leaves the first one's element on until it disconnects.
-    if (m_live.TheServer().Sites().Item(Site()).UsingBackup() == (type == watch::backupPath)) {
+    if (TheSite().UsingBackup() == (type == watch::backupPath)) {
         SetValue(true, false);
     }
 }
@@ -290,7 +285,7 @@ void clsBlnDataSource::m_Srv_Disconnected(const std::string& netName, std::int32
 {
     if (BlnDataType() == watch::anyAlarms) {
         SetValue(OtherSiteAlarms(netName), false);
-    } else if (netName == Site()) {
+    } else {
         SetValue(false, true);
     }
 }
@@ -301,14 +296,14 @@ bool clsBlnDataSource::OtherSiteAlarms(const std::string& netName) const
         [&](const TeskSite& site) { return site.NetName() != netName && site.SiteAlarms(); });
 }
 
-void clsBlnDataSource::m_Srv_AlarmFlagChange(const std::string& netName, std::uint8_t unit, bool alarmsPending,
+void clsBlnDataSource::m_Srv_AlarmFlagChange(const std::string& /*netName*/, std::uint8_t /*unit*/, bool alarmsPending,
                                              bool siteAlarms)
 {
     switch (BlnDataType()) {
     case watch::siteAlarms:
-        return netName == Site() ? SetValue(siteAlarms, false) : void();
+        return SetValue(siteAlarms, false);
     case watch::unitAlarms:
-        return IsOf(netName, unit) ? SetValue(alarmsPending, false) : void();
+        return SetValue(alarmsPending, false);
     case watch::anyAlarms:
         return SetValue(m_live.TheServer().AppAlarms(), false);
     default:
@@ -318,34 +313,33 @@ void clsBlnDataSource::m_Srv_AlarmFlagChange(const std::string& netName, std::ui
 
 void clsBlnDataSource::m_Srv_FlagReport(const FlagReportEvent& event)
 {
-    const bool isHere = IsOf(event.NetName, event.UnitNum);
     switch (BlnDataType()) {
     case watch::siteAlarms:
-        return event.NetName == Site() ? SetValue(event.SiteAlarms, false) : void();
+        return SetValue(event.SiteAlarms, false);
     case watch::unitAlarms:
-        return isHere ? SetValue(event.UnitAlarms, false) : void();
+        return SetValue(event.UnitAlarms, false);
     case watch::anyAlarms:
         return SetValue(event.AppAlarms, false);
     case watch::localMode:
-        return isHere ? SetValue(event.LocalMode, false) : void();
+        return SetValue(event.LocalMode, false);
     case watch::capturesPending:
-        return isHere ? SetValue(event.EventsPending, false) : void();
+        return SetValue(event.EventsPending, false);
     default:
         return;
     }
 }
 
-void clsBlnDataSource::m_Srv_MacroStatus(const std::string& netName, std::uint8_t unit, std::uint8_t macro,
+void clsBlnDataSource::m_Srv_MacroStatus(const std::string& /*netName*/, std::uint8_t /*unit*/, std::uint8_t macro,
                                          bool running)
 {
-    if (BlnDataType() == watch::macroRunning && IsOf(netName, unit) && macro == Channel()) {
+    if (BlnDataType() == watch::macroRunning && macro == Channel()) {
         SetValue(running, false);
     }
 }
 
-void clsBlnDataSource::m_Srv_RemoteLocalChange(const std::string& netName, std::uint8_t unit, bool localOnly)
+void clsBlnDataSource::m_Srv_RemoteLocalChange(const std::string& /*netName*/, std::uint8_t unit, bool localOnly)
 {
-    if (BlnDataType() == watch::localMode && IsOf(netName, unit)) {
+    if (BlnDataType() == watch::localMode && unit == Unit()) {
         SetValue(localOnly, false);
     }
 }

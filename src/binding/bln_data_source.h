@@ -1,19 +1,14 @@
 #pragma once
 // What a status element watches, and the one Boolean that comes of it.
 
-#include "base/property.h"
-#include "binding/router.h"
-#include "format/field_walk.h"
+#include "binding/data_source.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 namespace quor {
-
-struct Live;
 
 // A value or limit that isn't known.
 inline constexpr float NoData = -10000.0F;
@@ -52,25 +47,14 @@ protected:
     ~BlnOwner() = default;
 };
 
-class clsBlnDataSource final : public ServerListener {
+class clsBlnDataSource final : public DataSourceOn<clsBlnDataSource> {
 public:
     static constexpr std::string_view name = "BlnDataSource";
 
     Property<"BlnDataType", std::int32_t> BlnDataType;
-    Property<"Unit", std::uint8_t> Unit;
-    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for macroRunning
-    Property<"Site", std::string> Site;
 
-    // Hears the server unless the program is in design mode now.
     clsBlnDataSource(Live& live, BlnOwner& owner);
     ~clsBlnDataSource();
-
-    // Stores, no more: nothing is worked out anew.
-    template <class P> void Set(P clsBlnDataSource::*property, typename P::Value value)
-    {
-        PropertyAccess::Value(this->*property) = std::move(value);
-        Follow();
-    }
 
     bool blnValue() const noexcept { return m_value; }
 
@@ -80,7 +64,6 @@ public:
     // Brings the source up to date; what it can't find out shows as false and muted.
     void RefreshData();
 
-    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
     void Follow();
 
@@ -95,7 +78,6 @@ private:
     void m_Srv_MacroStatus(const std::string& netName, std::uint8_t unit, std::uint8_t macro, bool running) override;
     void m_Srv_Values(const ValuesEvent& event) override;
 
-    bool IsOf(const std::string& netName, std::uint8_t unit) const { return netName == Site() && unit == Unit(); }
     bool WatchesLimits() const noexcept
     {
         return BlnDataType() >= watch::belowSecondLower && BlnDataType() <= watch::outsideLimits;
@@ -112,7 +94,6 @@ private:
     bool IsOutside() const noexcept;
     bool OtherSiteAlarms(const std::string& netName) const;
 
-    Live& m_live;
     BlnOwner& m_owner;
     float LimitFirstLower = NoData;
     float LimitSecondLower = NoData;
@@ -121,7 +102,6 @@ private:
     float LastValue = NoData;
     bool m_value = false;
     bool HasData = false;
-    bool m_hears;                 // the server
     std::shared_ptr<char> m_life; // made when it is first asked for
 };
 

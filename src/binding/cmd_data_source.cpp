@@ -1,9 +1,6 @@
 #include "binding/cmd_data_source.h"
 
-#include "base/guard.h"
 #include "base/narrow.h"
-#include "binding/live.h"
-#include "binding/server.h"
 #include "binding/sites.h"
 #include "format/view_title.h"
 #include "platform/boxes.h"
@@ -40,7 +37,7 @@ bool NeedsRemote(std::int32_t action)
 
 } // namespace
 
-clsCmdDataSource::clsCmdDataSource(Live& live) : m_live(live), m_hears(!live.DesignMode && live.Server != nullptr)
+clsCmdDataSource::clsCmdDataSource(Live& live, CmdOwner& owner) : DataSourceOn(live), m_owner(owner)
 {
     Follow();
     if (!live.DesignMode && live.Login != nullptr) {
@@ -57,25 +54,18 @@ void clsCmdDataSource::Fields(FieldWalk& record)
     record(Unit, Channel, CtrlClick, Site);
 }
 
-void clsCmdDataSource::Follow()
-{
-    if (m_hears) {
-        m_live.Routes.FollowUnit(*m_live.Server, *this, Site(), Unit());
-    }
-}
-
 void clsCmdDataSource::UpdateEnable()
 {
     m_lockReason = WorkOutLock();
     m_enabled = CmdDataType() != actions::none && m_lockReason.empty();
     m_live.Tracer->ToggleEnable(*this, m_enabled);
-    ToggleEnable.Raise(m_enabled);
+    IgnoreFailure([&] { m_owner.m_ClickAction_ToggleEnable(m_enabled); });
 }
 
 void clsCmdDataSource::RaiseLabel(const std::string& caption)
 {
     m_live.Tracer->LabelData(*this, caption);
-    LabelData.Raise(caption);
+    IgnoreFailure([&] { m_owner.m_ClickAction_LabelData(caption); });
 }
 
 std::string clsCmdDataSource::WorkOutLock() const
@@ -168,28 +158,24 @@ void clsCmdDataSource::m_Srv_ConfigData(const ConfigDataEvent& event)
 
 // The unit is not compared in these three: any unit of the site moves every action of the site.
 
-void clsCmdDataSource::m_Srv_Connected(const std::string& netName, std::int32_t status)
+void clsCmdDataSource::m_Srv_Connected(const std::string& /*netName*/, std::int32_t status)
 {
-    if (netName == Site() && IsConnectedStatus(status)) {
+    if (IsConnectedStatus(status)) {
         SiteConnected = true;
         UpdateEnable();
     }
 }
 
-void clsCmdDataSource::m_Srv_Disconnected(const std::string& netName, std::int32_t /*reason*/)
+void clsCmdDataSource::m_Srv_Disconnected(const std::string& /*netName*/, std::int32_t /*reason*/)
 {
-    if (netName == Site()) {
-        SiteConnected = false;
-        UpdateEnable();
-    }
+    SiteConnected = false;
+    UpdateEnable();
 }
 
-void clsCmdDataSource::m_Srv_RemoteLocalChange(const std::string& netName, std::uint8_t /*unit*/, bool localOnly)
+void clsCmdDataSource::m_Srv_RemoteLocalChange(const std::string& /*netName*/, std::uint8_t /*unit*/, bool localOnly)
 {
-    if (netName == Site()) {
-        SiteRemote = !localOnly;
-        UpdateEnable();
-    }
+    SiteRemote = !localOnly;
+    UpdateEnable();
 }
 
 void clsCmdDataSource::m_Login_LogOff()
@@ -241,7 +227,7 @@ void clsCmdDataSource::Run()
     case actions::stopAllMacros:
         return TheUnit().StopAllMacros();
     case actions::clearSiteAlarms:
-        return m_live.TheServer().Sites().Item(Site()).Units().ForEach(clear);
+        return TheSite().Units().ForEach(clear);
     case actions::clearUnitAlarms:
         return TheUnit().ClearAlarms();
     case actions::clearAllAlarms:
@@ -254,11 +240,6 @@ void clsCmdDataSource::Run()
     default:
         return;
     }
-}
-
-TeskUnit& clsCmdDataSource::TheUnit() const
-{
-    return m_live.TheServer().Sites().Item(Site()).Units().Item(Unit());
 }
 
 } // namespace quor

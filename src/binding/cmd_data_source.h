@@ -2,18 +2,13 @@
 // The click action of an element: what a click does and where, whether it may run now, and why not.
 
 #include "base/event.h"
-#include "base/property.h"
-#include "binding/router.h"
-#include "format/field_walk.h"
+#include "binding/data_source.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace quor {
-
-class TeskUnit;
-struct Live;
 
 // What CmdDataType says.
 namespace actions {
@@ -29,30 +24,28 @@ inline constexpr std::int32_t clearAllAlarms = 8;
 inline constexpr std::int32_t openView = 9;
 } // namespace actions
 
-class clsCmdDataSource final : public ServerListener {
+// The element that owns a source and hears it.
+class CmdOwner {
+public:
+    // The caption of the action, and whether it may run, each time that it was worked out.
+    virtual void m_ClickAction_LabelData(const std::string& /*strCaption*/) {}
+    virtual void m_ClickAction_ToggleEnable(bool /*blnEnable*/) {}
+
+protected:
+    ~CmdOwner() = default;
+};
+
+class clsCmdDataSource final : public DataSourceOn<clsCmdDataSource> {
 public:
     static constexpr std::string_view name = "ClickAction";
     static constexpr std::uint8_t ctrlKey = 2; // in the modifiers of a click
 
     Property<"CmdDataType", std::int32_t> CmdDataType;
-    Property<"Unit", std::uint8_t> Unit;
-    Property<"Channel", std::uint8_t> Channel; // from 1; a macro for the macro actions
-    Property<"CtrlClick", bool> CtrlClick;     // needs the Ctrl key
-    Property<"Site", std::string> Site;        // for openView the path of the view
+    Property<"CtrlClick", bool> CtrlClick; // needs the Ctrl key
 
-    Event<const std::string&> LabelData; // the caption of the action
-    Event<bool> ToggleEnable;            // whether it may run was worked out
-
-    // Hears the server and the login unless the program is in design mode now.
-    explicit clsCmdDataSource(Live& live);
+    // Hears the login, too.
+    clsCmdDataSource(Live& live, CmdOwner& owner);
     ~clsCmdDataSource();
-
-    // Stores, no more.
-    template <class P> void Set(P clsCmdDataSource::*property, typename P::Value value)
-    {
-        PropertyAccess::Value(this->*property) = std::move(value);
-        Follow();
-    }
 
     // Takes up the state of the server. A failure ends it silently.
     void RefreshData();
@@ -63,9 +56,7 @@ public:
     bool CmdEnabled() const noexcept { return m_enabled; }
     const std::string& LockReason() const noexcept { return m_lockReason; }
 
-    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
-    void Follow();
 
 private:
     void m_Srv_ConfigData(const ConfigDataEvent& event) override;
@@ -81,15 +72,13 @@ private:
     std::string WorkOutLock() const;
     void Refresh();
     void Run();
-    TeskUnit& TheUnit() const;
 
-    Live& m_live;
+    CmdOwner& m_owner;
     bool LabelsKnown = false;
     bool m_enabled = false;
     bool SiteConnected = false;
     bool SiteRemote = false;
     bool UserAllowed = false;
-    bool m_hears;
     std::string m_lockReason;
     Subscription m_logOff;
     Subscription m_logOn;

@@ -1,11 +1,8 @@
 #include "binding/mtr_data_source.h"
 
-#include "base/guard.h"
 #include "base/narrow.h"
 #include "binding/bln_data_source.h"
-#include "binding/live.h"
 #include "binding/masks.h"
-#include "binding/server.h"
 
 namespace quor {
 
@@ -19,8 +16,7 @@ constexpr double mostUnsigned = 4095;
 
 } // namespace
 
-clsMtrDataSource::clsMtrDataSource(Live& live, MtrOwner& owner)
-    : m_live(live), m_owner(owner), m_hears(!live.DesignMode && live.Server != nullptr)
+clsMtrDataSource::clsMtrDataSource(Live& live, MtrOwner& owner) : DataSourceOn(live), m_owner(owner)
 {
     Follow();
 }
@@ -32,21 +28,15 @@ void clsMtrDataSource::Fields(FieldWalk& record)
     record(Unit, Channel, DecimalPlaces, Site);
 }
 
-void clsMtrDataSource::Follow()
-{
-    if (m_hears) {
-        m_live.Routes.FollowUnit(*m_live.Server, *this, Site(), Unit());
-    }
-}
-
 void clsMtrDataSource::RaiseUpdate(float value, bool mute)
 {
     m_live.Tracer->UpdateMtrData(*this, value, mute);
-    IgnoreFailure([&] { m_owner.m_MtrDataSource_UpdateMtrData(value, mute); });
+    m_owner.m_MtrDataSource_UpdateMtrData(value, mute);
 }
 
-void clsMtrDataSource::RaiseDecimalPlaces()
+void clsMtrDataSource::Set(decltype(DecimalPlaces) clsMtrDataSource::*property, std::int16_t value)
 {
+    PropertyAccess::Value(this->*property) = value;
     m_live.Tracer->DecPlacesChanged(*this, DecimalPlaces());
     IgnoreFailure([&] { m_owner.m_MtrDataSource_DecPlacesChanged(DecimalPlaces()); });
 }
@@ -62,7 +52,7 @@ void clsMtrDataSource::RefreshData()
     if (HasData) {
         return;
     }
-    if (!IgnoreFailure([&] { m_live.TheServer().Sites().Item(Site()).Units().Item(Unit()).RequestConfig(); })) {
+    if (!IgnoreFailure([&] { TheUnit().RequestConfig(); })) {
         RaiseUpdate(NoData, true);
     }
 }
@@ -84,12 +74,10 @@ void clsMtrDataSource::m_Srv_Values(const ValuesEvent& event)
     RaiseUpdate(event.MeterValues.FromLower(Channel() - 1), mute);
 }
 
-void clsMtrDataSource::m_Srv_Disconnected(const std::string& netName, std::int32_t /*reason*/)
+void clsMtrDataSource::m_Srv_Disconnected(const std::string& /*netName*/, std::int32_t /*reason*/)
 {
-    if (netName == Site()) {
-        HasData = false;
-        RaiseUpdate(NoData, true);
-    }
+    HasData = false;
+    RaiseUpdate(NoData, true);
 }
 
 } // namespace quor

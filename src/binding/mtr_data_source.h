@@ -1,17 +1,13 @@
 #pragma once
 // What a meter reads, and the number, scale and limits that come of it.
 
-#include "base/property.h"
-#include "binding/router.h"
-#include "format/field_walk.h"
+#include "binding/data_source.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace quor {
-
-struct Live;
 
 // The configuration of a meter channel.
 struct MeterLabel {
@@ -36,34 +32,21 @@ protected:
     ~MtrOwner() = default;
 };
 
-class clsMtrDataSource final : public ServerListener {
+class clsMtrDataSource final : public DataSourceOn<clsMtrDataSource> {
 public:
     static constexpr std::string_view name = "MtrDataSource";
 
-    Property<"Unit", std::uint8_t> Unit;       // 255 while none is chosen
-    Property<"Channel", std::uint8_t> Channel; // from 1
     Property<"DecimalPlaces", std::int16_t> DecimalPlaces;
-    Property<"Site", std::string> Site;
 
-    // Hears the server unless the program is in design mode now.
     clsMtrDataSource(Live& live, MtrOwner& owner);
     ~clsMtrDataSource();
 
-    // Stores; the owner hears of DecimalPlaces at each set.
-    template <class P> void Set(P clsMtrDataSource::*property, typename P::Value value)
-    {
-        PropertyAccess::Value(this->*property) = std::move(value);
-        if constexpr (P::name == "DecimalPlaces") {
-            RaiseDecimalPlaces();
-        } else {
-            Follow();
-        }
-    }
+    using DataSourceOn::Set;
+    // The owner hears of it at each set.
+    void Set(decltype(DecimalPlaces) clsMtrDataSource::*property, std::int16_t value);
 
     void RefreshData();
-    // A walk that fills the source doesn't bind it: Follow does, to the events of what it watches by then.
     void Fields(FieldWalk& record);
-    void Follow();
 
 private:
     void m_Srv_ConfigData(const ConfigDataEvent& event) override;
@@ -71,13 +54,10 @@ private:
     void m_Srv_Disconnected(const std::string& netName, std::int32_t reason) override;
 
     void RaiseUpdate(float value, bool mute);
-    void RaiseDecimalPlaces();
     void RaiseLabel(const MeterLabel& label);
 
-    Live& m_live;
     MtrOwner& m_owner;
     bool HasData = false; // values have come, and the link hasn't been lost since
-    bool m_hears;
 };
 
 } // namespace quor

@@ -27,8 +27,8 @@ struct ConfigDataEvent;
 struct FlagReportEvent;
 struct ValuesEvent;
 
-// The handlers of a source; a failure ends the handler silently. Values and configurations come to those alone that
-// follow their unit; every other event is compared with the source's own binding.
+// The handlers of a source, called for what it follows: of a unit those that concern one unit, its site or all of it.
+// A failure ends the handler silently.
 class ServerListener : private RingNode {
 public:
     virtual void m_Srv_ConfigData(const ConfigDataEvent& /*event*/) {}

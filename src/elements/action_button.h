@@ -2,7 +2,6 @@
 // What the elements have in common that are pressed: their click action gives them a caption, and whether they are
 // enabled.
 
-#include "base/guard.h"
 #include "elements/element.h"
 
 #include <string>
@@ -14,16 +13,10 @@ public:
     Setting<"AutoCaption", bool> AutoCaption; // the caption comes from the click action
     Setting<"Caption", std::string, &W::Caption> Caption;
 
-    ActionButton(Widget& widget, Live& live)
-        : ElementOn<W, Base>(widget, live), m_labelData(this->ClickAction.LabelData.Subscribe(Quietly(
-                                                [this](const std::string& text) { m_ClickAction_LabelData(text); }))),
-          m_toggleEnable(this->ClickAction.ToggleEnable.Subscribe(
-              Quietly([this](bool enable) { m_ClickAction_ToggleEnable(enable); })))
-    {
-    }
+    using ElementOn<W, Base>::ElementOn;
 
 private:
-    void m_ClickAction_LabelData(const std::string& strCaption)
+    void m_ClickAction_LabelData(const std::string& strCaption) override
     {
         if (AutoCaption()) {
             this->Set(&ActionButton::Caption, strCaption);
@@ -31,10 +24,7 @@ private:
     }
 
     // The widget's state alone; it isn't stored.
-    void m_ClickAction_ToggleEnable(bool blnEnable) { this->Shown().Set(&Widget::Enabled, blnEnable); }
-
-    Subscription m_labelData;
-    Subscription m_toggleEnable;
+    void m_ClickAction_ToggleEnable(bool blnEnable) override { this->Shown().Set(&Widget::Enabled, blnEnable); }
 };
 
 } // namespace quor

@@ -25,7 +25,7 @@ struct Live;
 struct ScrolledX;
 struct ScrolledY;
 
-class Element {
+class Element : protected CmdOwner {
 public:
     // In twips, view coordinates.
     Setting<"ObjWidth", float, &Widget::Width> ObjWidth;
@@ -36,7 +36,7 @@ public:
     clsCmdDataSource ClickAction;
 
     // Of the widget: member of an array on a canvas. The element unloads it at its own end.
-    Element(Widget& widget, Live& live) : ClickAction(live), m_widget(&widget) {}
+    Element(Widget& widget, Live& live) : ClickAction(live, *this), m_widget(&widget) {}
     virtual ~Element();
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;

@@ -13,7 +13,7 @@
 namespace {
 
 // What came of the events: "1m" is true and muted, "[on|off]" captions.
-struct Owner final : BlnOwner, MtrOwner {
+struct Owner final : BlnOwner, MtrOwner, CmdOwner {
     std::string heard;
 
     std::string Take() { return std::exchange(heard, {}); }
@@ -30,7 +30,12 @@ struct Owner final : BlnOwner, MtrOwner {
     {
         heard += ' ' + Decimal(value) + (mute ? "m" : "");
     }
-    void m_MtrDataSource_DecPlacesChanged(std::int16_t places) override { heard += std::to_string(places) + " places "; }
+    void m_MtrDataSource_DecPlacesChanged(std::int16_t places) override
+    {
+        heard += std::to_string(places) + " places ";
+    }
+    void m_ClickAction_LabelData(const std::string& caption) override { heard += "[" + caption + "]"; }
+    void m_ClickAction_ToggleEnable(bool enabled) override { heard += enabled ? "enabled" : "locked"; }
     void m_MtrDataSource_LabelData(const MeterLabel& label) override
     {
         heard += "[" + label.strLabel;
@@ -50,6 +55,7 @@ struct ASource : testing::Test {
     Owner owner;
     FakeUnit& unit = server.Add("Ridge").Add(2);
     std::string told;
+    const clsCmdDataSource* lock = nullptr; // whose reason is told
 
     ASource()
     {
@@ -106,6 +112,7 @@ struct ASource : testing::Test {
     {
         act();
         std::string heard = owner.Take();
+        heard += heard.ends_with("locked") && lock != nullptr ? ". " + lock->LockReason() : "";
         for (const std::string& call : std::exchange(server.calls, {})) {
             heard += " (" + call + ")";
         }
@@ -131,8 +138,9 @@ struct ASource : testing::Test {
             Tell("no alarm of the site" + of, [&] { server.AlarmFlagChange.Raise(site, number, true, false); });
             for (int flag = 0; flag < 6; ++flag) {
                 const auto is = [&](int which) { return which == flag; };
-                Tell("flag " + std::to_string(flag) + of,
-                     [&] { server.FlagReport.Raise({site, number, is(0), is(1), is(2), is(3), is(4), is(5)}); });
+                Tell("flag " + std::to_string(flag) + of, [&] {
+                    server.FlagReport.Raise({site, number, is(0), is(1), is(2), is(3), is(4), is(5)});
+                });
             }
             Tell("macro 1 runs" + of, [&] { server.MacroStatus.Raise(site, number, 1, true); });
             Tell("macro 2 ends" + of, [&] { server.MacroStatus.Raise(site, number, 2, false); });
@@ -177,14 +185,10 @@ TEST_F(ASource, OfAnActionIsLockedForTheFirstConditionThatFailsAndRunsOtherwise)
     live.ViewFiles = &files;
     for (std::int32_t type = 0; type < 10; ++type) {
         told += "action " + std::to_string(type) + '\n';
-        clsCmdDataSource source(live);
+        clsCmdDataSource source(live, owner);
+        lock = &source;
         source.Set(&clsCmdDataSource::CmdDataType, type);
         Place(source);
-        const Subscription label =
-            source.LabelData.Subscribe([&](const std::string& text) { owner.heard += "[" + text + "]"; });
-        const Subscription lock = source.ToggleEnable.Subscribe([&](bool enabled) {
-            owner.heard += enabled ? "enabled" : "locked. " + source.LockReason();
-        });
         const auto run = [&](std::uint8_t shift = 0) {
             Tell("run", [&] { source.RunCommand(shift); });
             while (!boxes.shown.empty()) {
@@ -246,9 +250,20 @@ TEST_F(ASource, ComparesAValueWithEachLimitByItselfAndPassesNoneThatIsNotKnown)
 TEST_F(ASource, TakesAFlagThatIsABooleanOrANumberAndNoOther)
 {
     const auto source = Watch(watch::macroRunning);
-    for (const auto& [flag, expected] : {std::pair{"True", "1"}, {"fALSE", "0"}, {"-1", "1"}, {"0", "0"},
-                                         {"2.5e-3", "1"}, {"", ""}, {"yes", ""}, {"nan", ""}, {"inf", ""}, {"0x1", ""},
-                                         {" 1", ""}, {"1 ", ""}, {"0,5", ""}, {"1e999", ""}}) {
+    for (const auto& [flag, expected] : {std::pair{"True", "1"},
+                                         {"fALSE", "0"},
+                                         {"-1", "1"},
+                                         {"0", "0"},
+                                         {"2.5e-3", "1"},
+                                         {"", ""},
+                                         {"yes", ""},
+                                         {"nan", ""},
+                                         {"inf", ""},
+                                         {"0x1", ""},
+                                         {" 1", ""},
+                                         {"1 ", ""},
+                                         {"0,5", ""},
+                                         {"1e999", ""}}) {
         Configure({}, "Ridge", 2, flag);
         EXPECT_EQ(owner.Take(), std::string("[Warm up (Running)|Warm up (Idle)]") + expected) << flag;
     }
@@ -256,7 +271,8 @@ TEST_F(ASource, TakesAFlagThatIsABooleanOrANumberAndNoOther)
 
 TEST_F(ASource, EndsAHandlerSilentlyWhereAChannelIsOutOfReachAndReadsTheSignBehindSixteen)
 {
-    for (const auto& [channel, heard] : {std::pair{0, ""}, {16, "01m"}, {17, "01m"}, {31, "01m"}, {32, ""}, {255, ""}}) {
+    for (const auto& [channel, heard] :
+         {std::pair{0, ""}, {16, "01m"}, {17, "01m"}, {31, "01m"}, {32, ""}, {255, ""}}) {
         const auto source = Watch(watch::statusOn, static_cast<std::uint8_t>(channel));
         Configure({});
         EXPECT_EQ(owner.Take(), "") << "it has no captions for channel " << channel;
