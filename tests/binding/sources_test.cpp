@@ -122,30 +122,35 @@ struct ASource : testing::Test {
     // Each event, of the source's place and of others.
     void TellAll()
     {
-        for (const auto& [site, number] : {std::pair{"Ridge", std::uint8_t{2}}, {"Ridge", 3}, {"Harbour", 2}}) {
-            const std::string of = std::string(" of ") + site + ' ' + std::to_string(number);
-            Tell("configuration" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
-            for (const float value : {5.0F, 10.0F, 15.0F, 20.0F, 50.0F, 80.0F, 85.0F, 90.0F, 95.0F, NoData}) {
-                Tell(Decimal(value) + of, [&] { Read(value, value == 50 ? 0 : 1, site, number); });
-            }
-            Tell("configuration again" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
-            for (const std::int32_t status : {4, 5, 6}) {
-                Tell("connected " + std::to_string(status) + of, [&] { server.Connected.Raise(site, status); });
-            }
-            Tell("remote" + of, [&] { server.RemoteLocalChange.Raise(site, number, false); });
-            Tell("local" + of, [&] { server.RemoteLocalChange.Raise(site, number, true); });
-            Tell("no alarm of the unit" + of, [&] { server.AlarmFlagChange.Raise(site, number, false, true); });
-            Tell("no alarm of the site" + of, [&] { server.AlarmFlagChange.Raise(site, number, true, false); });
-            for (int flag = 0; flag < 6; ++flag) {
-                const auto is = [&](int which) { return which == flag; };
-                Tell("flag " + std::to_string(flag) + of, [&] {
-                    server.FlagReport.Raise({site, number, is(0), is(1), is(2), is(3), is(4), is(5)});
-                });
-            }
-            Tell("macro 1 runs" + of, [&] { server.MacroStatus.Raise(site, number, 1, true); });
-            Tell("macro 2 ends" + of, [&] { server.MacroStatus.Raise(site, number, 2, false); });
-            Tell("disconnected" + of, [&] { server.Disconnected.Raise(site, 0); });
+        TellAll("Ridge", 2);
+        TellAll("Ridge", 3);
+        TellAll("Harbour", 2);
+    }
+
+    void TellAll(const std::string& site, std::uint8_t number)
+    {
+        const std::string of = std::string(" of ") + site + ' ' + std::to_string(number);
+        Tell("configuration" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
+        for (const float value : {5.0F, 10.0F, 15.0F, 20.0F, 50.0F, 80.0F, 85.0F, 90.0F, 95.0F, NoData}) {
+            Tell(Decimal(value) + of, [&] { Read(value, value == 50 ? 0 : 1, site, number); });
         }
+        Tell("configuration again" + of, [&] { Configure({10, 20, 80, 90}, site, number); });
+        for (const std::int32_t status : {4, 5, 6}) {
+            Tell("connected " + std::to_string(status) + of, [&] { server.Connected.Raise(site, status); });
+        }
+        Tell("remote" + of, [&] { server.RemoteLocalChange.Raise(site, number, false); });
+        Tell("local" + of, [&] { server.RemoteLocalChange.Raise(site, number, true); });
+        Tell("no alarm of the unit" + of, [&] { server.AlarmFlagChange.Raise(site, number, false, true); });
+        Tell("no alarm of the site" + of, [&] { server.AlarmFlagChange.Raise(site, number, true, false); });
+        for (int flag = 0; flag < 6; ++flag) {
+            const auto is = [&](int which) { return which == flag; };
+            Tell("flag " + std::to_string(flag) + of, [&] {
+                server.FlagReport.Raise({site, number, is(0), is(1), is(2), is(3), is(4), is(5)});
+            });
+        }
+        Tell("macro 1 runs" + of, [&] { server.MacroStatus.Raise(site, number, 1, true); });
+        Tell("macro 2 ends" + of, [&] { server.MacroStatus.Raise(site, number, 2, false); });
+        Tell("disconnected" + of, [&] { server.Disconnected.Raise(site, 0); });
     }
 };
 

@@ -30,25 +30,19 @@ TEST(Elements, OfEachKindAreNewWithItsLookAndShowWhatComes)
         };
         tell("shown", [&] { fresh.element->MyControl()->VisitProperties(fresh.journal); });
         tell("written", [&] { fresh.element->WriteControlProps(); });
-        if (fresh.element->StatusSource() != nullptr) {
-            for (const auto& [value, mute] : {std::pair{false, false},
-                                              {false, false},
-                                              {true, true},
-                                              {true, true},
-                                              {true, false},
-                                              {false, true},
-                                              {false, false}}) {
-                tell(std::string(value ? "true" : "false") + (mute ? ", muted" : ""),
-                     [&] { fresh.element->StatusSource()->ForceValue(value, mute); });
+        if (clsBlnDataSource* source = fresh.element->StatusSource()) {
+            for (const char* each : {"false", "false", "true, muted", "true, muted", "true", "false, muted", "false"}) {
+                const std::string_view value = each;
+                tell(each, [&] { source->ForceValue(value.starts_with("true"), value.ends_with("muted")); });
             }
         }
-        if (fresh.element->MeterSource() != nullptr) {
-            fresh.element->MeterSource()->Set(&clsMtrDataSource::Unit, 2);
-            fresh.element->MeterSource()->Set(&clsMtrDataSource::Channel, 1);
-            for (const auto& [value, mutes] : {std::pair{7.0F, 0}, {NoData, 0}, {8.0F, 1}, {-9999.9F, 0}, {9.0F, 1}}) {
+        if (clsMtrDataSource* source = fresh.element->MeterSource()) {
+            source->Set(&clsMtrDataSource::Unit, 2);
+            source->Set(&clsMtrDataSource::Channel, 1);
+            for (const float value : {7.0F, NoData, 8.0F, -9999.9F, 9.0F}) {
+                const std::int16_t mutes = value > 7 ? 1 : 0;
                 tell(std::to_string(value) + (mutes == 1 ? ", muted" : ""), [&] {
-                    fresh.server.Values.Raise(
-                        {"", 2, 0, 0, 0, 0, static_cast<std::int16_t>(mutes), ServerArray<float>({value})});
+                    fresh.server.Values.Raise({"", 2, 0, 0, 0, 0, mutes, ServerArray<float>({value})});
                 });
             }
             tell("disconnected", [&] { fresh.server.Disconnected.Raise("", 0); });
