@@ -98,15 +98,6 @@ struct ASource : testing::Test {
     {
         server.Values.Raise({site, number, 0, bits, bits, bits, bits, ServerArray<float>({value}, 1)});
     }
-    std::string AfterReading(std::initializer_list<float> values, std::int16_t bits = 0)
-    {
-        owner.Take();
-        for (const float value : values) {
-            Read(value, bits);
-        }
-        return owner.Take();
-    }
-
     // One line for each event that the owner hears of, or on which the server is asked for something.
     template <class Act> void Tell(const std::string& what, Act act)
     {
@@ -229,60 +220,42 @@ TEST_F(ASource, OfAnActionIsLockedForTheFirstConditionThatFailsAndRunsOtherwise)
     ExpectAsKept(told, "actions.txt");
 }
 
-TEST_F(ASource, ComparesAValueWithEachLimitByItselfAndPassesNoneThatIsNotKnown)
+TEST_F(ASource, PassesNoLimitThatIsNotKnownAndTakesNoFlagAndNoChannelThatIsNone)
 {
-    const char* const outside[] = {"111000000", "100000000", "000000001", "000000111", "111000111"};
-    for (std::int32_t type = watch::belowSecondLower; type <= watch::outsideLimits; ++type) {
-        const auto source = Watch(type);
-        EXPECT_EQ(AfterReading({-20000, 95}), "00") << "nothing is known yet of type " << type;
-        Configure({20, 10, 90, 80}); // crossed
-        EXPECT_EQ(AfterReading({9.5F, 10, 15, 20, 50, 80, 85, 90, 95}), outside[type - 1]) << "type " << type;
-        for (std::size_t unknown = 0; unknown < 4; ++unknown) {
-            std::vector<float> limits = {10, 20, 80, 90};
-            limits[unknown] = NoData;
-            Configure(limits);
-            // For all four it is the second lower alone that must be known.
-            const std::size_t asked = type == watch::outsideLimits ? 0 : static_cast<std::size_t>(type - 1);
-            const bool isUpper = type == watch::aboveFirstUpper || type == watch::aboveSecondUpper;
-            EXPECT_EQ(AfterReading({isUpper ? 95.0F : -20000.0F}), unknown == asked ? "0" : "1") << type << unknown;
+    const auto read = [&](std::initializer_list<float> values, std::int16_t bits = 0) {
+        for (const float value : values) {
+            Tell(Decimal(value) + ", bits " + std::to_string(bits), [&] { Read(value, bits); });
         }
-        AfterReading({std::numeric_limits<float>::quiet_NaN()});
-        Configure({10, 20, 80, 90});
-        EXPECT_EQ(owner.Take().back(), '0') << "what is no number is a value, outside of no limit";
+    };
+    for (std::int32_t type = watch::belowSecondLower; type <= watch::outsideLimits; ++type) {
+        told += "status " + std::to_string(type) + '\n';
+        const auto source = Watch(type);
+        read({-20000, 95}); // nothing is known yet
+        for (const std::vector<float>& limits : std::vector<std::vector<float>>{{20, 10, 90, 80},
+                                                                                {NoData, 20, 80, 90},
+                                                                                {10, NoData, 80, 90},
+                                                                                {10, 20, NoData, 90},
+                                                                                {10, 20, 80, NoData}}) {
+            Tell("configuration", [&] { Configure(limits); });
+            read({-20000, 9.5F, 10, 15, 20, 50, 80, 85, 90, 95});
+        }
+        Read(std::numeric_limits<float>::quiet_NaN());
+        Tell("what is no number is a value", [&] { Configure({10, 20, 80, 90}); });
     }
-}
-
-TEST_F(ASource, TakesAFlagThatIsABooleanOrANumberAndNoOther)
-{
-    const auto source = Watch(watch::macroRunning);
-    for (const auto& [flag, expected] : {std::pair{"True", "1"},
-                                         {"fALSE", "0"},
-                                         {"-1", "1"},
-                                         {"0", "0"},
-                                         {"2.5e-3", "1"},
-                                         {"", ""},
-                                         {"yes", ""},
-                                         {"nan", ""},
-                                         {"inf", ""},
-                                         {"0x1", ""},
-                                         {" 1", ""},
-                                         {"1 ", ""},
-                                         {"0,5", ""},
-                                         {"1e999", ""}}) {
-        Configure({}, "Ridge", 2, flag);
-        EXPECT_EQ(owner.Take(), std::string("[Warm up (Running)|Warm up (Idle)]") + expected) << flag;
+    auto macro = Watch(watch::macroRunning);
+    for (const char* flag :
+         {"True", "fALSE", "-1", "0", "2.5e-3", "", "yes", "nan", "inf", "0x1", " 1", "1 ", "0,5", "1e999"}) {
+        Tell(std::string("flag ") + flag, [&] { Configure({}, "Ridge", 2, flag); });
     }
-}
-
-TEST_F(ASource, EndsAHandlerSilentlyWhereAChannelIsOutOfReachAndReadsTheSignBehindSixteen)
-{
-    for (const auto& [channel, heard] :
-         {std::pair{0, ""}, {16, "01m"}, {17, "01m"}, {31, "01m"}, {32, ""}, {255, ""}}) {
+    macro.reset();
+    for (const int channel : {0, 16, 17, 31, 32, 255}) {
+        told += "channel " + std::to_string(channel) + '\n';
         const auto source = Watch(watch::statusOn, static_cast<std::uint8_t>(channel));
-        Configure({});
-        EXPECT_EQ(owner.Take(), "") << "it has no captions for channel " << channel;
-        EXPECT_EQ(AfterReading({0}, 1) + AfterReading({0}, -32768), heard) << channel;
+        Tell("configuration", [&] { Configure({}); });
+        read({0}, 1);
+        read({0}, -32768);
     }
+    ExpectAsKept(told, "limits_and_flags.txt");
 }
 
 TEST_F(ASource, FollowsANewBindingAndHearsNothingInDesignMode)
@@ -290,12 +263,14 @@ TEST_F(ASource, FollowsANewBindingAndHearsNothingInDesignMode)
     const auto source = Watch(watch::statusOn);
     source->Set(&clsBlnDataSource::Site, "Harbour");
     source->Set(&clsBlnDataSource::Unit, 7);
-    EXPECT_EQ(AfterReading({0}, 1), "");
+    Read(0, 1);
+    EXPECT_EQ(owner.Take(), "");
     Read(0, 1, "Harbour", 7);
     EXPECT_EQ(owner.Take(), "1m");
     live.DesignMode = true;
     const auto silent = Watch(watch::statusOn);
-    EXPECT_EQ(AfterReading({0}, 1), "");
+    Read(0, 1);
+    EXPECT_EQ(owner.Take(), "");
 }
 
 TEST_F(ASource, NamesEveryUnitSomehowAndFindsWhatIsBeforeAFailure)

@@ -165,43 +165,42 @@ TEST_F(ADataPage, ReportsEachFailureUnderItsNumberAndInItsWords)
         std::int32_t ref;
         const char* words;
         const char* page;
-        std::vector<std::pair<const char*, std::int32_t>> picks; // the last one fails
-        std::string_view fault = "";                             // of the server; else no unit is chosen any more
-        int failsAt = 1;                                         // behind the looks whether site and unit are there
+        std::size_t first; // row of the page's first list
+        std::string_view list;
+        std::string_view fault = ""; // of the server; else no unit is chosen any more
+        int failsAt = 1;             // behind the looks whether site and unit are there
     } rows[] = {
-        {14069, "Unable to set status data.", statusPage, {{"cboDataType", 5}}, "reload"},
-        {14070,
-         "Unable to set channel.",
-         statusPage,
-         {{"cboDataType", 7}, {"cboSite", 0}, {"cboUnit", 0}, {"cboSite", 0}, {"cboChan", 0}}},
-        {14071, "Unable to set limit type.", statusPage, {{"cboDataType", 4}, {"cboSite", 0}, {"cboLimitType", 0}}},
-        {14072,
-         "Unable to set macro.",
-         statusPage,
-         {{"cboDataType", 3}, {"cboSite", 0}, {"cboUnit", 0}, {"cboSite", 0}, {"cboMacro", 0}}},
-        {14073, "Unable to set site.", statusPage, {{"cboDataType", 7}, {"cboSite", 0}}, "sites", 2},
-        {14074, "Unable to set unit.", statusPage, {{"cboDataType", 7}, {"cboSite", 0}, {"cboUnit", 3}}, "tables"},
-        {14094, general, actionPage, {{"cboAction", 2}}, "reload"},
-        {14095,
-         general,
-         actionPage,
-         {{"cboAction", 1}, {"cboSite", 0}, {"cboUnit", 0}, {"cboSite", 0}, {"cboChannel", 0}}},
-        {14096, general, actionPage, {{"cboAction", 2}, {"cboSite", 0}}, "sites", 2},
-        {14097, general, actionPage, {{"cboAction", 1}, {"cboSite", 0}, {"cboUnit", 3}}, "tables"},
-        {14208, general, meterPage, {{"cboSite", 0}}, "sites", 4},
-        {14209, general, meterPage, {{"cboSite", 0}, {"cboUnit", 3}}, "tables"},
+        {14069, "Unable to set status data.", statusPage, 5, "cboDataType", "reload"},
+        {14070, "Unable to set channel.", statusPage, 7, "cboChan"},
+        {14071, "Unable to set limit type.", statusPage, 4, "cboLimitType"},
+        {14072, "Unable to set macro.", statusPage, 3, "cboMacro"},
+        {14073, "Unable to set site.", statusPage, 7, "cboSite", "sites", 2},
+        {14074, "Unable to set unit.", statusPage, 7, "cboUnit", "tables"},
+        {14094, general, actionPage, 2, "cboAction", "reload"},
+        {14095, general, actionPage, 1, "cboChannel"},
+        {14096, general, actionPage, 2, "cboSite", "sites", 2},
+        {14097, general, actionPage, 1, "cboUnit", "tables"},
+        {14208, general, meterPage, 0, "cboSite", "sites", 4},
+        {14209, general, meterPage, 0, "cboUnit", "tables"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.ref);
         Insert(row.page);
-        for (const auto& [list, index] : row.picks) {
-            if (&list == &row.picks.back().first) {
-                reporter.Announce(RefNumber{row.ref, {}});
-                server.planned.Plan(row.fault, row.failsAt);
-                antenna->channelTable.resize(row.fault == "tables" ? 0 : 16 * 13);
-            }
-            On<ListBox>(row.page, list).Choose(index);
+        std::size_t at = 0;
+        const auto pick = [&] {
+            ListBox& list = *ShownLists(row.page)[at];
+            Pick(list, list.Name() == "cboUnit" ? 3 : at == 0 ? row.first : 0);
+        };
+        for (; ShownLists(row.page)[at]->Name() != row.list; ++at) {
+            pick();
         }
+        if (row.fault.empty()) {
+            On<ListBox>(row.page, "cboSite").Choose(0);
+        }
+        reporter.Announce(RefNumber{row.ref, {}});
+        server.planned.Plan(row.fault, row.failsAt);
+        antenna->channelTable.resize(row.fault == "tables" ? 0 : 16 * 13);
+        pick();
         EXPECT_EQ(reporter.reports.back().message, row.words);
         antenna->channelTable.resize(16 * 13);
     }
