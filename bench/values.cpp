@@ -55,9 +55,9 @@ public:
         AddWidgetArrays(m_canvas);
         m_view.emplace(m_desk.PortsOfView(m_reporter), m_canvas);
         AddMixed(*m_view, instruments);
-        std::int16_t channel = 0;
+        std::uint8_t channel = 0;
         for (Element* element : m_view->CtlOrder()) {
-            channel = static_cast<std::int16_t>(channel % 16 + 1);
+            channel = static_cast<std::uint8_t>(channel % 16 + 1);
             if (clsMtrDataSource* meter = element->MeterSource()) {
                 meter->Set(&clsMtrDataSource::Site, site);
                 meter->Set(&clsMtrDataSource::Channel, channel);
