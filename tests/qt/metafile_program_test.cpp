@@ -9,8 +9,10 @@
 
 #include <QProcess>
 
+#include <ctime>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -103,6 +105,27 @@ TEST(MetafileProgram, CanOpenConnectAndStartNothingOnceItDraws)
             _exit(opens ? 1 : starts ? 2 : 0);
         },
         testing::ExitedWithCode(0), "");
+}
+
+TEST(MetafileProgram, HasLittleMemoryAndTime)
+{
+#ifndef __SANITIZE_ADDRESS__ // which takes terabytes of addresses
+    EXPECT_EXIT(
+        {
+            ConfineThisProcess(60s);
+            _exit(mmap(nullptr, std::size_t{2} << 30, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) == MAP_FAILED ? 0
+                                                                                                                   : 1);
+        },
+        testing::ExitedWithCode(0), "");
+#endif
+    EXPECT_EXIT(
+        {
+            ConfineThisProcess(60s);
+            while (std::clock() >= 0) {
+            }
+        },
+        testing::KilledBySignal(SIGKILL), "")
+        << "by its processor time, long before the clock";
 }
 
 TEST(MetafileProgram, EndsByItselfAndWithWhoStartedIt)
