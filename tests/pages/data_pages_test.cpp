@@ -27,7 +27,7 @@ struct ADataPage : EditorFixture {
         unit.Field(2, 9) = "Open";
         unit.Field(3, 9) = "Hot";
         unit.Field(2, 11) = "Raise";
-        unit.macros[4] = "Warm up";
+        unit.macros[2] = "Warm up";
         server.catalog.emplace_back("Listed");
         live.Server = &server;
         live.Catalog = &server;
