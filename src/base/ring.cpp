@@ -9,6 +9,12 @@ void RingNode::Leave() noexcept
     }
 }
 
+RingWalk::RingWalk(Ring& ring) noexcept
+    : m_ring(&ring), m_upcoming(ring.m_head.m_next), m_limit(ring.m_linked), m_outer(ring.m_walks)
+{
+    ring.m_walks = this;
+}
+
 Ring::~Ring()
 {
     while (!IsEmpty()) {

@@ -74,12 +74,6 @@ private:
     std::uint64_t m_linked = 0;
 };
 
-inline RingWalk::RingWalk(Ring& ring) noexcept
-    : m_ring(&ring), m_upcoming(ring.m_head.m_next), m_limit(ring.m_linked), m_outer(ring.m_walks)
-{
-    ring.m_walks = this;
-}
-
 inline RingWalk::~RingWalk()
 {
     if (m_ring != nullptr) {
