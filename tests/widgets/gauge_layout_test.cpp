@@ -178,6 +178,22 @@ template <class Gauge> void ExpectPartialRepaints(float width, float height, flo
     gauge.Set(&ScaleGauge::SectionBandWidth, std::int16_t{9});
     ASSERT_EQ(areas.size(), 1U);
     EXPECT_EQ(areas[0], widget.Bounds());
+
+    // Where the pointer was is found anew behind another look, place and value: as by a gauge that is new.
+    const std::function<void()> changes[] = {[] {}, [&] { gauge.Set(&ScaleGauge::PointerSize, std::int16_t{40}); },
+                                             [&] { gauge.Set(&Widget::Left, 4500); },
+                                             [&] { gauge.Set(&Widget::Height, widget.Height() + 1500); }};
+    for (const auto& change : changes) {
+        gauge.Set(&ScaleGauge::Position, 50);
+        change();
+        auto& twin = static_cast<Gauge&>(canvas.AddArray("twins", gauge.Clone()).Load(1));
+        ASSERT_TRUE(twin.Visible());
+        areas.clear();
+        gauge.Set(&ScaleGauge::Position, 10);
+        const std::vector<Area> own = std::exchange(areas, {});
+        twin.Set(&ScaleGauge::Position, 10);
+        EXPECT_EQ(areas, own);
+    }
 }
 
 TEST(AGauge, RepaintsItsPointerAloneForAValue)
