@@ -31,7 +31,6 @@ class Outline {
 public:
     void Add(const Point& point) noexcept { m_points[m_count++] = point; }
     std::span<const Point> Points() const noexcept { return {m_points.data(), m_count}; }
-    Extent Bounds() const noexcept { return BoundsOf(Points()); }
     // As it is with so much more around it; sharp corners are cut off.
     Outline Grown(double margin) const noexcept;
 

@@ -147,7 +147,7 @@ TEST(AnAngularGauge, DrawsItsPointerBackWhereThereIsNoRoomBesideItsEnds)
     const auto reach = [&](std::int16_t range, double value) {
         gauge.Set(&AngularGauge::ArcRangeDegrees, range);
         gauge.Set(&ScaleGauge::Position, value);
-        return 50 - PointerOutline(gauge, ArcOf(gauge, 100, 100, 1)).Bounds().top;
+        return 50 - BoundsOf(PointerOutline(gauge, ArcOf(gauge, 100, 100, 1)).Points()).top;
     };
     EXPECT_NEAR(reach(360, 0), 40, 0.5);
     EXPECT_LT(reach(360, -1), 30);
